@@ -1,0 +1,33 @@
+// The spine: from the instance check over the load sequence to the order of shutdown.
+#pragma once
+
+#include <string>
+
+class DocumentWindow;
+
+namespace Mod_Main {
+
+// Process entry with the raw command line. False when this process must end at once because another
+// instance took over.
+bool Main(const std::string& commandLine);
+// The load sequence that the splash window shows.
+void Start();
+
+// Fills gCompilers and DefaultCompiler from Conf\compilers.dat; a missing file ends the process.
+void LoadCompilers();
+// Makes a compiler the active one and loads its keywords. False for an unknown name, which is reported.
+bool SetActiveCompiler(const std::string& name);
+
+// What another instance sent: "Aktiviraj", or a command line.
+void TextReceived(const std::string& text);
+
+// Places the main window from its section of the settings store, and keeps it there.
+void PlaceMainWindow();
+// The whole of shutdown; `cancel` becomes true when a document would not close.
+void QueryUnload(bool& cancel);
+// The save prompt of a document window that is about to hide.
+void DocumentWindowHiding(DocumentWindow& window, bool& cancel);
+// Keeps the last state of the main window that was not minimised.
+void Resized();
+
+} // namespace Mod_Main

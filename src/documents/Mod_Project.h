@@ -1,0 +1,26 @@
+// Project files: reading, opening, writing and closing.
+#pragma once
+
+#include "engine/ClsProject.h"
+
+#include <memory>
+#include <string>
+
+namespace Mod_Project {
+
+// Reads a .zpf into a project record; false when it is none. Missing members are dropped with a message.
+bool BuildProjectFromFile(const std::string& path, ClsProject& project);
+// Reads, checks and opens a project; an empty path asks for one. `fromWorkspace`: its windows are there.
+bool LoadProject(const std::string& path, bool fromWorkspace = false);
+// Writes the project's file and clears Dirty. A failed write is reported and leaves the old file.
+bool SaveProject(ClsProject& project);
+bool CloseProject(std::shared_ptr<ClsProject> project);
+// Insert by name, without regard to case, behind equal names.
+void DodajFileSorted(std::shared_ptr<clsFile> file, ClsProject& project);
+void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project);
+// The value of key="..." in a line, empty where it is not there.
+std::string Attribute(const std::string& line, const std::string& key);
+// A category's Name, FullPath and TreeParent from its AbsPath.
+void CompleteFolder(clsFolder& folder, const ClsProject& project);
+
+} // namespace Mod_Project

@@ -1,0 +1,42 @@
+// The event pipeline of one document: the only place where the edit control speaks to the engine.
+#pragma once
+
+#include "host/EditorView.h"
+
+#include <string>
+#include <vector>
+
+class frmDoc;
+
+class cSubclass : public EditorViewEvents {
+public:
+    explicit cSubclass(frmDoc& document) : mFrmDoc(document) {}
+
+    // Runs one notification as if its document were the active one, and restores what was active.
+    void OnNotify(const SciNotification& notification) override;
+    void OnSetFocus() override;
+    void OnKillFocus() override;
+    void OnDropFiles(const std::vector<std::string>& paths) override;
+
+    // Parses what waits without a caret move: before a project is loaded, before leaving a document.
+    void DeactivateCheck();
+
+private:
+    void Dispatch(const SciNotification& notification);
+    void StyleNeeded();
+    void SiblingPass();
+    void Painted();
+    void MarginClick(const SciNotification& notification);
+    void Modified(const SciNotification& notification);
+    void BeforeDelete(const SciNotification& notification, int start, int end);
+    void BeforeInsert(const SciNotification& notification, int start, int end);
+    void AfterInsert(const SciNotification& notification);
+    void UpdateUi();
+
+    void Snapshot(int line);
+    void Queue(int line);
+    void ParseQueue();
+    bool TakeBackUnparsed();
+
+    frmDoc& mFrmDoc;
+};

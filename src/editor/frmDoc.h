@@ -1,0 +1,50 @@
+// The document window's form: one open source file with its Scintilla view, its event pipeline and its
+// console runner.
+#pragma once
+
+#include "editor/cSubclass.h"
+#include "engine/DocumentRecord.h"
+#include "host/DockStudio.h"
+#include "host/EditorView.h"
+#include "host/StdShell.h"
+
+#include <memory>
+#include <string>
+
+class frmDoc : public DocumentRecord, public Form {
+public:
+    // Makes the view. Fails when the edit control cannot be had.
+    frmDoc();
+    ~frmDoc() override;
+
+    void* NativeWidget() override { return View->NativeWidget(); }
+
+    // Stores the display name, then sends all options and constants to the view, which must be the
+    // active one (SciWndData).
+    void Initialise(const std::string& filename);
+    // Starts the event pipeline. A second call changes nothing.
+    void SubClass();
+    void Redraw() { View->Redraw(); }
+
+    // A value that differs is stored and shown in the tab's caption.
+    void SetFilename(const std::string& name);
+    void SetFullFilename(const std::string& path) { FullFilename = path; }
+    void SetDirty(bool dirty);
+    bool CanUndo() const;
+    // Filename, with "*" behind it when dirty.
+    std::string Caption() const;
+
+    std::unique_ptr<EditorView> View;
+    std::unique_ptr<cSubclass> m_oSubclass;
+    std::unique_ptr<StdShell> ShellClass;
+
+private:
+    void RefreshCaption();
+};
+
+// The active document as the form that it is; null when there is none.
+frmDoc* ActiveForm();
+
+// Makes a document the one that all editor code works on: gActiveDoc, SciWndData and, when its project
+// is open, gCurrentProject.
+void MakeActive(frmDoc* document);

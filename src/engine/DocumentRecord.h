@@ -1,0 +1,53 @@
+// What the engine knows of a document: its names, its view, and the state of its pending edits.
+#pragma once
+
+#include "engine/Symbols.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+// The state of a document's edits between two parses.
+struct PipelineState {
+    // Marker handles of the lines that wait to be parsed, in the order in which they were queued.
+    std::vector<int> ParseNeeded;
+    std::string UnparsedText; // what the line UnparsedLine held when it was last parsed
+    int UnparsedLine = -1;    // the one line whose old symbols are still in the tables
+    bool mShowCallTip = false;
+    bool mLastOperationUndoRedo = false;
+    int mOldStartLine = -100; // first and last line of the last restyle; -100 forces the next one
+    int mOldEndLine = 0;
+    bool mJustActivated = false;
+    bool mJoinPending = false;
+    bool mSpaceTyped = false;
+    bool mForceColor = false;
+};
+
+struct DocumentRecord {
+    virtual ~DocumentRecord() = default;
+
+    std::intptr_t SciEdi_WndData = 0;
+    std::map<int, std::shared_ptr<ClsField>> tmpFields; // fields outside every type, by Handle
+    std::string PrjName;
+    std::string PrjFullPath;
+    bool SingleFile = false;
+    std::string FullFilename;
+    std::string Filename;
+    bool Dirty = false;
+    int Callback_OldLine = -1;
+    std::string CompilerUsed;
+    bool NewFile = false;
+    bool IsSnippet = false;
+    bool LfEnds = false; // the file that was read had only LF line ends
+    std::string m_strDocumentWindowID;
+    PipelineState State;
+};
+
+// The active document and its view. Written by the activation of a document; whoever works on another
+// document swaps and restores them.
+extern DocumentRecord* gActiveDoc;
+
+// An active document exists and its view is there.
+bool DocumentActive();

@@ -1,0 +1,18 @@
+// What the engine may ask of the floors above it. Empty by default: the engine works without an answer.
+#pragma once
+
+#include <functional>
+#include <string>
+
+struct EngineCalls {
+    // Asks for a completion list at the caret: of names, of type names, of labels, of a type's fields.
+    std::function<void()> Autocomplete;
+    std::function<void()> AutocompleteType;
+    std::function<void()> AutocompleteLabel;
+    std::function<void(const std::string& type, const std::string& typed)> AutocompleteBackSlash;
+    // Tells that the lists of the Code Explorer no longer agree with the tables.
+    std::function<void()> PuniLista;
+    // Begins and ends the wait cursor, on the screen and in the active view.
+    std::function<void(bool on)> WaitCursor;
+};
+extern EngineCalls gEngineCalls; // written by the wiring of the application alone

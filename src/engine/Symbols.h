@@ -1,0 +1,49 @@
+// The symbol records: one for each declared name, owned by the tables of a project. A record holds no
+// line number; its marker handle is asked for the line.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+class clsHash;
+
+// Value types of a name.
+enum : std::uint8_t { TipUnnamedType = 0, TipInteger = 1, TipFloat = 2, TipString = 3, TipCustom = 5 };
+
+// What every record has; the class name prefixes are those of the records.
+struct Symbol {
+    virtual ~Symbol() = default;
+
+    std::string Ime;             // the name as declared
+    int Handle = 0;              // of the marker on the declaring line
+    std::string File;            // Filename of its document
+    std::intptr_t SciWndData = 0; // its view
+
+    // Fields that not every class declares; those that do not, leave them at their defaults.
+    std::uint8_t Tip = TipInteger;
+    std::string Tajp;      // the type's name as written, with Tip 5
+    bool IsBBArray = false; // has a [...] part
+    std::string ArraySize; // from the bracket to its partner, as written
+};
+
+struct ClsFunkcija : Symbol {
+    ClsFunkcija();
+    std::int16_t VlezNum = 0; // number of parameters
+    std::string Help;         // the parameter text
+    std::shared_ptr<clsHash> Locals;
+};
+struct ClsGlobalVar : Symbol {};
+struct ClsLocalVar : Symbol {};
+struct ClsArrayVar : Symbol {};
+struct clsConstant : Symbol {};
+struct ClsType : Symbol {
+    ClsType();
+    std::shared_ptr<clsHash> Fields;
+};
+struct ClsField : Symbol {};
+struct clsLabel : Symbol {};
+struct clsInclude : Symbol {};
+
+// The name of the scope outside every function.
+inline constexpr const char* MainProgram = "*Main Program*";

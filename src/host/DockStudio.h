@@ -1,0 +1,160 @@
+// The frame of the main window: named commands in menus and bars, dock panes, tabbed document windows,
+// a status bar, and the arrangement of all of them in one layout file. It knows nothing of Blitz Basic.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// What a document window or a pane shows. The owner keeps it alive while it is attached.
+class Form {
+public:
+    virtual ~Form() = default;
+    virtual void* NativeWidget() = 0;
+};
+
+// A named command: a menu item, a button, a combo, a list of items or a status pane.
+class DockCommand {
+public:
+    virtual ~DockCommand() = default;
+
+    virtual const std::string& Name() const = 0;
+    virtual std::string Category() const = 0;
+    virtual void SetCategory(const std::string& category) = 0;
+    virtual std::string Caption() const = 0;
+    virtual void SetCaption(const std::string& caption) = 0;
+    virtual bool Enabled() const = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Checked() const = 0;
+    virtual void SetChecked(bool checked) = 0;
+    virtual bool Visible() const = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual void SetAutoRepeat(bool repeat) = 0; // of its first shortcut
+
+    // A combo's or a list's entries, and the text that stands in a combo or a status pane.
+    virtual void SetItems(const std::vector<std::string>& items) = 0;
+    virtual std::vector<std::string> Items() const = 0;
+    virtual std::string Text() const = 0;
+    virtual void SetText(const std::string& text) = 0;
+};
+
+// One tab of the document area, with a key that is its own.
+class DocumentWindow {
+public:
+    virtual ~DocumentWindow() = default;
+
+    virtual std::string Key() const = 0;
+    virtual void SetKey(const std::string& key) = 0;
+    virtual void SetCaption(const std::string& caption) = 0;
+    virtual Form* HostedForm() const = 0;
+    // Puts a form into the window; null takes out what was there.
+    virtual void Attach(Form* form) = 0;
+    virtual bool Visible() const = 0;
+    // Hiding asks DS_DocumentWindowHiding first; it stays visible where that was cancelled.
+    virtual void SetVisible(bool visible) = 0;
+    virtual void Activate() = 0;
+    // Whether it is the front window of its tab group.
+    virtual bool InFront() const = 0;
+};
+
+class DockPane {
+public:
+    virtual ~DockPane() = default;
+    virtual bool Visible() const = 0;
+    virtual bool AutoHidden() const = 0;
+    virtual void Show() = 0; // and gives it the focus
+    virtual void Hide() = 0;
+};
+
+class DockBar {
+public:
+    virtual ~DockBar() = default;
+    virtual bool Visible() const = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual void FocusFirstControl() = 0;
+};
+
+// What the frame tells its owner.
+class DockStudioEvents {
+public:
+    virtual ~DockStudioEvents() = default;
+
+    // A command was chosen. `item` is the index of a list command's entry, else -1.
+    virtual void DS_CommandClick(DockCommand& command, int item) = 0;
+    virtual void DS_ComboTextChanged(DockCommand& command) = 0;
+    virtual void DS_ComboTextCommitted(DockCommand& command) = 0;
+    // `creating`: the window is only being made.
+    virtual void DS_DocumentWindowActivate(DocumentWindow& window, bool creating) = 0;
+    virtual void DS_DocumentWindowDeactivate(DocumentWindow& window) = 0;
+    virtual void DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) = 0;
+    virtual void DS_DocumentWindowHidden(DocumentWindow& window) = 0;
+    // `place`: 1 inside the document, 3 on the tab. Pixels, of the view.
+    virtual void DS_DocumentWindowContextClick(DocumentWindow& window, int place, int x, int y,
+                                               bool& cancel) = 0;
+    virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
+    virtual void DS_PaneShown(const std::string& pane, bool shown) = 0;
+    // A shortcut is about to fire; when cancelled the key goes on to the focused widget.
+    virtual void DS_ShortcutFiring(DockCommand& command, bool& cancel) = 0;
+    virtual void DS_FilesDropped(const std::vector<std::string>& paths) = 0;
+    // The main window is asked to close.
+    virtual void DS_QueryUnload(bool& cancel) = 0;
+    virtual void DS_Resize() = 0;
+};
+
+// A place and state of the main window: twips; 0 normal, 1 minimised, 2 maximised.
+struct WindowPlace {
+    int top = 0;
+    int left = 0;
+    int width = 0;
+    int height = 0;
+    int state = 0;
+};
+
+class DockStudio {
+public:
+    virtual ~DockStudio() = default;
+
+    virtual void SetEvents(DockStudioEvents* events) = 0;
+
+    // Null for an unknown name.
+    virtual DockCommand* FindCommand(const std::string& name) = 0;
+    // Fails with FailureDuplicateKey when the name exists already.
+    virtual DockCommand& AddCommand(const std::string& name, const std::string& caption,
+                                    const std::string& category, bool isPopup) = 0;
+    virtual std::vector<DockCommand*> Commands() = 0;
+    // The index of a command in a bar or pop-up, -1 where it is not there.
+    virtual int IndexInBar(const std::string& bar, const std::string& command) = 0;
+    // Puts a command into a bar or pop-up; an index of -1 appends.
+    virtual void InsertIntoBar(const std::string& bar, const std::string& command, int index,
+                               bool beginGroup) = 0;
+    virtual DockBar* FindBar(const std::string& name) = 0;
+    virtual DockPane* FindPane(const std::string& name) = 0;
+    virtual void AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
+                            Form& form, bool addNew) = 0;
+    virtual void ShowPopup(const std::string& name) = 0; // at the mouse
+    virtual void FillPopup(const std::string& name, const std::vector<std::string>& commands) = 0; // "-" separates
+
+    // An empty key gets a unique id of 38 characters. Fails with FailureDuplicateKey for a key in use.
+    virtual DocumentWindow& AddDocumentWindow(const std::string& key, const std::string& caption,
+                                              Form* form) = 0;
+    // Null when no window has that key (compared without regard to case).
+    virtual DocumentWindow* FindDocumentWindow(const std::string& key) = 0;
+    virtual DocumentWindow* ActiveDocumentWindow() = 0;
+    virtual std::vector<DocumentWindow*> DocumentWindows() = 0;
+    // Takes a window away without asking and without events.
+    virtual void DropDocumentWindow(DocumentWindow& window) = 0;
+    virtual void NextTab(int step) = 0; // of the active tab group
+    virtual void NewTabGroup(bool vertical) = 0;
+
+    virtual void SuspendRepaint(bool suspend) = 0;
+
+    // The whole arrangement. Loading throws a Failure and changes nothing when the file is missing or
+    // damaged; saving throws when it could not be written.
+    virtual void LoadLayout(const std::string& path) = 0;
+    virtual void SaveLayout(const std::string& path) = 0;
+
+    virtual WindowPlace Place() = 0;
+    virtual void SetPlace(const WindowPlace& place) = 0;
+    virtual void ShowWindow() = 0;
+    virtual void BringToFront() = 0;
+    virtual void CloseWindow() = 0; // asks DS_QueryUnload
+};

@@ -1,0 +1,33 @@
+// The compile driver: saves what must be saved, calls the compiler, reads what it prints and puts the
+// caret on its error.
+#pragma once
+
+#include <string>
+
+namespace Mod_Compiler {
+
+// The path argument of the last Compile; the executable being built and whether one is. Written by
+// Compile, CheckForErrors and CreateExe alone.
+extern std::string gLastCompiledFile;
+extern bool gCreatingExe;
+extern std::string gTargetExe;
+
+// Each starts the compiler for the active document or project and answers false; output comes later.
+bool Compile(const std::string& path, bool debug);
+bool CheckForErrors(const std::string& path);
+bool CreateExe(const std::string& path);
+
+// Reads one error line of the compiler, opens its file, selects the place and shows the message.
+void ParseError(const std::string& line);
+
+// Has a compiler write its keyword file and loads it.
+void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath);
+
+// Activates the document of the last compile and compiles it again.
+void CompileLast();
+// Starts the executable that was built last.
+void RunLastCreated();
+// Kills the compiler or the program that the active document runs.
+void StopRunning();
+
+} // namespace Mod_Compiler
