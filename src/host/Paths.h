@@ -7,6 +7,8 @@
 
 // The program's name, in titles and as the application name of the settings store.
 inline constexpr std::string_view ProgramName = "Zolto";
+// Major, minor and revision, divided by points.
+inline constexpr std::string_view ProgramVersion = ZOLTO_VERSION;
 
 // The program directory, without a separator at its end. Written by SetAppDir alone.
 const std::string& AppDir();

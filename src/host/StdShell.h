@@ -52,6 +52,9 @@ private:
     void Report(const SystemError& error);
     void Split(const std::string& data, std::string& partial, const LineEvent& event);
 
+    // Becomes false when this object ends; event handlers may end it.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+    bool inTick_ = false;
     int timerId_ = 0;
     std::string command_;
     std::string pendingInput_;

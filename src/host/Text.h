@@ -1,0 +1,14 @@
+// Bytes of unknown origin as UTF-8, for whoever shows them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Whether the bytes are well-formed UTF-8: no overlong forms, no surrogates.
+bool IsUtf8(std::string_view bytes);
+
+// The bytes themselves where they are valid UTF-8, else each byte read as Windows-1252.
+std::string ToUtf8(std::string_view bytes);
+
+// UTF-8 as Windows-1252. False, with `bytes` left alone, when a character has no byte there.
+bool FromUtf8ToSingleBytes(std::string_view utf8, std::string& bytes);

@@ -1,0 +1,117 @@
+// What a command is in a tool bar or the status bar when it is more than a button.
+#include "host/qt/CommandWidgets.h"
+
+#include "host/qt/QtText.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QProgressBar>
+#include <QTime>
+#include <QTimer>
+
+namespace {
+
+constexpr int SideMargin = 6;
+constexpr int ClockMilliseconds = 1000;
+
+QWidget* MakeLabel(QtCommand& command, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setContentsMargins(SideMargin, 0, SideMargin, 0);
+    label->setTextFormat(Qt::PlainText);
+    label->setAccessibleName(command.PlainCaption());
+    // A long text must not force the window wider.
+    label->setMinimumWidth(std::max(1, command.Record().width));
+    const auto show = [&command, label] { label->setText(Shown(command.Text())); };
+    QObject::connect(&command, &QtCommand::TextShown, label, show);
+    show();
+    return label;
+}
+
+QWidget* MakeProgress(QtCommand& command, QWidget* parent) {
+    auto* bar = new QProgressBar(parent);
+    bar->setMaximumWidth(std::max(100, command.Record().width));
+    bar->setTextVisible(false);
+    bar->setAccessibleName(command.PlainCaption());
+    const auto show = [&command, bar] { bar->setValue(Shown(command.Text()).toInt()); };
+    QObject::connect(&command, &QtCommand::TextShown, bar, show);
+    show();
+    return bar;
+}
+
+QWidget* MakeClock(QtCommand& command, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setContentsMargins(SideMargin, 0, SideMargin, 0);
+    label->setAccessibleName(command.PlainCaption());
+    const auto show = [label] {
+        label->setText(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
+    };
+    auto* timer = new QTimer(label);
+    QObject::connect(timer, &QTimer::timeout, label, show);
+    timer->start(ClockMilliseconds);
+    show();
+    return label;
+}
+
+}
+
+CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* parent)
+    : QComboBox(parent), command_(command), table_(table) {
+    const LayoutCommand& record = command.Record();
+    setEditable(record.kind == CommandKind::EditCombo);
+    setInsertPolicy(QComboBox::NoInsert);
+    setMinimumWidth(record.width > 0 ? record.width : 160);
+    setAccessibleName(command.PlainCaption());
+    setToolTip(command.PlainCaption());
+    setFocusPolicy(isEditable() ? Qt::StrongFocus : Qt::ClickFocus);
+    if (isEditable()) {
+        lineEdit()->setPlaceholderText(command.PlainCaption());
+        setCompleter(nullptr);
+        connect(lineEdit(), &QLineEdit::editingFinished, this, [this] { Changed(true); });
+    }
+    connect(this, &QComboBox::activated, this, [this] { Changed(true); });
+    connect(this, &QComboBox::editTextChanged, this, [this] { Changed(false); });
+    connect(&command, &QtCommand::ItemsChanged, this, &CommandCombo::ShowItems);
+    connect(&command, &QtCommand::TextShown, this, &CommandCombo::ShowText);
+    connect(&command, &QtCommand::StateChanged, this, [this] { setEnabled(command_.Enabled()); });
+    ShowItems();
+}
+
+void CommandCombo::ShowItems() {
+    showing_ = true;
+    clear();
+    for (const std::string& item : command_.Items()) addItem(Shown(item));
+    showing_ = false;
+    ShowText();
+}
+
+void CommandCombo::ShowText() {
+    showing_ = true;
+    const QString text = Shown(command_.Text());
+    if (isEditable())
+        setEditText(text);
+    else
+        setCurrentIndex(findText(text));
+    showing_ = false;
+}
+
+void CommandCombo::Changed(bool committed) {
+    if (showing_) return;
+    const std::string text = Typed(currentText());
+    const bool differs = text != command_.Text();
+    if (differs) command_.SetText(text);
+    if (!table_.events) return;
+    if (differs) table_.events->DS_ComboTextChanged(command_);
+    if (committed) table_.events->DS_ComboTextCommitted(command_);
+}
+
+QWidget* MakeStatusWidget(QtCommand& command, QWidget* parent) {
+    QWidget* widget = command.Record().kind == CommandKind::Progress ? MakeProgress(command, parent)
+                      : command.Record().kind == CommandKind::Clock  ? MakeClock(command, parent)
+                                                                     : MakeLabel(command, parent);
+    QObject::connect(&command, &QtCommand::StateChanged, widget,
+                     [&command, widget] { widget->setVisible(command.Visible()); });
+    return widget;
+}
+
+#include "moc_CommandWidgets.cpp"

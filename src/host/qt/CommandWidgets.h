@@ -1,0 +1,27 @@
+// What a command is in a tool bar or the status bar when it is more than a button.
+#pragma once
+
+#include "host/qt/CommandTable.h"
+
+#include <QComboBox>
+
+// A combo box for a command. Picking or entering a text is told to the owner; a text that the program set
+// is only shown.
+class CommandCombo : public QComboBox {
+    Q_OBJECT
+
+public:
+    CommandCombo(QtCommand& command, CommandTable& table, QWidget* parent);
+
+private:
+    void ShowItems();
+    void ShowText();
+    void Changed(bool committed);
+
+    QtCommand& command_;
+    CommandTable& table_;
+    bool showing_ = false;
+};
+
+// The widget of a status command: a text, a progress bar or a clock.
+QWidget* MakeStatusWidget(QtCommand& command, QWidget* parent);

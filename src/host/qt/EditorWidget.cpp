@@ -1,0 +1,156 @@
+// The edit control as this program uses it.
+#include "host/qt/EditorWidget.h"
+
+#include "host/qt/QtText.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+
+namespace {
+
+// The notification codes of the edit control, by which the pipeline knows them.
+enum : int {
+    StyleNeeded = 2000,
+    CharAdded = 2001,
+    SavePointReached = 2002,
+    SavePointLeft = 2003,
+    DoubleClick = 2006,
+    UpdateUi = 2007,
+    Modified = 2008,
+    MarginClick = 2010,
+    NeedShown = 2011,
+    Painted = 2013,
+    AutoCSelection = 2022,
+    AutoCCancelled = 2025,
+};
+
+constexpr int Utf8CodePage = 65001;
+
+std::vector<std::string> LocalFiles(const QMimeData* dropped) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : dropped->urls())
+        if (url.isLocalFile()) paths.push_back(PathBytes(url.toLocalFile()));
+    return paths;
+}
+
+}
+
+EditorWidget::EditorWidget(QWidget* parent) : QsciScintillaBase(parent) {
+    setAccessibleName(tr("Source text"));
+    setFrameShape(QFrame::NoFrame);
+    SendScintilla(SCI_SETCODEPAGE, 0UL);
+    SendScintilla(SCI_USEPOPUP, 0UL);
+    // Painted straight to the screen: a buffer of its own would be in pixels of the wrong size where the
+    // display is scaled.
+    SendScintilla(SCI_SETBUFFEREDDRAW, 0UL);
+    ConnectNotifications();
+}
+
+bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf8CodePage; }
+
+void EditorWidget::Notify(const SciNotification& notification) {
+    if (events_) events_->OnNotify(notification);
+}
+
+void EditorWidget::ConnectNotifications() {
+    using Base = QsciScintillaBase;
+    connect(this, &Base::SCN_STYLENEEDED, this,
+            [this](int position) { Notify({.code = StyleNeeded, .position = position}); });
+    connect(this, &Base::SCN_CHARADDED, this, [this](int ch) { Notify({.code = CharAdded, .ch = ch}); });
+    connect(this, &Base::SCN_SAVEPOINTREACHED, this, [this] { Notify({.code = SavePointReached}); });
+    connect(this, &Base::SCN_SAVEPOINTLEFT, this, [this] { Notify({.code = SavePointLeft}); });
+    connect(this, &Base::SCN_UPDATEUI, this,
+            [this](int updated) { Notify({.code = UpdateUi, .updated = updated}); });
+    connect(this, &Base::SCN_PAINTED, this, [this] { Notify({.code = Painted}); });
+    connect(this, &Base::SCN_DOUBLECLICK, this, [this](int position, int line, int modifiers) {
+        Notify({.code = DoubleClick, .position = position, .modifiers = modifiers, .line = line});
+    });
+    connect(this, &Base::SCN_MARGINCLICK, this, [this](int position, int modifiers, int margin) {
+        Notify({.code = MarginClick, .position = position, .modifiers = modifiers, .margin = margin});
+    });
+    connect(this, &Base::SCN_NEEDSHOWN, this, [this](int position, int length) {
+        Notify({.code = NeedShown, .position = position, .length = length});
+    });
+    connect(this, qOverload<const char*, int, int, int>(&Base::SCN_AUTOCSELECTION), this,
+            [this](const char* text, int position, int ch, int) {
+                Notify({.code = AutoCSelection, .position = position, .ch = ch, .text = text});
+            });
+    connect(this, &Base::SCN_AUTOCCANCELLED, this, [this] { Notify({.code = AutoCCancelled}); });
+    // The after-change notifications come this way too. Their library's own work for screen readers hangs
+    // on the modification mask, and a view that narrows the mask hands those two on from here as well.
+    connect(this, &Base::SCN_MODIFIED, this,
+            [this](int position, int type, const char* text, int length, int linesAdded, int line,
+                   int foldNow, int foldBefore, int, int) {
+                Notify({.code = Modified,
+                        .position = position,
+                        .modificationType = type,
+                        .text = text,
+                        .length = length,
+                        .linesAdded = linesAdded,
+                        .line = line,
+                        .foldLevelNow = foldNow,
+                        .foldLevelPrev = foldBefore});
+            });
+    connect(this, &Base::SCN_FOCUSIN, this, [this] {
+        if (events_) events_->OnSetFocus();
+    });
+    connect(this, &Base::SCN_FOCUSOUT, this, [this] {
+        if (events_) events_->OnKillFocus();
+    });
+}
+
+bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
+
+QByteArray EditorWidget::fromMimeData(const QMimeData* source, bool& rectangular) const {
+    QByteArray bytes = QsciScintillaBase::fromMimeData(source, rectangular);
+    if (IsUtf8() || !source->hasText()) return bytes;
+    std::string single;
+    // The library writes "?" for what its narrower code page lacks.
+    if (FromUtf8ToSingleBytes(Typed(source->text()), single)) return QByteArray::fromStdString(single);
+    return bytes;
+}
+
+QMimeData* EditorWidget::toMimeData(const QByteArray& text, bool rectangular) const {
+    QMimeData* copied = QsciScintillaBase::toMimeData(text, rectangular);
+    if (!IsUtf8()) copied->setText(Shown(text.toStdString()));
+    return copied;
+}
+
+void EditorWidget::contextMenuEvent(QContextMenuEvent* event) { event->ignore(); }
+
+void EditorWidget::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+    else
+        QsciScintillaBase::dragEnterEvent(event);
+}
+
+void EditorWidget::dragMoveEvent(QDragMoveEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+    else
+        QsciScintillaBase::dragMoveEvent(event);
+}
+
+void EditorWidget::dropEvent(QDropEvent* event) {
+    if (!event->mimeData()->hasUrls()) return QsciScintillaBase::dropEvent(event);
+    event->acceptProposedAction();
+    const auto paths = LocalFiles(event->mimeData());
+    if (events_ && !paths.empty()) events_->OnDropFiles(paths);
+}
+
+void EditorWidget::keyPressEvent(QKeyEvent* event) {
+    const QString text = event->text();
+    const bool beyondLatin1 =
+        std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
+    if (IsUtf8() || !beyondLatin1) return QsciScintillaBase::keyPressEvent(event);
+    std::string bytes;
+    // A question mark in place of what was typed would be a silent loss.
+    if (!FromUtf8ToSingleBytes(Typed(text), bytes)) return QApplication::beep();
+    SendScintilla(SCI_REPLACESEL, bytes.c_str());
+    for (const char c : bytes) Notify({.code = CharAdded, .ch = static_cast<unsigned char>(c)});
+}
+
+#include "moc_EditorWidget.cpp"

@@ -1,0 +1,131 @@
+// Messages and questions in the desktop's own dialogs.
+#include "host/qt/QtDialogs.h"
+
+#include "host/Paths.h"
+#include "host/qt/QtText.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QRegularExpression>
+
+namespace {
+
+QWidget* Parent() {
+    if (QWidget* active = QApplication::activeModalWidget()) return active;
+    return QApplication::activeWindow();
+}
+
+QString Title(const std::string& title) { return Shown(title.empty() ? ProgramName : title); }
+
+QMessageBox::Icon Icon(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Information: return QMessageBox::Information;
+    case MessageIcon::Question: return QMessageBox::Question;
+    case MessageIcon::Exclamation: return QMessageBox::Warning;
+    case MessageIcon::Critical: return QMessageBox::Critical;
+    case MessageIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons Buttons(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageButtons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageButtons::Ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton DefaultButton(const Message& message) {
+    const bool asksYes =
+        message.buttons == MessageButtons::YesNo || message.buttons == MessageButtons::YesNoCancel;
+    switch (message.byDefault) {
+    case MessageAnswer::Yes: return QMessageBox::Yes;
+    case MessageAnswer::No: return QMessageBox::No;
+    case MessageAnswer::Cancel: return QMessageBox::Cancel;
+    case MessageAnswer::Ok: break;
+    }
+    return asksYes ? QMessageBox::Yes : QMessageBox::Ok;
+}
+
+// Where a file dialog starts: its folder, or where the last one ended, with the name in its box.
+QString StartPath(const FileQuestion& question, const QString& lastFolder) {
+    const QString name = PathText(question.fileName);
+    if (QFileInfo(name).isAbsolute()) return name;
+    const QString folder = question.folder.empty() ? lastFolder : PathText(question.folder);
+    return folder.isEmpty() ? name : folder + '/' + name;
+}
+
+}
+
+QString ToolkitFilter(const std::string& filter) {
+    const QStringList parts = Shown(filter).split('|');
+    QStringList converted;
+    for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
+        QStringList patterns = parts[at + 1].split(';', Qt::SkipEmptyParts);
+        for (QString& pattern : patterns) pattern = pattern.trimmed() == "*.*" ? "*" : pattern.trimmed();
+        QString label = parts[at];
+        label.remove(QRegularExpression("\\s*\\([^()]*\\)\\s*$"));
+        converted << label + " (" + patterns.join(' ') + ')';
+    }
+    return converted.join(";;");
+}
+
+MessageAnswer QtDialogs::Show(const Message& message) {
+    // The texts carry line ends of either kind; a box takes LF alone.
+    QString text = Shown(message.text);
+    text.replace("\r\n", "\n").replace('\r', '\n');
+    QMessageBox box(Icon(message.icon), Title(message.title), text, Buttons(message.buttons), Parent());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(DefaultButton(message));
+    switch (box.exec()) {
+    case QMessageBox::Yes: return MessageAnswer::Yes;
+    case QMessageBox::No: return MessageAnswer::No;
+    case QMessageBox::Cancel: return MessageAnswer::Cancel;
+    // A box with Yes and No alone has no other way out; closing it changes nothing.
+    case QMessageBox::Ok: return MessageAnswer::Ok;
+    default: return message.buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Cancel;
+    }
+}
+
+std::vector<std::string> QtDialogs::OpenFiles(const FileQuestion& question) {
+    const QString start = StartPath(question, lastFolder_);
+    const QString filter = ToolkitFilter(question.filter);
+    QStringList files;
+    if (question.multiple) {
+        files = QFileDialog::getOpenFileNames(Parent(), Title(question.title), start, filter);
+    } else if (const QString file =
+                   QFileDialog::getOpenFileName(Parent(), Title(question.title), start, filter);
+               !file.isEmpty()) {
+        files << file;
+    }
+    std::vector<std::string> paths;
+    for (const QString& file : files) paths.push_back(PathBytes(file));
+    if (!files.isEmpty()) lastFolder_ = QFileInfo(files.front()).path();
+    return paths;
+}
+
+std::string QtDialogs::SaveFile(const FileQuestion& question) {
+    const QString file = QFileDialog::getSaveFileName(
+        Parent(), Title(question.title), StartPath(question, lastFolder_), ToolkitFilter(question.filter));
+    if (!file.isEmpty()) lastFolder_ = QFileInfo(file).path();
+    return PathBytes(file);
+}
+
+std::string QtDialogs::Folder(const std::string& title, const std::string& start) {
+    return PathBytes(QFileDialog::getExistingDirectory(Parent(), Title(title), PathText(start)));
+}
+
+std::optional<std::string> QtDialogs::Input(const std::string& prompt, const std::string& title,
+                                            const std::string& preset) {
+    bool accepted = false;
+    const QString text = QInputDialog::getText(Parent(), Title(title), Shown(prompt), QLineEdit::Normal,
+                                               Shown(preset), &accepted);
+    if (!accepted) return {};
+    return Typed(text);
+}

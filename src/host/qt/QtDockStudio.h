@@ -1,0 +1,72 @@
+// The frame of the main window.
+#pragma once
+
+#include "host/DockStudio.h"
+#include "host/qt/CommandTable.h"
+#include "host/qt/Menus.h"
+#include "host/qt/QtBar.h"
+#include "host/qt/QtDocumentArea.h"
+#include "host/qt/QtPane.h"
+#include "host/qt/ShortcutFilter.h"
+#include "host/qt/StudioWindow.h"
+
+class QtDockStudio : public DockStudio {
+public:
+    QtDockStudio();
+    ~QtDockStudio() override;
+
+    void SetEvents(DockStudioEvents* events) override;
+    DockCommand* FindCommand(const std::string& name) override;
+    DockCommand& AddCommand(const std::string& name, const std::string& caption, const std::string& category,
+                            bool isPopup) override;
+    std::vector<DockCommand*> Commands() override;
+    int IndexInBar(const std::string& bar, const std::string& command) override;
+    void InsertIntoBar(const std::string& bar, const std::string& command, int index,
+                       bool beginGroup) override;
+    DockBar* FindBar(const std::string& name) override;
+    DockPane* FindPane(const std::string& name) override;
+    void AttachPane(const std::string& name, const std::string& caption, const std::string& icon, Form& form,
+                    bool addNew) override;
+    void ShowPopup(const std::string& name) override;
+    void FillPopup(const std::string& name, const std::vector<std::string>& commands) override;
+
+    DocumentWindow& AddDocumentWindow(const std::string& key, const std::string& caption,
+                                      Form* form) override;
+    DocumentWindow* FindDocumentWindow(const std::string& key) override;
+    DocumentWindow* ActiveDocumentWindow() override;
+    std::vector<DocumentWindow*> DocumentWindows() override;
+    void DropDocumentWindow(DocumentWindow& window) override;
+    void NextTab(int step) override;
+    void NewTabGroup(bool vertical) override;
+    void SuspendRepaint(bool suspend) override;
+
+    void LoadLayout(const std::string& path) override;
+    void SaveLayout(const std::string& path) override;
+    WindowPlace Place() override;
+    void SetPlace(const WindowPlace& place) override;
+    void ShowWindow() override;
+    void BringToFront() override;
+    void CloseWindow() override;
+
+    QMainWindow& Window() { return window_; }
+
+private:
+    LayoutEntries* EntriesOf(const std::string& bar);
+    QtBar* Bar(const std::string& name);
+    QtPane* Pane(const std::string& name);
+    void Apply(const Layout& layout);
+    void AddPane(const LayoutPane& record);
+    void EntriesChanged(const std::string& bar);
+
+    StudioWindow window_;
+    CommandTable table_;
+    Menus menus_;
+    QtDocumentArea* area_;
+    ShortcutFilter filter_;
+    std::vector<std::unique_ptr<QtBar>> bars_;
+    std::vector<std::unique_ptr<QtPane>> panes_;
+    std::vector<std::string> start_;
+    DockStudioEvents* events_ = nullptr;
+    int wantedState_ = 0;
+    int suspended_ = 0;
+};

@@ -1,0 +1,27 @@
+// The main window itself: it asks before it closes, and takes dropped files.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <string>
+#include <vector>
+
+class StudioWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    StudioWindow();
+
+    std::function<bool()> mayClose;
+    std::function<void()> resized;
+    std::function<void(const std::vector<std::string>& paths)> dropped;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    // The toolkit's own menu of bars and panes would change the arrangement behind the commands' back.
+    QMenu* createPopupMenu() override { return nullptr; }
+};

@@ -1,0 +1,19 @@
+// One group of tabs in the document area.
+#pragma once
+
+#include <QTabWidget>
+
+class TabGroup : public QTabWidget {
+    Q_OBJECT
+
+public:
+    explicit TabGroup(QWidget* parent = nullptr);
+
+signals:
+    void CloseAsked(QWidget* page);
+    void TabDoubleClicked(QWidget* page);
+    void TabContextAsked(QWidget* page, const QPoint& global);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
