@@ -32,8 +32,8 @@ namespace {
 constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr std::size_t ShortestNamedPath = 3; // such a path is tried whatever its extension
 
-constexpr const char* OpenFilter =
-    "All Supported Formats|*.bb;*.zpf|Zolto Project Files (*.zpf)|*.zpf|Blitz Basic File (*.bb)|*.bb|All Files|*.*";
+constexpr const char* OpenFilter = "All Supported Formats|*.bb;*.zpf|Zolto Project Files (*.zpf)|*.zpf|Blitz "
+                                   "Basic File (*.bb)|*.bb|All Files|*.*";
 
 class WaitCursor {
 public:
@@ -121,8 +121,7 @@ std::shared_ptr<frmDoc> ReadDocument(const std::string& path, std::string& reaso
 }
 
 void BindWindow(frmDoc& document, bool documentWindow) {
-    DocumentWindow* window =
-        documentWindow ? gHost.dock->FindDocumentWindow(document.FullFilename) : nullptr;
+    DocumentWindow* window = documentWindow ? gHost.dock->FindDocumentWindow(document.FullFilename) : nullptr;
     if (window != nullptr)
         window->Attach(&document);
     else
@@ -133,7 +132,8 @@ void BindWindow(frmDoc& document, bool documentWindow) {
 
 // Parses the active document's lines with nothing listening, and then starts listening. No change of the
 // text enters the undo history.
-template <class Parse> void ParseUnheard(frmDoc& document, Parse parse) {
+template <class Parse>
+void ParseUnheard(frmDoc& document, Parse parse) {
     Mod_Sci::SetModEventMask(0);
     Mod_Sci::SetUndoCollection(0);
     parse();
@@ -144,7 +144,8 @@ template <class Parse> void ParseUnheard(frmDoc& document, Parse parse) {
     document.SubClass();
 }
 
-std::shared_ptr<ClsProject> AddSingleProject(const std::string& name, const std::shared_ptr<frmDoc>& document) {
+std::shared_ptr<ClsProject> AddSingleProject(const std::string& name,
+                                             const std::shared_ptr<frmDoc>& document) {
     auto project = std::make_shared<ClsProject>();
     project->Name = name;
     project->FullPath = name;
@@ -166,7 +167,8 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
         document = ReadDocument(path, reason);
     }
     if (!document) {
-        gHost.dialogs->Show({"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+        gHost.dialogs->Show(
+            {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
         return false;
     }
     const auto project = AddSingleProject(path, document);

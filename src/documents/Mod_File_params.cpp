@@ -66,7 +66,8 @@ std::optional<std::string> MarkedLines(int marker, std::string_view prefix, int 
     }
 }
 
-template <class Visit> void ForEachEntry(std::string_view text, Visit visit) {
+template <class Visit>
+void ForEachEntry(std::string_view text, Visit visit) {
     const int lines = static_cast<int>(Mod_Sci::GetLineCount());
     for (std::size_t at = text.find('#'); at != std::string_view::npos;) {
         const std::size_t next = text.find('#', at + 1);
@@ -88,7 +89,8 @@ bool ApplyLine(const std::string& text) {
         ForEachEntry(text, [](int line) { Mod_Sci::MarkerAdd(line, MarkerBookmark); });
     } else if (kind == ";~L#") {
         // Without its line end: what stayed in it would be written back and end the block early.
-        if (gCurrentProject->SingleFile) gCurrentProject->CommandLine = text.substr(4, text.find_last_not_of("\r\n") - 3);
+        if (gCurrentProject->SingleFile)
+            gCurrentProject->CommandLine = text.substr(4, text.find_last_not_of("\r\n") - 3);
     } else if (kind != ";~C#") {
         return false;
     }
@@ -107,7 +109,8 @@ std::string GetFileParameters() {
             block += *folds;
         }
         if (OptionsEdit::SaveBookmarks) {
-            const auto marks = MarkedLines(MarkerBookmark, ";~B", MostBookmarkLines, [](int) { return true; });
+            const auto marks =
+                MarkedLines(MarkerBookmark, ";~B", MostBookmarkLines, [](int) { return true; });
             if (!marks) return {};
             block += *marks;
         }

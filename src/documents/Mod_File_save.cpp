@@ -175,7 +175,8 @@ bool SaveProjectFiles() {
         const auto project = gCurrentProject;
         if (!project) return true;
         std::vector<frmDoc*> documents; // a new name moves its entry, so the list is taken first
-        for (const auto& source : project->Sources) documents.push_back(static_cast<frmDoc*>(source.record.get()));
+        for (const auto& source : project->Sources)
+            documents.push_back(static_cast<frmDoc*>(source.record.get()));
         gHost.desktop->LockWindowUpdate(true);
         for (frmDoc* document : documents)
             if (document->Dirty) SaveFile(document);

@@ -29,13 +29,15 @@ public:
         rest_.remove_prefix(count);
         return taken;
     }
-    template <class Number> Number Take() {
+    template <class Number>
+    Number Take() {
         const std::string_view bytes = Take(sizeof(Number));
         std::uint32_t value = 0;
         for (std::size_t i = bytes.size(); i-- > 0;) value = value << 8 | static_cast<std::uint8_t>(bytes[i]);
         return static_cast<Number>(value);
     }
-    template <class Array> void Fill(Array& array) {
+    template <class Array>
+    void Fill(Array& array) {
         for (auto& element : array) element = Take<typename Array::value_type>();
     }
     std::string_view Rest() const { return rest_; }
@@ -44,12 +46,14 @@ private:
     std::string_view rest_;
 };
 
-template <class Number> void Put(std::string& bytes, Number number) {
+template <class Number>
+void Put(std::string& bytes, Number number) {
     for (std::size_t i = 0; i < sizeof(Number); ++i)
         bytes += static_cast<char>(static_cast<std::uint32_t>(number) >> (8 * i) & 0xFF);
 }
 
-template <class Array> void PutAll(std::string& bytes, const Array& array) {
+template <class Array>
+void PutAll(std::string& bytes, const Array& array) {
     for (const auto& element : array) Put(bytes, element);
 }
 
@@ -98,7 +102,8 @@ std::string LoadStyle(const std::string& name) {
     return Guarded("LoadStyle", "Mod_File", std::string(), [&]() -> std::string {
         std::string loaded = name;
         if (gHost.files->Kind(StylePath(loaded)) != PathKind::File) {
-            Show("Specified Style Not Found:\r\n" + StylePath(loaded) + "\r\nPress Ok to load the Default Style...",
+            Show("Specified Style Not Found:\r\n" + StylePath(loaded) +
+                     "\r\nPress Ok to load the Default Style...",
                  MessageIcon::Exclamation);
             if (EqualNoCase(loaded, OptionsEdit::SciStyleName)) {
                 OptionsEdit::SciStyleName = "Default";

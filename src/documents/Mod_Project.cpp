@@ -102,7 +102,8 @@ void OpenMembers(ClsProject& project, bool fromWorkspace) {
     for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
     for (const std::string& path : paths)
         if (!Mod_File::OpenProjectsFile(path, fromWorkspace))
-            gHost.dialogs->Show({"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+            gHost.dialogs->Show(
+                {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
     gHost.desktop->SetWaitCursor(false);
 }
 
@@ -216,11 +217,11 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         }
         if (!fromWorkspace) {
             if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
-                gHost.dialogs->Show({"Some of the files in this project are already opened in Zolto as single file "
-                                     "or as part of another project:\r\n" +
-                                         open +
-                                         "\r\nSorry, in this release you can't have same file opened multiple times",
-                                     MessageIcon::Exclamation, "Project loading aborted..."});
+                gHost.dialogs->Show(
+                    {"Some of the files in this project are already opened in Zolto as single file "
+                     "or as part of another project:\r\n" +
+                         open + "\r\nSorry, in this release you can't have same file opened multiple times",
+                     MessageIcon::Exclamation, "Project loading aborted..."});
                 return false;
             }
         }
@@ -242,10 +243,12 @@ bool SaveProject(ClsProject& project) {
         std::string text = std::string(Header) + "\r\n<Settings>\r\n";
         text += Value("Version", "1") + "\r\n" + Value("Expanded", Boolean(project.Expanded)) + "\r\n" +
                 Value("Icon", project.Icon) + "\r\n" + Value("MainFile", project.MainFile) + "\r\n" +
-                Value("Compiler", project.Compiler) + "\r\n" + Value("CommandLine", project.CommandLine) + "\r\n";
+                Value("Compiler", project.Compiler) + "\r\n" + Value("CommandLine", project.CommandLine) +
+                "\r\n";
         text += "</Settings>\r\n<Folders>\r\n";
         for (const auto& entry : project.Folders)
-            text += Value("AbsPath", entry.record->AbsPath) + Value("Expanded", Boolean(entry.record->Expanded)) + "\r\n";
+            text += Value("AbsPath", entry.record->AbsPath) +
+                    Value("Expanded", Boolean(entry.record->Expanded)) + "\r\n";
         text += "</Folders>\r\n<Files>\r\n";
         for (const auto& entry : project.Files) {
             const clsFile& file = *entry.record;

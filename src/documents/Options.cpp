@@ -138,7 +138,8 @@ int ToNumber(const std::string& key, const std::string& text) {
 
 // A key that holds no number keeps the value it has, and the others are still read.
 template <class Numbers, class Texts>
-void Load(const char* section, const char* routine, const char* module, const Numbers& numbers, const Texts& texts) {
+void Load(const char* section, const char* routine, const char* module, const Numbers& numbers,
+          const Texts& texts) {
     for (const NumberKey& row : numbers)
         Guarded(routine, module, [&] {
             const std::string text = gHost.settings->Get(section, row.key, std::to_string(*row.value));
