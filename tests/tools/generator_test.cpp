@@ -71,7 +71,7 @@ TEST(Generator, DependsOnNothingButItsOptions) {
     EXPECT_EQ(program(2000, 5), program(2000, 5));
     EXPECT_NE(program(2000, 5), program(2000, 6));
     // Measurements name a program by its options: a change of these bytes makes old numbers incomparable.
-    EXPECT_EQ(fnv1a(program(2000, 5)), 12701733750909627331u);
+    EXPECT_EQ(fnv1a(program(2000, 5)), 10417548022633915275u);
 }
 
 TEST(Generator, EndsLinesAsAsked) {

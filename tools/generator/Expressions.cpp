@@ -167,7 +167,7 @@ std::string Expressions::condition(const Scope& scope, int depth) {
         return cat({condition(scope, depth - 1), joint, condition(scope, depth - 1)});
     }
     const int roll = random.from(1, 10);
-    if (roll == 1) return cat({"Not ", name(Kind::Int, scope)});
+    if (roll == 1) return cat({"(Not ", name(Kind::Int, scope), ")"});
     if (roll == 2)
         return cat({name(Kind::Text, scope), random.percent(50) ? " = " : " <> ", literal(Kind::Text)});
     const Kind kind = roll < 5 ? Kind::Float : Kind::Int;
