@@ -3,6 +3,8 @@ Type Actor
 	Field name$
 	Field x#, y#
 	Field speed#
+	Field key			; for a sorted list
+	Field dead			; is to be removed
 End Type
 
 Function CreateActor.Actor(name$, x#, y#, speed# = 1.0)
