@@ -13,6 +13,8 @@ Const CompaniesMax = 3
 Const RockClasses = 4
 Const ToolsMax = 3
 Const DepthsMax = 3
+Const SamplesMax = 200		; of a company's worth, over the season
+Const SampleEvery = 5		; days
 Const HistoryDays = 8		; a power of two, see RecordPrices
 Const RocksInBelt = 6
 
@@ -78,7 +80,7 @@ Const ReportEvery = 30
 Const MostLinesADay = 6		; the rest of a busy day is only counted
 
 Const FuelPerUnit# = .9		; tons of fuel for one unit of distance
-Const MinePerDay# = 14.		; tons that a captain without skill brings up in a day
+Const MinePerDay# = 9.		; tons that a captain without skill brings up in a day
 Const WageADay = 18
 Const DockFee = 40
 Const RepairPrice = 25		; for one point of hull
@@ -86,6 +88,7 @@ Const InterestADay# = .0004
 Const MostDebt = 15000
 Const RescuePrice = 1200
 Const PirateShare# = .6		; of the cargo
+Const FleeBurns# = .15		; of a full tank
 
 Const PriceFloor# = .35		; of the base price
 Const PriceCeiling# = 3.2
@@ -129,6 +132,9 @@ Dim priceHistory#(SystemsMax, GoodsMax, HistoryDays - 1)
 
 ; Part of a ton of rock that is ore, by class of rock, tool, depth and ore
 Dim oreYield#(RockClasses, ToolsMax, DepthsMax, OresMax)
+
+; Worth of each company over the season
+Dim worthHistory(CompaniesMax, SamplesMax)
 
 ; Scratch table for the reports
 Dim rankName$(CompaniesMax)

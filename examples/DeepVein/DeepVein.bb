@@ -51,6 +51,7 @@ While today < seasonDays
 	UpdateCompanies()
 	UpdateShips()
 	RecordPrices()
+	RecordWorth()
 	If today Mod ReportEvery = 0 Then PrintMonth()
 Wend
 
@@ -175,5 +176,5 @@ End Function
 Include "Tables.bb"
 
 ;~Zolto Editor Parameters:
-;~B#2C#80
+;~B#2C#81
 ;~C#ZoltoBasic

@@ -166,6 +166,7 @@ End Function
 ; Every ship sells what it has, as if it were in port where it was last.
 Function SellEverything()
 	Local ship.Ship, firm.Company
+	linesToday = 0
 	For ship = Each Ship
 		If ship\state <> ShipLost
 			If ship\state = ShipMining Then StopMining(ship)
@@ -182,6 +183,7 @@ Function PrintSummary()
 	Print Centred$("The season is over", PageWidth)
 	Print Ruler$(PageWidth, "=")
 	PrintRanking()
+	PrintChart()
 	PrintShips()
 	PrintBelts()
 	PrintGoods()
@@ -326,6 +328,96 @@ Function PrintBusiestPort()
 		If star\visits > best\visits Then best = star
 	Next
 	Print "The busiest port was " + best\name + " with " + Counted$(best\visits, "arrival") + " and " + Credits$(best\station\turnover) + " of trade."
+End Function
+
+;[End Block]
+
+;[Block] The chart
+
+Const ChartHeight = 12
+Const ChartWidth = 60
+
+; Takes a sample of what every company is worth. The first one is of the first day.
+Function RecordWorth()
+	Local firm.Company, sample
+	If today Mod SampleEvery <> 1 Then Return
+	sample = today / SampleEvery
+	If sample > SamplesMax Then Return
+	For firm = Each Company
+		worthHistory(firm\index, sample) = NetWorth(firm)
+	Next
+End Function
+
+; Draws the worth of all companies over the season. Each has a letter of its name as its mark; where two of
+; them meet there is a star.
+Function PrintChart()
+	Local row, column, samples = (today - 1) / SampleEvery
+	Local highest, lowest, span#
+	If samples < 2 Then Return
+	samples = Lesser(samples, SamplesMax)
+	highest = ExtremeWorth(samples, True)
+	lowest = ExtremeWorth(samples, False)
+	span = Greater(1, highest - lowest)
+
+	Print ""
+	Print "Worth in thousands, over the season (" + ChartLegend$() + ")"
+	For row = ChartHeight To 0 Step -1
+		If row Mod 3 = 0
+			Write RightColumn$(Fixed$((lowest + span * row / ChartHeight) / 1000, 0), 7) + " |"
+		Else
+			Write String$(" ", 7) + " |"
+		EndIf
+		For column = 0 To ChartWidth - 1
+			Write ChartMark$(row, column * samples / ChartWidth, lowest, span)
+		Next
+		Print ""
+	Next
+	Print String$(" ", 8) + "+" + Ruler$(ChartWidth)
+End Function
+
+; The mark at a place of the chart.
+Function ChartMark$(row, sample, lowest, span#)
+	Local firm.Company, mark$ = " "
+	Local height
+	For firm = Each Company
+		height = Int(Floor((worthHistory(firm\index, sample) - lowest) / span * ChartHeight + .5))
+		If height = row
+			If mark = " " Then mark = CompanyMark$(firm) Else mark = "*"
+		EndIf
+	Next
+	Return mark
+End Function
+
+; The first letter of the last word of its name.
+Function CompanyMark$(firm.Company)
+	Local rest$ = firm\name, word$
+	While rest <> ""
+		word = FirstWord$(rest)
+		rest = Trim$(AfterFirstWord$(rest))
+	Wend
+	Return Left$(word, 1)
+End Function
+
+Function ChartLegend$()
+	Local firm.Company, list$
+	For firm = Each Company
+		list = AppendToList$(list, CompanyMark$(firm) + " " + firm\name)
+	Next
+	Return list
+End Function
+
+Function ExtremeWorth(samples, highest)
+	Local number, sample, best = worthHistory(1, 0)
+	For number = 1 To CompaniesMax
+		For sample = 0 To samples
+			If highest
+				best = Greater(best, worthHistory(number, sample))
+			Else
+				best = Lesser(best, worthHistory(number, sample))
+			EndIf
+		Next
+	Next
+	Return best
 End Function
 
 ;[End Block]

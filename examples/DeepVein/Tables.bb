@@ -85,13 +85,13 @@ Data 14, 8, 10, 2, 0
 .SystemTable
 Data "Meridian", 0.0, 0.0, 420, 1.4, .004
 Data "Tamsin", 9.5, 3.0, 180, 1.1, .01
-Data "Orrery", -7.0, 5.5, 240, 1.2, .01
-Data "Cobalt", 4.0, -8.0, 90, .8, .02
-Data "Lowell", -5.0, -7.5, 40, .7, .025
+Data "Orrery", -7.0, 5.5, 240, 1.2, .012
+Data "Cobalt", 4.0, -8.0, 90, .8, .03
+Data "Lowell", -5.0, -7.5, 40, .7, .04
 Data "Haven", 12.5, -4.5, 310, 1.35, .012
-Data "Splinter", -13., -1.0, 25, .6, .04
-Data "Ember", 2.5, 11.0, 70, .85, .03
-Data "Farside", 16., 9.0, 35, .75, .05
+Data "Splinter", -13., -1.0, 25, .6, .07
+Data "Ember", 2.5, 11.0, 70, .85, .045
+Data "Farside", 16., 9.0, 35, .75, .08
 
 ;[End Block]
 
@@ -100,8 +100,8 @@ Data "Farside", 16., 9.0, 35, .75, .05
 
 .BeltTable
 Data "Cobalt Ring", 4, 2, 1.0, 1
-Data "Lowell Shoals", 5, 3, 1.1, 1
-Data "Outer Lowell", 5, 1, .9, 1
+Data "Lowell Shoals", 5, 3, 1.8, 1
+Data "Outer Lowell", 5, 1, 1.5, 1
 Data "The Splinters", 7, 2, 1.3, 1
 Data "Ash Drift", 8, 4, 1.1, 1
 Data "Farside Deep", 9, 4, 1.4, 2

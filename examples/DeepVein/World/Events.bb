@@ -136,12 +136,12 @@ Function Encounter(ship.Ship)
 	Local strength
 	If Not Chance(RouteDanger(ship\place, ship\goal)) Then Return
 	attacks = attacks + 1
-	strength = Dice(2, 4)
+	strength = Dice(3, 4)
 
 	; Fleeing
 	If captain\nerve < 6 And SkillTest(captain\flying, strength - 1)
 		Note(ship\name + " slips away from pirates", LogDetail)
-		ship\fuel = Greater2(0, ship\fuel - 2)
+		ship\fuel = Greater2(0, ship\fuel - ship\hull\tank * FleeBurns)
 		Return
 	EndIf
 
@@ -151,7 +151,7 @@ Function Encounter(ship.Ship)
 		ship\damage = ship\damage + Rand(0, 4)
 		captain\experience = captain\experience + 5
 	Else
-		ship\damage = ship\damage + Dice(3, 6)
+		ship\damage = ship\damage + Dice(4, 8)
 		If ship\damage >= ship\hull\strength
 			LoseShip(ship)
 		Else
