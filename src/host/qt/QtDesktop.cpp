@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFontDatabase>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
@@ -84,6 +85,28 @@ ScreenSize QtDesktop::Screen() {
     if (!screen) return {};
     return {screen->availableVirtualGeometry().width() * TwipsPerPixel,
             screen->availableVirtualGeometry().height() * TwipsPerPixel};
+}
+
+// Asking the font data base is slow, so each name is asked once.
+std::string QtDesktop::FontFor(const std::string& name) {
+    static std::map<std::string, std::string> known;
+    const auto at = known.find(name);
+    if (at != known.end()) return at->second;
+    QStringList wanted{QString::fromStdString(name),
+                       "DejaVu Sans Mono",
+                       "Noto Sans Mono",
+                       "Liberation Mono",
+                       "Ubuntu Mono",
+                       "Hack",
+                       "FreeMono"};
+    wanted << QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    QString found = wanted.last();
+    for (const QString& family : wanted) {
+        if (!QFontDatabase::hasFamily(family)) continue;
+        found = family;
+        break;
+    }
+    return known[name] = found.toStdString();
 }
 
 std::string QtDesktop::Date() { return Typed(QDate::currentDate().toString(Qt::ISODate)); }
