@@ -94,6 +94,18 @@ std::string findFile(const std::string& path) {
     return found;
 }
 
+std::string targetPath(const std::string& path) {
+    std::string found = findFile(path);
+    if (!found.empty()) return found;
+    std::string wanted = path;
+    for (char& c : wanted)
+        if (c == '\\') c = '/';
+    const size_t slash = wanted.rfind('/');
+    if (slash == std::string::npos) return wanted;
+    found = findFile(wanted.substr(0, slash));
+    return found.empty() ? wanted : found + wanted.substr(slash);
+}
+
 bool Sources::loadMain(const std::string& path, std::string& reason) {
     const std::string found = findFile(path);
     if (found.empty()) return reason = "File not found", false;

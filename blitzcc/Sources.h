@@ -22,6 +22,9 @@ bool readFile(const std::string& path, std::string& text, std::string& reason);
 /// of its components; backslashes count as separators. Empty if there is none.
 std::string findFile(const std::string& path);
 
+/// The path for a file that may have to be made: as findFile, or its name in the folder found for it.
+std::string targetPath(const std::string& path);
+
 /// An absolute path without . and .. components.
 std::string absolutePath(const std::string& path);
 
