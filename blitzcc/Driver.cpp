@@ -130,7 +130,8 @@ Code compile(Sources& sources, const std::string& folder) {
     Symbols symbols;
     const Program program = Parser(sources, symbols).parse();
     Decls decls;
-    decls.readFolder(folder);
+    if (!sources.isBundle()) sources.setLibraries(Decls::folderText(folder));
+    decls.readText(sources.libraries());
     return Generator(program, symbols, decls).generate();
 }
 

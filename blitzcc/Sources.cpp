@@ -154,6 +154,8 @@ std::string Sources::pack() const {
             putNumber(bytes, static_cast<uint32_t>(text.size()));
             bytes += text;
         }
+    putNumber(bytes, static_cast<uint32_t>(libraries_.size()));
+    bytes += libraries_;
     putNumber(bytes, static_cast<uint32_t>(log_.size()));
     for (const int answer : log_) putNumber(bytes, static_cast<uint32_t>(answer));
     return bytes;
@@ -167,6 +169,7 @@ bool Sources::unpack(std::string_view bytes) {
         if (!takeText(bytes, file.path) || !takeText(bytes, file.text)) return false;
         files_.push_back(std::move(file));
     }
+    if (!takeText(bytes, libraries_)) return false;
     if (!takeNumber(bytes, count) || bytes.size() != size_t{count} * 4) return false;
     for (uint32_t answer = 0; takeNumber(bytes, answer);) {
         if (static_cast<int>(answer) >= static_cast<int>(files_.size())) return false;

@@ -122,12 +122,14 @@ TEST_F(DriverTest, DamagedBundlesAreRefused) {
     Sources sources;
     std::string reason;
     ASSERT_TRUE(sources.loadMain(folder_ + "/main.bb", reason));
-    compile(sources, {});
+    put("libs/a.decls", ".lib \"a\"\nApiOne(x)\n");
+    compile(sources, folder_ + "/libs");
     const std::string bytes = sources.pack();
     Sources again;
     ASSERT_TRUE(again.unpack(bytes));
     ASSERT_EQ(again.files().size(), 2u);
     EXPECT_EQ(again.files()[1].text, "Print 1\n");
+    EXPECT_EQ(again.libraries(), ".lib \"a\"\nApiOne(x)\n\n");
     EXPECT_EQ(again.include("b.bb", 0, reason), 1);
     EXPECT_EQ(again.include("b.bb", 0, reason), -1);
     for (const size_t length : {size_t{0}, size_t{3}, bytes.size() / 2, bytes.size() - 1})
