@@ -35,7 +35,7 @@ std::string withoutColons(std::string text) {
 
 std::string libraryFolder() {
     if (const char* const path = std::getenv("BLITZPATH"); path && *path) {
-        const std::string folder = findFile(std::string(path) + "/userlibs");
+        std::string folder = findFile(std::string(path) + "/userlibs");
         if (!folder.empty()) return folder;
     }
     const auto bin = std::filesystem::path(ownPath()).parent_path();

@@ -122,7 +122,7 @@ std::string Sources::resolve(std::string_view name, uint32_t fromFile) const {
     if (!wanted.empty() && wanted[0] == '/') return findFile(wanted);
     for (const uint32_t base : {fromFile, 0u}) {
         const std::string folder = fs::path(files_[base].path).parent_path().string();
-        const std::string found = findFile(folder + "/" + wanted);
+        std::string found = findFile((fs::path(folder) / wanted).string());
         if (!found.empty()) return found;
     }
     return {};
