@@ -15,7 +15,7 @@ struct DocumentCalls {
     std::function<void()> BeginClosing;
     std::function<void(const std::string& path)> OpenBrowser;
     std::function<void(const std::string& text)> SplashStatus; // shows a line on the splash window
-    std::function<void()> CreateMainWindow;                     // its Form_Load runs
+    std::function<void()> CreateMainWindow;                    // its Form_Load runs
     std::function<void()> ShowMainWindow;
     std::function<bool()> StrictModeChecked;
 };

@@ -7,6 +7,14 @@
 #include <vector>
 
 class frmDoc;
+struct PipelineState;
+
+// An undo action is open and is closed at the next SCN_UPDATEUI. A user's edit happened since the last one.
+// A long change put up the wait cursor. All written by the pipeline alone; the activation of a document
+// clears the first.
+extern bool gUndoGroupOpen;
+extern bool gUserEdited;
+extern bool gWaitCursor;
 
 class cSubclass : public EditorViewEvents {
 public:
@@ -33,10 +41,14 @@ private:
     void AfterInsert(const SciNotification& notification);
     void UpdateUi();
 
+    PipelineState& State();
     void Snapshot(int line);
     void Queue(int line);
+    void TakeBackEditedLine(bool queue);
+    void GroupTyping(const SciNotification& notification);
     void ParseQueue();
-    bool TakeBackUnparsed();
+    void JoinLines();
+    void ShowLine(int line);
 
     frmDoc& mFrmDoc;
 };

@@ -48,3 +48,6 @@ frmDoc* ActiveForm();
 // Makes a document the one that all editor code works on: gActiveDoc, SciWndData and, when its project
 // is open, gCurrentProject.
 void MakeActive(frmDoc* document);
+
+// Takes a document out of its project and destroys it; a single file's project goes with it.
+void UnloadDocument(frmDoc* document);

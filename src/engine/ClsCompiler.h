@@ -13,20 +13,44 @@
 
 // One keyword or built-in command.
 struct ClsBBFunkcija {
-    std::string Ime;              // the spelling that the editor enforces
-    std::uint8_t Tip = 1;         // value type of the result
-    std::uint8_t VlezNum = 0;     // number of parameters, optional ones too
-    bool ImaZagradi = false;      // takes brackets
-    std::string Help;             // the definition line
-    bool IsStartScope = false;    // opens an indentation level
-    bool IsEndScope = false;      // closes an indentation level
-    bool IsScope = false;         // belongs to the block structure
-    bool MoraZagradi = false;     // brackets are obligatory
+    std::string Ime;           // the spelling that the editor enforces
+    std::uint8_t Tip = 1;      // value type of the result
+    std::uint8_t VlezNum = 0;  // number of parameters, optional ones too
+    bool ImaZagradi = false;   // takes brackets
+    std::string Help;          // the definition line
+    bool IsStartScope = false; // opens an indentation level
+    bool IsEndScope = false;   // closes an indentation level
+    bool IsScope = false;      // belongs to the block structure
+    bool MoraZagradi = false;  // brackets are obligatory
 
     // Which of the structure words this is, so that the parser need not compare texts.
     enum class Word : std::uint8_t {
-        Other, Function, End, Type, Field, Dim, Global, Local, Const, Include, Stop, Select, If, Then,
-        Else, ElseIf, Case, Default, New, Each, First, Last, Goto, Gosub, Restore, Object
+        Other,
+        Function,
+        End,
+        Type,
+        Field,
+        Dim,
+        Global,
+        Local,
+        Const,
+        Include,
+        Stop,
+        Select,
+        If,
+        Then,
+        Else,
+        ElseIf,
+        Case,
+        Default,
+        New,
+        Each,
+        First,
+        Last,
+        Goto,
+        Gosub,
+        Restore,
+        Object
     };
     Word word = Word::Other;
 
@@ -49,7 +73,8 @@ public:
     void Clear() { words_.clear(); }
     std::size_t Count() const { return words_.size(); }
 
-    template <class Visit> void ForEach(Visit visit) const {
+    template <class Visit>
+    void ForEach(Visit visit) const {
         for (const auto& entry : words_) visit(*entry.second);
     }
 
@@ -74,7 +99,7 @@ const ClsBBFunkcija* FindKeyword(std::string_view upper);
 class ClsCompiler {
 public:
     std::string Name;
-    std::string Path;     // its root directory, as written in compilers.dat
+    std::string Path; // its root directory, as written in compilers.dat
     std::string HelpPath;
     bool RealConsole = false;
     bool KeywordsLoaded = false;

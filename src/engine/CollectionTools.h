@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-template <class Record> class CollectionTools {
+template <class Record>
+class CollectionTools {
 public:
     using Pointer = std::shared_ptr<Record>;
 
@@ -18,7 +19,8 @@ public:
     // Fails with FailureDuplicateKey for a key in use.
     void Add(Pointer record, const std::string& key, int before = -1) {
         if (Exist_Key(key))
-            throw Failure(FailureDuplicateKey, "This key is already associated with an element of this collection");
+            throw Failure(FailureDuplicateKey,
+                          "This key is already associated with an element of this collection");
         Entry entry{key, std::move(record)};
         if (before < 0 || before >= Count())
             entries_.push_back(std::move(entry));

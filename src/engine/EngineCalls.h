@@ -12,6 +12,8 @@ struct EngineCalls {
     std::function<void(const std::string& type, const std::string& typed)> AutocompleteBackSlash;
     // Tells that the lists of the Code Explorer no longer agree with the tables.
     std::function<void()> PuniLista;
+    // Tells that the active document has changed without a change of its text.
+    std::function<void()> DocumentChanged;
     // Begins and ends the wait cursor, on the screen and in the active view.
     std::function<void(bool on)> WaitCursor;
 };

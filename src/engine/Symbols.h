@@ -15,16 +15,16 @@ enum : std::uint8_t { TipUnnamedType = 0, TipInteger = 1, TipFloat = 2, TipStrin
 struct Symbol {
     virtual ~Symbol() = default;
 
-    std::string Ime;             // the name as declared
-    int Handle = 0;              // of the marker on the declaring line
-    std::string File;            // Filename of its document
+    std::string Ime;              // the name as declared
+    int Handle = 0;               // of the marker on the declaring line
+    std::string File;             // Filename of its document
     std::intptr_t SciWndData = 0; // its view
 
     // Fields that not every class declares; those that do not, leave them at their defaults.
     std::uint8_t Tip = TipInteger;
-    std::string Tajp;      // the type's name as written, with Tip 5
+    std::string Tajp;       // the type's name as written, with Tip 5
     bool IsBBArray = false; // has a [...] part
-    std::string ArraySize; // from the bracket to its partner, as written
+    std::string ArraySize;  // from the bracket to its partner, as written
 };
 
 struct ClsFunkcija : Symbol {

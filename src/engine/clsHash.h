@@ -66,13 +66,16 @@ private:
     struct SlotType {
         std::string Key; // always upper-case
         SymbolPointer Value;
-        int NextItem = 0; // next of the chain or of the free list; slot 0 is never used
+        int NextItem = 0;  // next of the chain or of the free list; slot 0 is never used
+        int ChainTail = 0; // in a chain's head: its last entry
     };
 
     int ChainOf(int hash) const;
     int FindInChain(std::string_view upperKey, int hash) const;
-    template <class Match> int FindWhere(std::string_view key, Match match);
-    template <class Match> void Unlink(std::string_view key, const char* operation, Match match);
+    template <class Match>
+    int FindWhere(std::string_view key, Match match);
+    template <class Match>
+    void Unlink(std::string_view key, const char* operation, Match match);
     int TakeSlot();
 
     // Heads and slots are made when the first entry comes: most functions' tables hold a handful.

@@ -29,6 +29,8 @@ public:
     virtual bool ControlDown() = 0;
 
     virtual ScreenSize Screen() = 0;
+    // The face of that name, or the first monospaced one that this system has.
+    virtual std::string FontFor(const std::string& name) = 0;
     // The local date and time as the log writes them.
     virtual std::string Date() = 0;
     virtual std::string Time() = 0;

@@ -1,0 +1,17 @@
+// Built executables: this program's own file with the sources appended to it.
+// At its start the program looks for such sources behind itself and runs them.
+#pragma once
+
+#include "Sources.h"
+
+#include <optional>
+
+namespace blitz {
+
+/// Writes an executable that runs the sources; gives the reason on failure, else an empty text.
+std::string makeExecutable(const Sources& sources, const std::string& target);
+
+/// The sources appended to an executable file; none when there are none.
+std::optional<Sources> appendedSources(const std::string& executable);
+
+}

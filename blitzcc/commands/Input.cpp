@@ -1,0 +1,64 @@
+// The commands on keyboard, mouse and joystick.
+// Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
+#include "../CommandTable.h"
+
+#include <iterator>
+
+namespace blitz {
+
+// clang-format off
+static constexpr const char* definitions[] = {
+    // Keyboard.
+    "KeyDown (key%)",
+    "KeyHit (key%)",
+    "GetKey ()",
+    "WaitKey ()",
+    "FlushKeys",
+    "KeyWait ()",
+    "GetKeyRepeat ()",
+    "MoveCursor x%,y%",
+    // Mouse.
+    "MouseDown (button%)",
+    "MouseHit (button%)",
+    "GetMouse ()",
+    "WaitMouse ()",
+    "MouseWait ()",
+    "MouseX ([canvas%])",
+    "MouseY ([canvas%])",
+    "MouseZ ()",
+    "MouseXSpeed ()",
+    "MouseYSpeed ()",
+    "MouseZSpeed ()",
+    "FlushMouse",
+    "MoveMouse x%,y%[,canvas%]",
+    "HidePointer [canvas%]",
+    "ShowPointer [canvas%]",
+    "SetPointer shape%",
+    // Joystick.
+    "JoyType ([port%])",
+    "JoyDown (button%[,port%])",
+    "JoyHit (button%[,port%])",
+    "GetJoy ([port%])",
+    "WaitJoy ([port%])",
+    "JoyWait ([port%])",
+    "JoyX# ([port%])",
+    "JoyY# ([port%])",
+    "JoyZ# ([port%])",
+    "JoyU# ([port%])",
+    "JoyV# ([port%])",
+    "JoyPitch# ([port%])",
+    "JoyYaw# ([port%])",
+    "JoyRoll# ([port%])",
+    "JoyHat ([port%])",
+    "JoyXDir ([port%])",
+    "JoyYDir ([port%])",
+    "JoyZDir ([port%])",
+    "JoyUDir ([port%])",
+    "JoyVDir ([port%])",
+    "FlushJoy",
+};
+// clang-format on
+
+DefinitionTable inputCommands() { return {definitions, std::size(definitions)}; }
+
+}

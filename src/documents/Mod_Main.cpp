@@ -1,0 +1,112 @@
+// Process entry, the load sequence, and what another instance sends.
+#include "documents/Mod_Main.h"
+
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "documents/Options.h"
+#include "editor/frmDoc.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/Desktop.h"
+#include "host/Dialogs.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "host/SettingsStore.h"
+
+#include <cstdlib>
+
+namespace Mod_Main {
+
+namespace {
+
+constexpr int WaitRounds = 31; // for a first instance that has not published its handle yet
+constexpr const char* BringForward = "Aktiviraj";
+constexpr int StartUpNewFile = 2;
+constexpr int StrictBadStyle = 16;
+
+int lastWindowState = 0; // the last state of the main window that was not minimised
+
+// True when another instance runs and this one has to end.
+bool HandedOver(const std::string& commandLine) {
+    Options::MultipleInstances = std::atoi(gHost.settings->Get("Options", "MultipleInstances", "0").c_str());
+    if (!gHost.instances->AnotherRuns() || Options::MultipleInstances != 0) return false;
+    std::string handle = "0";
+    for (int round = 0; round < WaitRounds && std::atoi(handle.c_str()) == 0; ++round) {
+        gHost.desktop->Pump();
+        handle = gHost.settings->Get("Instance", "Handle", "0");
+    }
+    if (std::atoi(handle.c_str()) != 0)
+        gHost.instances->Send(handle, commandLine.empty() ? BringForward : commandLine);
+    return true;
+}
+
+void Status(const char* text) {
+    if (gDocumentCalls.SplashStatus) gDocumentCalls.SplashStatus(text);
+}
+
+void LoadEditControl() {
+    if (gHost.views->Create() != nullptr) return;
+    gHost.dialogs->Show({"SciLexer.dll is missing or invalid !", MessageIcon::Critical, "Critical error"});
+    gHost.desktop->EndProcess(1);
+}
+
+} // namespace
+
+bool Main(const std::string& commandLine) {
+    return Guarded("Main", "Mod_Main", true, [&] {
+        if (HandedOver(commandLine)) return false;
+        Start();
+        if (!commandLine.empty())
+            Mod_File::OpenFilesFromCommand(commandLine);
+        else if (Options::gStartUp == StartUpNewFile)
+            Mod_File::NewFile();
+        return true;
+    });
+}
+
+void Start() {
+    Guarded("start", "frmSplash", [&] {
+        Status("Loading Scinitilla library...");
+        LoadEditControl();
+        Mod_Lexer::BuildCharacterTables();
+        Status("Loading Compilers...");
+        LoadCompilers();
+        Status("Loading Options...");
+        Options::GetOptions();
+        Status("Loading HotCodes...");
+        Status("Loading External Tools...");
+        Status("Loading Editor Options...");
+        Options::GetEditOptions();
+        Status("Loading Style...");
+        Mod_File::LoadStyle(OptionsEdit::SciStyleName);
+        Status("Loading Editor...");
+        if (gDocumentCalls.CreateMainWindow) gDocumentCalls.CreateMainWindow();
+        Status("Starting Editor...");
+        gHost.desktop->LockWindowUpdate(true);
+        if (gDocumentCalls.ShowMainWindow) gDocumentCalls.ShowMainWindow();
+        gHost.desktop->Pump();
+        const bool strict = gDocumentCalls.StrictModeChecked && gDocumentCalls.StrictModeChecked();
+        BadStyle = strict ? StrictBadStyle : 0;
+        gHost.desktop->LockWindowUpdate(false);
+    });
+}
+
+void TextReceived(const std::string& text) {
+    if (text.empty()) return;
+    constexpr int Minimised = 1;
+    WindowPlace place = gHost.dock->Place();
+    if (place.state != Minimised) {
+        place.state = lastWindowState;
+        gHost.dock->SetPlace(place);
+    }
+    gHost.dock->BringToFront();
+    if (text != BringForward) Mod_File::OpenFilesFromCommand(text);
+}
+
+void Resized() {
+    constexpr int Minimised = 1;
+    if (const int state = gHost.dock->Place().state; state != Minimised) lastWindowState = state;
+}
+
+} // namespace Mod_Main

@@ -1,0 +1,280 @@
+// Project files: plain text, blocks found by whole lines, values between quotes without escaping.
+#include "documents/Mod_Project.h"
+
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "documents/Mod_Main.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsCompiler.h"
+#include "host/Desktop.h"
+#include "host/Dialogs.h"
+#include "host/ErrorLog.h"
+#include "host/Files.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace Mod_Project {
+
+namespace {
+
+constexpr const char* Header = "[Zolto Project file]";
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', from), text.size());
+        std::string line = text.substr(from, end - from);
+        if (line.ends_with('\r')) line.pop_back();
+        lines.push_back(std::move(line));
+        from = end + 1;
+    }
+    return lines;
+}
+
+bool IsTrue(const std::string& text) { return EqualNoCase(text, "True"); }
+std::string Boolean(bool value) { return value ? "True" : "False"; }
+std::string Value(const char* key, const std::string& value) {
+    return std::string(" ") + key + "=\"" + value + "\"";
+}
+
+// The part of a path in the data's form up to its last backslash, and what stands behind it.
+std::string Behind(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+std::string InFront(const std::string& path) {
+    const std::size_t at = path.rfind('\\');
+    return at == std::string::npos ? std::string() : path.substr(0, at);
+}
+
+std::string MemberPath(const ClsProject& project, const clsFile& file) {
+    return gHost.files->Find(CollapseSeparators(project.Path + ToDisk(file.AbsPath)));
+}
+
+void ReadSettings(ClsProject& project, const std::string& text) {
+    project.Expanded = IsTrue(Attribute(text, "Expanded"));
+    project.MainFile = Attribute(text, "MainFile");
+    project.Compiler = Attribute(text, "Compiler");
+    project.CommandLine = Attribute(text, "CommandLine");
+    project.Icon = Attribute(text, "Icon");
+}
+
+void ReadFolder(ClsProject& project, const std::string& line) {
+    auto folder = std::make_shared<clsFolder>();
+    folder->AbsPath = Attribute(line, "AbsPath");
+    folder->Expanded = IsTrue(Attribute(line, "Expanded"));
+    CompleteFolder(*folder, project);
+    DodajFolderSorted(std::move(folder), project);
+}
+
+void ReadFile(ClsProject& project, const std::string& line) {
+    auto file = std::make_shared<clsFile>();
+    file->AbsPath = ToData(Attribute(line, "AbsPath"));
+    file->PrjFolder = Attribute(line, "PrjFolder");
+    file->Line = std::atoi(Attribute(line, "Line").c_str());
+    file->Column = std::atoi(Attribute(line, "Column").c_str());
+    file->Tip = std::atoi(Attribute(line, "Tip").c_str());
+    file->Visible = IsTrue(Attribute(line, "Visible"));
+    file->TreeParent = project.Name + file->PrjFolder;
+    file->Name = Behind(file->AbsPath);
+    const std::string path = MemberPath(project, *file);
+    if (gHost.files->Kind(path) == PathKind::None) {
+        gHost.dialogs->Show({" File " + path + " that is part of this project is missing " +
+                                 "\r\n This file will be removed from this project",
+                             MessageIcon::Exclamation, "File not found"});
+        return;
+    }
+    DodajFileSorted(std::move(file), project);
+}
+
+// The first member that is open already as something else; empty where none is.
+std::string AlreadyOpenMember(const ClsProject& project) {
+    for (const auto& entry : project.Files) {
+        std::string path = MemberPath(project, *entry.record);
+        if (gHost.dock->FindDocumentWindow(path) != nullptr) return path;
+    }
+    return {};
+}
+
+void OpenMembers(ClsProject& project, bool fromWorkspace) {
+    gHost.desktop->SetWaitCursor(true);
+    std::vector<std::string> paths;
+    for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
+    for (const std::string& path : paths)
+        if (!Mod_File::OpenProjectsFile(path, fromWorkspace))
+            gHost.dialogs->Show(
+                {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+    gHost.desktop->SetWaitCursor(false);
+}
+
+// The pipeline of the active document rests while other documents are loaded.
+class PipelineRest {
+public:
+    PipelineRest() : window_(ActiveForm() == nullptr ? std::string() : ActiveForm()->m_strDocumentWindowID) {
+        if (frmDoc* document = ActiveForm()) {
+            document->m_oSubclass->DeactivateCheck();
+            document->View->SetEvents(nullptr);
+        }
+    }
+    ~PipelineRest() {
+        DocumentWindow* window = window_.empty() ? nullptr : gHost.dock->FindDocumentWindow(window_);
+        if (window != nullptr && window->HostedForm() != nullptr)
+            static_cast<frmDoc*>(window->HostedForm())->SubClass();
+    }
+    PipelineRest(const PipelineRest&) = delete;
+    PipelineRest& operator=(const PipelineRest&) = delete;
+
+private:
+    std::string window_;
+};
+
+template <class Collection, class Record>
+int SortedPlace(const Collection& collection, const Record& record) {
+    const std::string name = UCase(record.Name);
+    int place = 0;
+    for (const auto& entry : collection) {
+        if (UCase(entry.record->Name) > name) return place;
+        ++place;
+    }
+    return -1;
+}
+
+} // namespace
+
+std::string Attribute(const std::string& line, const std::string& key) {
+    const std::string start = key + "=\"";
+    const std::size_t at = line.find(start);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + start.size();
+    const std::size_t end = line.find('"', from);
+    return end == std::string::npos ? std::string() : line.substr(from, end - from);
+}
+
+void CompleteFolder(clsFolder& folder, const ClsProject& project) {
+    folder.FullPath = project.Path + ToDisk(folder.AbsPath);
+    folder.TreeParent = project.Name + InFront(folder.AbsPath);
+    folder.Name = Behind(folder.AbsPath);
+}
+
+void DodajFileSorted(std::shared_ptr<clsFile> file, ClsProject& project) {
+    const std::string key = file->Name;
+    const int place = SortedPlace(project.Files, *file);
+    project.Files.Add(std::move(file), key, place);
+}
+
+void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project) {
+    const std::string key = folder->AbsPath;
+    const int place = SortedPlace(project.Folders, *folder);
+    project.Folders.Add(std::move(folder), key, place);
+}
+
+bool BuildProjectFromFile(const std::string& path, ClsProject& project) {
+    return Guarded("BuildProjectFromFile", "Mod_File", false, [&] {
+        const std::vector<std::string> lines = Lines(gHost.files->Read(path));
+        project.FullPath = path;
+        project.Path = GetFolder(path);
+        project.Name = GetFileName(path);
+        project.Name.resize(project.Name.size() - std::min<std::size_t>(4, project.Name.size()));
+        if (lines.empty() || lines[0] != Header) return false;
+        std::string settings;
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            const std::string head = lines[i];
+            if (head != "<Settings>" && head != "<Folders>" && head != "<Files>") continue;
+            const std::string end = "</" + head.substr(1);
+            for (++i; i < lines.size() && lines[i] != end; ++i) {
+                // One line that cannot be taken is reported and the others still are.
+                Guarded("BuildProjectFromFile", "Mod_File", [&] {
+                    if (head == "<Settings>") settings += lines[i];
+                    if (head == "<Folders>") ReadFolder(project, lines[i]);
+                    if (head == "<Files>") ReadFile(project, lines[i]);
+                });
+            }
+        }
+        ReadSettings(project, settings);
+        return true;
+    });
+}
+
+bool LoadProject(const std::string& wanted, bool fromWorkspace) {
+    return Guarded("LoadProject", "Mod_File", false, [&] {
+        std::string path = wanted;
+        if (path.empty()) {
+            const auto chosen =
+                gHost.dialogs->OpenFiles({"Open File", "Zolto project files (*.zpf)|*.zpf", {}, {}, false});
+            if (chosen.empty()) return false;
+            path = chosen[0];
+        }
+        auto project = std::make_shared<ClsProject>();
+        if (!BuildProjectFromFile(path, *project)) {
+            gHost.dialogs->Show({"Not a valid project file !", MessageIcon::Critical});
+            return false;
+        }
+        if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
+        Mod_Main::SetActiveCompiler(project->Compiler);
+        if (gProjects.Exist_Key(project->FullPath)) {
+            gHost.dialogs->Show({"Project is already loaded", MessageIcon::Exclamation});
+            return false;
+        }
+        if (!fromWorkspace) {
+            if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
+                gHost.dialogs->Show(
+                    {"Some of the files in this project are already opened in Zolto as single file "
+                     "or as part of another project:\r\n" +
+                         open + "\r\nSorry, in this release you can't have same file opened multiple times",
+                     MessageIcon::Exclamation, "Project loading aborted..."});
+                return false;
+            }
+        }
+        gProjects.Add(project, project->FullPath);
+        {
+            const PipelineRest rest;
+            gCurrentProject = project;
+            OpenMembers(*project, fromWorkspace);
+        }
+        if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+        if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+        if (SciWndData != 0) Mod_Sci::GrabFocus();
+        return true;
+    });
+}
+
+bool SaveProject(ClsProject& project) {
+    return Guarded("SaveProject", "Mod_File", false, [&] {
+        std::string text = std::string(Header) + "\r\n<Settings>\r\n";
+        text += Value("Version", "1") + "\r\n" + Value("Expanded", Boolean(project.Expanded)) + "\r\n" +
+                Value("Icon", project.Icon) + "\r\n" + Value("MainFile", project.MainFile) + "\r\n" +
+                Value("Compiler", project.Compiler) + "\r\n" + Value("CommandLine", project.CommandLine) +
+                "\r\n";
+        text += "</Settings>\r\n<Folders>\r\n";
+        for (const auto& entry : project.Folders)
+            text += Value("AbsPath", entry.record->AbsPath) +
+                    Value("Expanded", Boolean(entry.record->Expanded)) + "\r\n";
+        text += "</Folders>\r\n<Files>\r\n";
+        for (const auto& entry : project.Files) {
+            const clsFile& file = *entry.record;
+            text += Value("AbsPath", file.AbsPath) + Value("PrjFolder", file.PrjFolder) +
+                    Value("Line", std::to_string(file.Line)) + Value("Column", std::to_string(file.Column)) +
+                    Value("Tip", std::to_string(file.Tip)) + Value("Visible", Boolean(file.Visible)) + "\r\n";
+        }
+        text += "</Files>\r\n";
+        gHost.files->Write(project.FullPath, text);
+        project.Dirty = false;
+        return true;
+    });
+}
+
+bool CloseProject(std::shared_ptr<ClsProject> project) {
+    return Guarded("CloseProject", "Mod_File", false, [&] {
+        if (project->Dirty) SaveProject(*project);
+        std::vector<std::string> windows;
+        for (const auto& source : project->Sources) windows.push_back(source.record->m_strDocumentWindowID);
+        for (const std::string& key : windows)
+            if (DocumentWindow* window = gHost.dock->FindDocumentWindow(key)) window->SetVisible(false);
+        if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
+        if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
+        if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+        return true;
+    });
+}
+
+} // namespace Mod_Project

@@ -1,0 +1,15 @@
+// What a view is set up with: the user's options, and what never changes.
+#pragma once
+
+// Sends the settings of section OptionsEdit to the active view; `applyStyles`: the colour style too.
+// Run at creation and after a change of preferences. A failure is reported and leaves the rest unsent.
+void SetSciOptions(bool applyStyles);
+// Sends what never changes after creation: event mask, keys, marker symbols.
+void SetSciConstants();
+// The modification events that a view sends.
+constexpr int EventMask = 3443;
+// Sets the width of the line number margin where it differs from what the line count wants.
+void UpdateLineNumberMargin();
+// The wait cursor, on the screen and in the active view.
+void BeginWaitCursor();
+void EndWaitCursor();

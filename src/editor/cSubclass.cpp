@@ -1,0 +1,161 @@
+// Dispatch of the notifications: restyle, paint, margin clicks, and the swap of the active document round
+// all of them. What an edit does stands in cSubclass_edit.cpp.
+#include "editor/cSubclass.h"
+
+#include "editor/EditorCalls.h"
+#include "editor/StyleTable.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsProject.h"
+#include "engine/EngineCalls.h"
+#include "engine/Mod_Folding.h"
+#include "engine/Mod_Parse.h"
+#include "engine/Mod_Parse_walk.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+
+EditorCalls gEditorCalls;
+bool gUndoGroupOpen = false;
+bool gUserEdited = false;
+bool gWaitCursor = false;
+
+namespace {
+
+using namespace Mod_Parse;
+
+constexpr int FoldMargin = 2;
+
+// Makes a document the active one for as long as it lives, as if its view had the focus.
+class ActiveSwap {
+public:
+    explicit ActiveSwap(frmDoc& document)
+        : before_(ActiveForm()), view_(SciWndData), swapped_(gActiveDoc != &document) {
+        if (swapped_) MakeActive(&document);
+    }
+    ~ActiveSwap() {
+        if (!swapped_) return;
+        MakeActive(before_);
+        SciWndData = view_;
+    }
+    ActiveSwap(const ActiveSwap&) = delete;
+    ActiveSwap& operator=(const ActiveSwap&) = delete;
+
+private:
+    frmDoc* before_;
+    std::intptr_t view_;
+    bool swapped_;
+};
+
+// A number as text with a place for its sign.
+std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }
+
+} // namespace
+
+PipelineState& cSubclass::State() { return mFrmDoc.State; }
+
+void cSubclass::OnNotify(const SciNotification& notification) {
+    if (gInErrorReport) return;
+    const ActiveSwap swap(mFrmDoc);
+    Guarded("WindowProc", "cSubclass", [&] { Dispatch(notification); });
+}
+
+void cSubclass::Dispatch(const SciNotification& notification) {
+    switch (notification.code) {
+    case SCN_STYLENEEDED: StyleNeeded(); break;
+    case SCN_PAINTED: Painted(); break;
+    case SCN_SAVEPOINTREACHED: mFrmDoc.SetDirty(false); break;
+    case SCN_MARGINCLICK: MarginClick(notification); break;
+    case SCN_MODIFIED: Modified(notification); break;
+    case SCN_UPDATEUI: UpdateUi(); break;
+    default: break;
+    }
+}
+
+void cSubclass::OnSetFocus() {
+    const std::intptr_t view = mFrmDoc.SciEdi_WndData;
+    Mod_Sci::SendTo(view, SCI_MARKERDELETEALL, MarkerInactiveCaret);
+    Mod_Sci::SendTo(view, SCI_SETSELBACK, 1, StyleTable::BackColor[StyleTable::SlotSelection]);
+}
+
+void cSubclass::OnKillFocus() {
+    const std::intptr_t view = mFrmDoc.SciEdi_WndData;
+    const auto line = Mod_Sci::SendTo(view, SCI_LINEFROMPOSITION, Mod_Sci::SendTo(view, SCI_GETCURRENTPOS));
+    Mod_Sci::SendTo(view, SCI_MARKERADD, line, MarkerInactiveCaret);
+    Mod_Sci::SendTo(view, SCI_SETSELBACK, 1, StyleTable::OtherColor[StyleTable::SlotSelection]);
+}
+
+void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
+    if (!gEditorCalls.OpenFile) return;
+    for (const std::string& path : paths) gEditorCalls.OpenFile(path);
+}
+
+void cSubclass::StyleNeeded() {
+    const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
+    const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
+    const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
+    if (first == State().mOldStartLine && lastDoc == State().mOldEndLine) return;
+    Mod_Sci::AutoCCancel();
+    Mod_Sci::CallTipCancel();
+    {
+        const ColoringScope own;
+        State().mOldStartLine = first;
+        State().mOldEndLine = lastDoc;
+        const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+        int previous = -100;
+        for (int visible = first; visible <= lastVisible; ++visible) {
+            const int line = static_cast<int>(Mod_Sci::DocLineFromVisible(visible));
+            if (line >= lines || line == previous) break;
+            // Behind a fold that was skipped the scope is another one.
+            if (line > previous + 1) {
+                CurrentFunctionName.clear();
+                CurrentTypeName.clear();
+            }
+            if (line == State().UnparsedLine)
+                ColorUnparsedLineLight(line, true, State().UnparsedText);
+            else if (HasMarker(line, MarkerParsed))
+                ColorLineLight(line, true);
+            else
+                State().mOldStartLine = -100; // again, when it has been parsed
+            previous = line;
+        }
+    }
+    if (!gSymbolsChanged) return;
+    gSymbolsChanged = false;
+    if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+    if (gCurrentProject && !gCurrentProject->SingleFile) SiblingPass();
+}
+
+// Views that show other files of the project recolour at once for a changed symbol.
+void cSubclass::SiblingPass() {
+    const auto project = gCurrentProject;
+    for (const auto& source : project->Sources) {
+        auto* sibling = static_cast<frmDoc*>(source.record.get());
+        if (sibling == &mFrmDoc || gHost.dock == nullptr) continue;
+        const DocumentWindow* window = gHost.dock->FindDocumentWindow(sibling->m_strDocumentWindowID);
+        if (window == nullptr || !window->InFront()) continue;
+        sibling->State.mOldStartLine = -100;
+        SciNotification restyle;
+        restyle.code = SCN_STYLENEEDED;
+        sibling->m_oSubclass->OnNotify(restyle);
+    }
+}
+
+void cSubclass::Painted() {
+    if (State().mJustActivated) {
+        State().mJustActivated = false;
+        if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+    }
+    // So that scrolling always asks for styles: what is styled already is told by the lines shown.
+    Mod_Sci::StartStyling(1, 255);
+    if (!gEditorCalls.SetPositionText) return;
+    const auto position = Mod_Sci::GetCurrentPos();
+    const auto line = Mod_Sci::LineFromPosition(position);
+    gEditorCalls.SetPositionText("L:" + Signed(line + 1) +
+                                 " C:" + Signed(position + 1 - Mod_Sci::PositionFromLine(line)));
+}
+
+void cSubclass::MarginClick(const SciNotification& notification) {
+    if (notification.margin == FoldMargin)
+        Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(notification.position)));
+}

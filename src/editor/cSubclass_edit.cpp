@@ -1,0 +1,231 @@
+// What an edit does: a line that changes is remembered as the tables know it, taken back when the caret
+// leaves it, and parsed again in the same turn. The order is always take back, change, parse.
+#include "editor/cSubclass.h"
+
+#include "editor/EditorCalls.h"
+#include "editor/SciOptions.h"
+#include "editor/frmDoc.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/Mod_Parse.h"
+#include "engine/Mod_Parse_walk.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+#include "sci/Mod_Sci.h"
+
+namespace {
+
+using namespace Mod_Parse;
+
+constexpr int LongChange = 10; // lines; a longer one shows the wait cursor
+
+constexpr int StopNotTheEditedLine = 11951;
+constexpr int StopParsedLineInserted = 12393;
+constexpr int StopQueuedTwice = 11443;
+constexpr int StopParsedLineQueued = 94993;
+constexpr int StopQueuedTwiceFlush = 18893;
+constexpr int StopParsedLineFlush = 77993;
+
+int LineOf(std::intptr_t position) { return static_cast<int>(Mod_Sci::LineFromPosition(position)); }
+
+void BeginLongChange() {
+    if (!gWaitCursor) BeginWaitCursor();
+    gWaitCursor = true;
+}
+
+void OpenUndoGroup() {
+    Mod_Sci::BeginUndoAction();
+    gUndoGroupOpen = true;
+}
+
+} // namespace
+
+void cSubclass::Snapshot(int line) {
+    State().UnparsedText = Mod_Sci::LineText(line);
+    Mod_Sci::MarkerDelete(line, MarkerParsed);
+    State().UnparsedLine = line;
+}
+
+void cSubclass::Queue(int line) {
+    State().ParseNeeded.push_back(static_cast<int>(Mod_Sci::MarkerAdd(line, MarkerQueued)));
+}
+
+// Removes the symbols of the edited line's old text; no line is being edited afterwards.
+void cSubclass::TakeBackEditedLine(bool queue) {
+    const int line = State().UnparsedLine;
+    UnparseLineText(line, State().UnparsedText);
+    if (queue) Queue(line);
+    State().UnparsedLine = -1;
+}
+
+void cSubclass::ShowLine(int line) {
+    if (!Mod_Sci::GetLineVisible(line)) Mod_Sci::EnsureVisible(line);
+}
+
+void cSubclass::Modified(const SciNotification& notification) {
+    if (Coloring) return;
+    const int type = notification.modificationType;
+    State().mLastOperationUndoRedo = (type & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)) != 0;
+    if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)) {
+        mFrmDoc.SetDirty(true);
+        const int start = LineOf(notification.position);
+        const int end = LineOf(notification.position + notification.length);
+        if (type & SC_MOD_BEFOREDELETE)
+            BeforeDelete(notification, start, end);
+        else
+            BeforeInsert(notification, start, end);
+    } else if (type & SC_MOD_INSERTTEXT) {
+        AfterInsert(notification);
+    }
+}
+
+void cSubclass::BeforeDelete(const SciNotification& notification, int start, int end) {
+    if (end - start > LongChange) BeginLongChange();
+    const int edited = State().UnparsedLine;
+    // A line being edited that lies inside the range is going away and is not queued.
+    if (edited >= 0 && edited != start) TakeBackEditedLine(edited < start || edited > end);
+    if (State().UnparsedLine < 0) {
+        if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
+            UnparseLine(start, false);
+            Queue(start);
+            State().mForceColor = true;
+        } else if (HasMarker(start, MarkerParsed)) {
+            Snapshot(start);
+        }
+    }
+    for (int line = start + 1; line <= end; ++line) {
+        if (HasMarker(line, MarkerParsed))
+            UnparseLine(line, false);
+        else if (HasMarker(line, MarkerQueued))
+            Mod_Sci::MarkerDelete(line, MarkerQueued);
+    }
+    if (notification.modificationType & SC_PERFORMED_USER) {
+        gUserEdited = true;
+        if (notification.length == 2 && end == start + 1 && Mod_Sci::GetLineIndentation(end) > 1) {
+            State().mJoinPending = true;
+            OpenUndoGroup();
+        }
+    }
+    ShowLine(start);
+}
+
+// An empty action ends the library's joining of typed characters: a step begins at each run of spaces and at
+// each character that belongs to no name.
+void cSubclass::GroupTyping(const SciNotification& notification) {
+    if (notification.length != 1) {
+        State().mSpaceTyped = false;
+        return;
+    }
+    const auto byte =
+        notification.text == nullptr ? std::uint8_t{0} : static_cast<std::uint8_t>(*notification.text);
+    const bool space = byte == ' ';
+    const bool breaks = space ? !State().mSpaceTyped : !IsIdChar[byte];
+    if (!space) State().mSpaceTyped = false;
+    if (!breaks) return;
+    Mod_Sci::BeginUndoAction();
+    Mod_Sci::EndUndoAction();
+}
+
+void cSubclass::BeforeInsert(const SciNotification& notification, int start, int end) {
+    if (!State().mLastOperationUndoRedo) {
+        GroupTyping(notification);
+        if (end > start && !gUndoGroupOpen) OpenUndoGroup();
+    }
+    if (State().UnparsedLine >= 0 && State().UnparsedLine != start) TakeBackEditedLine(true);
+    if (State().UnparsedLine < 0 && HasMarker(start, MarkerParsed)) Snapshot(start);
+    if (notification.modificationType & SC_PERFORMED_USER) gUserEdited = true;
+}
+
+void cSubclass::AfterInsert(const SciNotification& notification) {
+    const int line = LineOf(notification.position);
+    if (notification.linesAdded > 0) {
+        if (notification.linesAdded > LongChange) BeginLongChange();
+        // Opens a fold into which a paste went.
+        ShowLine(LineOf(notification.position - 1) + static_cast<int>(notification.linesAdded) + 1);
+    } else {
+        ShowLine(line);
+    }
+    const int last = LineOf(notification.position + notification.length);
+    if (last == line) return;
+    if (State().UnparsedLine >= 0) {
+        if (State().UnparsedLine != line) SetStopErrorLog(StopNotTheEditedLine);
+        TakeBackEditedLine(false);
+    }
+    for (int at = line; at <= last; ++at) {
+        if (HasMarker(at, MarkerParsed)) SetStopErrorLog(StopParsedLineInserted);
+        if (!HasMarker(at, MarkerQueued)) Queue(at);
+    }
+}
+
+// The joined line's indentation goes with the line break that was deleted.
+void cSubclass::JoinLines() {
+    State().mJoinPending = false;
+    const auto start = Mod_Sci::GetCurrentPos();
+    auto end = start;
+    while (IsBlank[static_cast<std::uint8_t>(Mod_Sci::GetCharAt(end))]) ++end;
+    const ColoringScope own;
+    Mod_Sci::ReplaceRange(start, end, "");
+}
+
+void cSubclass::ParseQueue() {
+    const std::vector<int> handles = std::move(State().ParseNeeded);
+    State().ParseNeeded.clear();
+    int expect = -100;
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handles[i]));
+        if (line < 0) continue;
+        if (HasMarker(line, MarkerParsed)) {
+            SetStopErrorLog(StopParsedLineQueued);
+            continue;
+        }
+        const bool follows = line == ++expect;
+        if (follows && i + 1 == handles.size()) FoldLevel = 0;
+        Parseline(line, follows);
+        expect = line;
+        Mod_Sci::MarkerDelete(line, MarkerQueued);
+    }
+    mFrmDoc.Redraw();
+}
+
+void cSubclass::UpdateUi() {
+    if (State().mJoinPending) JoinLines();
+    const int line = LineOf(Mod_Sci::GetCurrentPos());
+    gUserEdited = false;
+    if (State().UnparsedLine >= 0 && State().UnparsedLine != line) {
+        if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwice);
+        TakeBackEditedLine(true);
+    }
+    if (!State().ParseNeeded.empty()) ParseQueue();
+    if (gWaitCursor) EndWaitCursor();
+    gWaitCursor = false;
+    if (gUndoGroupOpen) Mod_Sci::EndUndoAction();
+    gUndoGroupOpen = false;
+    if (line != mFrmDoc.Callback_OldLine) {
+        if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
+            gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));
+        UpdateLineNumberMargin();
+        mFrmDoc.Callback_OldLine = line;
+    }
+    State().mForceColor = false;
+    if (gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
+}
+
+void cSubclass::DeactivateCheck() {
+    const ColoringScope own;
+    if (State().UnparsedLine >= 0) {
+        if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);
+        TakeBackEditedLine(true);
+    }
+    const std::vector<int> handles = std::move(State().ParseNeeded);
+    State().ParseNeeded.clear();
+    for (const int handle : handles) {
+        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handle));
+        if (line < 0) continue;
+        if (HasMarker(line, MarkerParsed)) {
+            SetStopErrorLog(StopParsedLineFlush);
+            continue;
+        }
+        Parseline(line, false);
+        Mod_Sci::MarkerDelete(line, MarkerQueued);
+    }
+}

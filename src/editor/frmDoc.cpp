@@ -1,0 +1,71 @@
+// A document: its view, its pipeline and its runner live and end with it.
+#include "editor/frmDoc.h"
+
+#include "editor/SciOptions.h"
+#include "engine/ClsProject.h"
+#include "engine/ParserState.h"
+#include "host/Failure.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+
+frmDoc::frmDoc() {
+    View = gHost.views->Create();
+    if (!View) throw Failure(FailureFileNotFound, "The edit control could not be made");
+    SciEdi_WndData = View->DirectPointer();
+    gSciDirect = View->DirectFunction();
+    m_oSubclass = std::make_unique<cSubclass>(*this);
+    ShellClass = std::make_unique<StdShell>();
+}
+
+frmDoc::~frmDoc() {
+    View->SetEvents(nullptr);
+    if (gActiveDoc == this) MakeActive(nullptr);
+}
+
+void frmDoc::Initialise(const std::string& filename) {
+    Filename = filename;
+    SetSciOptions(true);
+    SetSciConstants();
+}
+
+void frmDoc::SubClass() { View->SetEvents(m_oSubclass.get()); }
+
+void frmDoc::SetFilename(const std::string& name) {
+    if (Filename == name) return;
+    Filename = name;
+    RefreshCaption();
+}
+
+void frmDoc::SetDirty(bool dirty) {
+    if (Dirty == dirty) return;
+    Dirty = dirty;
+    RefreshCaption();
+}
+
+bool frmDoc::CanUndo() const { return Mod_Sci::SendTo(SciEdi_WndData, SCI_CANUNDO) != 0; }
+
+std::string frmDoc::Caption() const { return Dirty ? Filename + "*" : Filename; }
+
+void frmDoc::RefreshCaption() {
+    if (gHost.dock == nullptr || m_strDocumentWindowID.empty()) return;
+    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(m_strDocumentWindowID))
+        window->SetCaption(Caption());
+}
+
+frmDoc* ActiveForm() { return static_cast<frmDoc*>(gActiveDoc); }
+
+void MakeActive(frmDoc* document) {
+    gActiveDoc = document;
+    SciWndData = document == nullptr ? 0 : document->SciEdi_WndData;
+    gCurrentProject = document == nullptr ? nullptr : gProjects.Find(document->PrjFullPath);
+}
+
+void UnloadDocument(frmDoc* document) {
+    const auto project = gProjects.Find(document->PrjFullPath);
+    if (!project) return;
+    // Held until the end: removing it from its project may be what destroys it.
+    const auto held = project->Sources.Find(document->FullFilename);
+    if (!held) return;
+    project->Sources.RemoveKey(document->FullFilename);
+    if (document->SingleFile) gProjects.RemoveKey(document->PrjFullPath);
+}

@@ -1,0 +1,34 @@
+// A project starts with the scope of the main program.
+#include "engine/ClsProject.h"
+
+#include "engine/DocumentRecord.h"
+#include "engine/EngineCalls.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+
+CollectionTools<ClsProject> gProjects;
+std::shared_ptr<ClsProject> gCurrentProject;
+DocumentRecord* gActiveDoc = nullptr;
+EngineCalls gEngineCalls;
+
+ClsProject::ClsProject() {
+    auto mainProgram = std::make_shared<ClsFunkcija>();
+    mainProgram->Ime = MainProgram;
+    MainFunLocals = mainProgram->Locals;
+    MainFunLocals->IgnoreCase = true;
+    Funkcii.Add(MainProgram, mainProgram);
+    FunctionsDirty = true;
+    CurrentLocals = MainFunLocals;
+}
+
+bool DocumentActive() { return gActiveDoc != nullptr && gActiveDoc->SciEdi_WndData != 0; }
+
+void UpdateVarFileNames(const std::string& oldName, const std::string& newName) {
+    Guarded("UpdateVarFileNames", "Mod_Funkcii", [&] {
+        ClsProject& project = *gCurrentProject;
+        for (clsHash* table : {&project.Funkcii, &project.Globals, &project.Types, &project.Arrays,
+                               &project.Labels, &project.Includes, &project.Constants})
+            for (const SymbolPointer& symbol : table->Items())
+                if (symbol->File == oldName) symbol->File = newName;
+    });
+}

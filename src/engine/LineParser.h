@@ -1,0 +1,76 @@
+// The state of one call of Parseline. For the engine's own files.
+#pragma once
+
+#include "engine/ClsCompiler.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/Symbols.h"
+
+#include <memory>
+#include <string>
+
+namespace Mod_Parse {
+
+class LineParser {
+public:
+    LineParser(int line, bool sequential);
+    int Run();
+
+private:
+    using Word = ClsBBFunkcija::Word;
+
+    // What a declared name carries behind itself.
+    struct NameTail {
+        std::uint8_t tip = TipInteger;
+        std::string tajp;
+        int bracket = 0; // index of the opening bracket's token, 0 for none
+        bool closed = false;
+    };
+
+    Token& At(int index) const;
+    bool NextIsName() const;
+    int AddMarker(int marker);
+    void Rewrite(int index, const std::string& spelling);
+
+    void One();
+    void Identifier();
+    void Comment();
+    void Block(const std::string& word, int foldMarker, int delta);
+    void EndScope(Word word);
+    void General();
+    void Indent();
+
+    void Dispatch(Word word);
+    void Label();
+    void Include();
+    void Function();
+    int BuildFunction(ClsFunkcija& function);
+    void End();
+    void EndFunction();
+    void EndType();
+    void Type();
+    void Declarations(Word word);
+    void OpenDeclarations(Word word);
+    void Place(Word word, std::shared_ptr<Symbol> record);
+    NameTail GetVarTipColor();
+    NameTail GetArrayVarTipColor();
+    void SuffixTail(NameTail& tail);
+    void TakeBounds(NameTail& tail, char close);
+    void Fill(Symbol& record, const std::string& name, int handle) const;
+    void FillTail(Symbol& record, const NameTail& tail, bool isVariable) const;
+
+    int line_;
+    bool sequential_;
+    bool indents_ = true;
+    int handle_ = 0;
+    int lineStart_ = 0;
+    std::string text_;
+    int index_ = 1;
+    int count_ = 0;
+    int opens_ = 0;     // levels that the line opens for the next
+    int closes_ = 0;    // levels that it closes before itself
+    int foldDelta_ = 0; // fold blocks opened less those closed
+    bool functionLine_ = false;
+    bool startsWithComment_ = false;
+};
+
+} // namespace Mod_Parse

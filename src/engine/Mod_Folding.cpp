@@ -1,0 +1,91 @@
+// Fold levels follow the markers 5 (opens) and 7 (closes); only three constructs set them.
+#include "engine/Mod_Folding.h"
+
+#include "engine/DocumentRecord.h"
+#include "engine/EngineCalls.h"
+#include "engine/Mod_Parse.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "sci/Mod_Sci.h"
+
+namespace Mod_Folding {
+
+namespace {
+
+using namespace Mod_Parse;
+
+bool InMainProgram() { return CurrentFunctionName == MainProgram; }
+
+// A closing line lowers the level, but never below that of its surroundings.
+int Lowered(int level) {
+    const int least = InMainProgram() ? TopLevel : FunctionLevel;
+    return level > least ? level - 1 : level;
+}
+
+int LevelOf(int line) { return static_cast<int>(Mod_Sci::GetFoldLevel(line)) & SC_FOLDLEVELNUMBERMASK; }
+
+int DeriveLevel(int line) {
+    int level = LevelOf(line - 1);
+    const auto markers = Mod_Sci::MarkerGet(line - 1);
+    if (markers & MaskOf(MarkerFoldOpens)) ++level;
+    if (markers & MaskOf(MarkerFoldCloses)) level = Lowered(level);
+    return level;
+}
+
+void MarkMainProgram(int line) {
+    if (!CurrentFunctionName.empty() && !InMainProgram())
+        Mod_Sci::MarkerDelete(line, MarkerMainProgram);
+    else if (!HasMarker(line, MarkerMainProgram))
+        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
+}
+
+} // namespace
+
+void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
+    const bool derived = !sequential || FoldLevel == 0;
+    if (derived) FoldLevel = DeriveLevel(line);
+    if (foldDelta > 0) {
+        if (functionLine) FoldLevel = TopLevel;
+        Mod_Sci::SetFoldLevel(line, FoldLevel | SC_FOLDLEVELHEADERFLAG);
+        ++FoldLevel;
+    } else if (functionLine) {
+        Mod_Sci::SetFoldLevel(line, FunctionLevel);
+        FoldLevel = TopLevel;
+    } else {
+        if (!Mod_Sci::GetLineVisible(line + 1)) Mod_Sci::EnsureVisible(line + 1);
+        Mod_Sci::SetFoldLevel(line, FoldLevel);
+        if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
+    }
+    if (derived && LevelOf(line + 1) != FoldLevel && HasMarker(line + 1, MarkerParsed))
+        CheckFold(line, FoldLevel);
+}
+
+void CheckFold(int line, int level) {
+    int end = static_cast<int>(Mod_Sci::MarkerNext(line + 1, MaskOf(MarkerFunction)));
+    const bool bounded = end >= 0;
+    if (!bounded) end = static_cast<int>(Mod_Sci::GetLineCount());
+    for (int at = line + 1; at < end; ++at) {
+        const auto markers = Mod_Sci::MarkerGet(at);
+        if (markers & MaskOf(MarkerFoldOpens)) {
+            Mod_Sci::SetFoldLevel(at, level | SC_FOLDLEVELHEADERFLAG);
+            ++level;
+        } else {
+            Mod_Sci::SetFoldLevel(at, level);
+            if (markers & MaskOf(MarkerFoldCloses)) level = Lowered(level);
+        }
+        MarkMainProgram(at);
+    }
+    if (bounded && HasMarker(end, MarkerFoldCloses)) MarkMainProgram(end);
+}
+
+void ToggleFold(int line) {
+    Mod_Sci::ToggleFold(line);
+    const auto caretLine = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
+    if (!Mod_Sci::GetLineVisible(caretLine)) {
+        const auto parent = Mod_Sci::GetFoldParent(caretLine);
+        if (parent >= 0) Mod_Sci::GotoPos(Mod_Sci::PositionFromLine(parent));
+    }
+    if (OptionsEdit::FileDirtyOnBookmarks && gEngineCalls.DocumentChanged) gEngineCalls.DocumentChanged();
+}
+
+} // namespace Mod_Folding

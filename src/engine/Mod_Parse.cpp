@@ -1,0 +1,234 @@
+// One line: its tokens are walked once, what it declares goes into the tables, markers, first colours, fold
+// level and indentation are set. What a keyword declares stands in Mod_Parse_declare.cpp.
+#include "engine/Mod_Parse.h"
+
+#include "engine/ClsProject.h"
+#include "engine/DocumentRecord.h"
+#include "engine/EngineCalls.h"
+#include "engine/LineParser.h"
+#include "engine/Mod_Folding.h"
+#include "engine/Mod_Parse_walk.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+#include "host/Paths.h"
+#include "sci/Mod_Sci.h"
+
+#include <algorithm>
+
+namespace Mod_Parse {
+
+namespace {
+
+using Word = ClsBBFunkcija::Word;
+
+class WaitCursor {
+public:
+    WaitCursor() { Show(true); }
+    ~WaitCursor() { Show(false); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    static void Show(bool on) {
+        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(on);
+    }
+};
+
+bool IsComment(const Token& token) {
+    return token.Kind == TOK_COMMENT || token.Kind == TOK_BLOCK_START || token.Kind == TOK_BLOCK_END;
+}
+
+} // namespace
+
+LineParser::LineParser(int line, bool sequential) : line_(line), sequential_(sequential) {}
+
+int LineParser::Run() {
+    gSymbolsChanged = true;
+    gActiveDoc->State.mOldStartLine = -100;
+    handle_ = static_cast<int>(Mod_Sci::MarkerAdd(line_, MarkerParsed));
+    lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
+    text_ = Mod_Sci::LineText(line_);
+    const int length = Mod_Lexer::FillLineBuffer(text_);
+    count_ = Mod_Lexer::Tokenize(text_, length);
+    gLineStyles.Begin(lineStart_ + 1, length, true);
+
+    if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
+    if (CurrentFunctionName == MainProgram) AddMarker(MarkerMainProgram);
+    // On loading, nothing indents unless the option says so, and nobody asks for the level.
+    indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
+    if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
+
+    while (index_ <= count_) One();
+    gLineStyles.Flush();
+    Mod_Folding::SetLineLevel(line_, foldDelta_, functionLine_, sequential_);
+    if (indents_) Indent();
+    return handle_;
+}
+
+int LineParser::AddMarker(int marker) { return static_cast<int>(Mod_Sci::MarkerAdd(line_, marker)); }
+
+Token& LineParser::At(int index) const { return Tokens[static_cast<std::size_t>(index)]; }
+
+bool LineParser::NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
+
+// The spelling that the line's text has from here on, too: what is cut from it must not depend on whether
+// the line was repaired now or earlier.
+void LineParser::Rewrite(int index, const std::string& spelling) {
+    if (At(index).Text == spelling) return;
+    RewriteToken(spelling, index, lineStart_);
+    text_.replace(static_cast<std::size_t>(At(index).StartPos) - 1, spelling.size(), spelling);
+}
+
+// Takes the token at the index, and moves on to the next one that is not taken yet.
+void LineParser::One() {
+    const Token& token = At(index_);
+    switch (token.Kind) {
+    case TOK_IDENT: Identifier(); return;
+    case ',':
+    case ':': gLineStyles.SetToEnd(lineStart_ + token.StartPos, STYLE_Separator); break;
+    case TOK_COMMENT: Comment(); break;
+    case TOK_BLOCK_START: Block("Block", MarkerFoldOpens, +1); break;
+    case TOK_BLOCK_END: Block("End", MarkerFoldCloses, -1); break;
+    case TOK_NUMBER: Style(lineStart_, token, token.EndPos - token.StartPos, STYLE_Number); break;
+    case TOK_STRING: Style(lineStart_, token, token.EndPos - token.StartPos + 1, STYLE_String); break;
+    case '.':
+        if (index_ == 1 && NextIsName()) Label();
+        break;
+    case TOK_NONE: Style(lineStart_, token, token.EndPos - token.StartPos, BadStyle); break;
+    default:
+        if (IsOperator[token.Kind]) Style(lineStart_, token, 1, STYLE_Operator);
+    }
+    ++index_;
+}
+
+void LineParser::Comment() {
+    Token& token = At(index_);
+    if (index_ == 1) startsWithComment_ = true;
+    const bool second = token.EndPos == SecondCommentStyle;
+    gLineStyles.SetToEnd(lineStart_ + token.StartPos, second ? STYLE_Comment2 : STYLE_Comment);
+    if (second) token.EndPos = 0;
+}
+
+void LineParser::Block(const std::string& word, int foldMarker, int delta) {
+    Token& token = At(index_);
+    if (token.Text != word) {
+        const ColoringScope own;
+        const std::intptr_t start = lineStart_ + token.StartPos + 2;
+        Mod_Sci::ReplaceRange(start, start + static_cast<std::intptr_t>(word.size()), word);
+    }
+    gLineStyles.SetToEnd(lineStart_ + token.StartPos, STYLE_Block);
+    AddMarker(MarkerBlock);
+    AddMarker(foldMarker);
+    foldDelta_ += delta;
+}
+
+void LineParser::Identifier() {
+    const ClsBBFunkcija* keyword = KeywordOf(At(index_));
+    if (keyword == nullptr) {
+        ++index_;
+        return;
+    }
+    Rewrite(index_, keyword->Ime);
+    if (keyword->IsStartScope) opens_ += keyword->word == Word::Select ? 2 : 1;
+    if (OptionsEdit::AutoIndentType == 2 && keyword->IsEndScope) EndScope(keyword->word);
+    Style(lineStart_, At(index_), static_cast<std::intptr_t>(keyword->Ime.size()), STYLE_Keyword);
+
+    if (NextIsName()) {
+        Dispatch(keyword->word);
+        return;
+    }
+    const Token& next = At(index_ + 1);
+    if (keyword->word == Word::Stop && (index_ == count_ || next.Kind == ':')) {
+        AddMarker(MarkerBreakpoint);
+        if (index_ < count_) ++index_;
+    } else if (keyword->word == Word::Include && index_ < count_ && next.Kind == TOK_STRING &&
+               !next.Text.empty()) {
+        Include();
+    }
+    ++index_;
+}
+
+void LineParser::General() {
+    if (opens_ >= 1)
+        --opens_;
+    else
+        ++closes_;
+}
+
+void LineParser::EndScope(Word word) {
+    const bool endsHere = index_ == count_ || IsComment(At(index_ + 1));
+    switch (word) {
+    case Word::End: break; // the word behind it decides
+    case Word::Then:
+        if (!endsHere) General();
+        break;
+    case Word::Else:
+        if (endsHere) {
+            ++closes_;
+            ++opens_;
+        } else if (index_ == 1 && NextIsName() && EqualNoCase(At(index_ + 1).Text, "If")) {
+            ++closes_;
+        }
+        break;
+    case Word::ElseIf:
+        if (index_ == 1) ++closes_;
+        break;
+    case Word::Case:
+    case Word::Default: ++closes_; break;
+    default: General();
+    }
+}
+
+void LineParser::Indent() {
+    if (OptionsEdit::AutoIndentType != 2 || gActiveDoc->State.mLastOperationUndoRedo) return;
+    IndentLevel = std::max(1, IndentLevel - closes_);
+    if (!startsWithComment_) {
+        const int target = (IndentLevel - 1) * OptionsEdit::TabValue;
+        if (Mod_Sci::GetLineIndentation(line_) != target) {
+            const ColoringScope own;
+            Mod_Sci::SetLineIndentation(line_, target);
+        }
+    }
+    const auto caret = Mod_Sci::GetCurrentPos();
+    if (Mod_Sci::LineFromPosition(caret) == line_) {
+        const auto indent = Mod_Sci::GetLineIndentPosition(line_);
+        if (indent > caret) Mod_Sci::GotoPos(indent);
+    }
+    IndentLevel += opens_;
+}
+
+int Parseline(int line, bool sequential) {
+    LineParser parser(line, sequential);
+    return Guarded("Parseline", "Mod_Parse", 0, [&] { return parser.Run(); });
+}
+
+void ParseAllLines() {
+    ParsingFile = true;
+    const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
+    for (int line = 0; line <= last; ++line) Parseline(line, true);
+    ParsingFile = false;
+}
+
+void ParseFile() {
+    Guarded("ParseFile", "Mod_Parse", [&] {
+        gCurrentProject = gProjects.Item(gActiveDoc->PrjName);
+        CurrentFunctionName.clear();
+        CurrentTypeName.clear();
+        FoldLevel = 0;
+        IndentLevel = 0;
+        const WaitCursor wait;
+        ParseAllLines();
+    });
+}
+
+void UnParseFile() {
+    Guarded("UnParseFile", "Mod_Parse", [&] {
+        const WaitCursor wait;
+        const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
+        for (int line = 0; line <= last; ++line) UnparseLine(line, true);
+        if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+    });
+}
+
+} // namespace Mod_Parse

@@ -1,0 +1,70 @@
+// The line parser and its inverse, the scope queries, and the colourers. Every call works on the current
+// document: gActiveDoc, SciWndData and gCurrentProject. Lines count from 0, token indices from 1.
+#pragma once
+
+#include "engine/Symbols.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace Mod_Parse {
+
+// Marker numbers; the mask of a marker is 1 << number.
+enum : int {
+    MarkerFunction = 0,
+    MarkerQueued = 1,
+    MarkerType = 2,
+    MarkerParsed = 3,
+    MarkerBookmark = 4,
+    MarkerFoldOpens = 5,
+    MarkerFoldCloses = 7,
+    MarkerDeclares = 8,
+    MarkerInactiveCaret = 13,
+    MarkerLocal = 14,
+    MarkerPosition = 18,
+    MarkerMainProgram = 21,
+    MarkerBlock = 22,
+    MarkerBreakpoint = 23,
+};
+constexpr int MaskOf(int marker) { return 1 << marker; }
+bool HasMarker(int line, int marker);
+
+// --- parsing ---------------------------------------------------------------------------------------
+
+// Parses the current document from its first line to its last. Writes the parser's state.
+void ParseFile();
+// The same run over all lines for a document whose project is current and whose scope is set.
+void ParseAllLines();
+// Takes back every line of the current document, then has the Code Explorer refilled.
+void UnParseFile();
+// Parses one line that is not parsed; `sequential` tells that the line above was parsed just before.
+// Answers the handle of the line's marker 3.
+int Parseline(int line, bool sequential);
+// Takes back what a line declared, by its old text or, without one, by its present text.
+void UnparseLine(int line, bool sequential, const std::optional<std::string>& oldText = std::nullopt);
+void UnparseLineText(int line, const std::string& oldText);
+
+// --- scope -----------------------------------------------------------------------------------------
+
+// The enclosing function's name, or "*Main Program*". Writes CurrentLocals.
+std::string CurrentFunction(int line);
+// The enclosing type's name, or empty. Writes CurrentFields when inside a type.
+std::string CurrentType(int line);
+// The name to show for a line; touches nothing.
+std::string CurrentFunctionForDisplay(int line);
+// The indentation level, from 1, of the line below.
+int GetNextIndent(int line);
+
+// --- colouring -------------------------------------------------------------------------------------
+
+// Colours a parsed line that is not under the caret; `sequential`: the line above was coloured just before.
+void ColorLineLight(int line, bool sequential);
+// Keeps the scope of a run of lines right across a line that is being edited; styles nothing.
+void ColorUnparsedLineLight(int line, bool sequential, const std::string& text);
+// Gives the keywords of a line their style and spelling after a change of the vocabulary.
+void ReColorLine(int line);
+// ReColorLine for every line of the current document.
+void ReColorFile();
+
+} // namespace Mod_Parse

@@ -1,0 +1,318 @@
+// Colouring of the lines that the caret is not on. Literals, comments and operators keep what the parser
+// gave them; names are coloured by what they mean here.
+#include "engine/Mod_Parse.h"
+
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "engine/DocumentRecord.h"
+#include "engine/EngineCalls.h"
+#include "engine/Mod_Parse_walk.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+#include "sci/Mod_Sci.h"
+
+namespace Mod_Parse {
+
+namespace {
+
+using Word = ClsBBFunkcija::Word;
+using Walker = void (*)(Symbol*, int&, int, int, int);
+
+constexpr int StopUnknownFunction = 18800;
+constexpr int StopUnknownFunctionUnparsed = 11781;
+constexpr std::size_t ShortWord = 3; // the bracket check spares words up to this length
+
+const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+
+struct UpperName {
+    std::string text;
+    int hash = 0;
+
+    void Set(const std::string& name) {
+        text = name;
+        for (char& c : text)
+            if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+        hash = HashOfUpper(text);
+    }
+};
+
+// The name being looked up; its room is reused from token to token.
+UpperName upper;
+
+// Styles a name that a table knows, with what hangs on it.
+bool ColorFrom(clsHash& table, int style, Walker walker, int& index, int count, int lineStart) {
+    if (!table.ExistsU(upper.text, upper.hash)) return false;
+    Symbol* record = FoundItem;
+    FixVariableCase(record->Ime, index, lineStart);
+    if (index < count && IsAfterName[At(index + 1).Kind])
+        walker(record, index, count, lineStart, style);
+    else
+        Style(lineStart, At(index), static_cast<std::intptr_t>(At(index).Text.size()), style);
+    return true;
+}
+
+void ColorBad(int& index, int count, int lineStart) {
+    if (index < count && IsNameSuffix[At(index + 1).Kind])
+        ColorBadVar(index, count, lineStart, BadStyle);
+    else
+        Style(lineStart, At(index), static_cast<std::intptr_t>(At(index).Text.size()), BadStyle);
+}
+
+// A suffix that stands alone, or a bad word that begins with one.
+void ColorSuffix(int& index, int count, int lineStart) {
+    if (index < count && Touches(At(index), At(index + 1)))
+        ColorBadVar(index, count, lineStart, BadStyle);
+    else
+        Style(lineStart, At(index), 1, BadStyle);
+}
+
+bool LacksBracket(const ClsBBFunkcija& keyword, int index) {
+    return OptionsEdit::CheckForMissingBracesOnFunctions && keyword.MoraZagradi && At(index + 1).Kind != '(';
+}
+
+// Makes the function on a line the scope of the lines that follow. False when the table does not know it.
+bool EnterFunction(const std::string& name, int line) {
+    if (!gCurrentProject->Funkcii.ExistsOnlyHash(name)) return false;
+    const SymbolPointer record = gCurrentProject->Funkcii.ItemHandle(name, line, SciWndData);
+    if (!record) return false;
+    CurrentFunctionName = name;
+    CurrentLocals = static_cast<ClsFunkcija&>(*record).Locals;
+    return true;
+}
+
+// One line's pass.
+class LightPass {
+public:
+    LightPass(int line, bool sequential, int count, int lineStart)
+        : line_(line), sequential_(sequential), count_(count), lineStart_(lineStart) {}
+
+    void Run() {
+        for (index_ = 1; index_ <= count_; ++index_) {
+            const std::uint8_t kind = At(index_).Kind;
+            if (kind == TOK_IDENT) {
+                Identifier();
+            } else if (kind == '.' && index_ == 1 && NextIsName()) {
+                const Token& name = At(2);
+                Style(lineStart_, At(1), name.EndPos - At(1).StartPos, STYLE_Label);
+                ++index_;
+            } else if (IsNameSuffix[kind]) {
+                ColorSuffix(index_, count_, lineStart_);
+            } else if (IsBracket[kind]) {
+                Bracket(index_, lineStart_);
+            }
+        }
+    }
+
+private:
+    bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
+    const std::string& NextText() const { return At(index_ + 1).Text; }
+
+    void Identifier() {
+        ClsProject& project = *gCurrentProject;
+        upper.Set(At(index_).Text);
+        if (ColorFrom(project.Funkcii, STYLE_Function, ColorVar, index_, count_, lineStart_)) return;
+        if (const ClsBBFunkcija* keyword = FindKeyword(upper.text)) return Keyword(*keyword);
+        if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_);
+        if (ColorFrom(*CurrentLocals, STYLE_LocalVar, ColorVar, index_, count_, lineStart_) ||
+            ColorFrom(project.Globals, STYLE_GlobalVar, ColorVar, index_, count_, lineStart_) ||
+            ColorFrom(project.Arrays, STYLE_ArrayVar, ColorArrayVar, index_, count_, lineStart_) ||
+            ColorFrom(project.Constants, STYLE_Constant, ColorVar, index_, count_, lineStart_))
+            return;
+        ColorBad(index_, count_, lineStart_);
+    }
+
+    void Keyword(const ClsBBFunkcija& keyword) {
+        const std::size_t length = At(index_).Text.size();
+        Style(lineStart_, At(index_), static_cast<std::intptr_t>(length), STYLE_Keyword);
+        if (length > ShortWord && LacksBracket(keyword, index_)) {
+            Style(lineStart_, At(index_), static_cast<std::intptr_t>(length), BadStyle);
+            return;
+        }
+        if (!sequential_) return;
+        if (NextIsName())
+            Dispatch(keyword);
+        else
+            Suffix(keyword);
+    }
+
+    void Dispatch(const ClsBBFunkcija& keyword) {
+        ClsProject& project = *gCurrentProject;
+        switch (keyword.word) {
+        case Word::Function:
+            if (!EnterFunction(NextText(), line_)) SetStopErrorLog(StopUnknownFunction);
+            break;
+        case Word::End:
+            if (NextText() == "Function") {
+                ++index_;
+                CurrentFunctionName.clear();
+            } else if (NextText() == "Type") {
+                ++index_;
+                CurrentTypeName.clear();
+            }
+            break;
+        case Word::New:
+        case Word::Each:
+        case Word::Last:
+        case Word::First: NextFrom(project.Types, STYLE_Type); break;
+        case Word::Goto:
+        case Word::Gosub:
+        case Word::Restore: NextFrom(project.Labels, STYLE_Label); break;
+        case Word::Type: EnterType(); break;
+        case Word::Field: Fields(); break;
+        default: break;
+        }
+    }
+
+    // A type's or a label's name behind its keyword.
+    void NextFrom(clsHash& table, int style) {
+        if (!table.ExistsHash(NextText())) return;
+        const std::string spelling = FoundItem->Ime;
+        ++index_;
+        FixVariableCase(spelling, index_, lineStart_);
+        Style(lineStart_, At(index_), static_cast<std::intptr_t>(At(index_).Text.size()), style);
+    }
+
+    // The declared name keeps the style that the parser gave it.
+    void EnterType() {
+        if (!gCurrentProject->Types.ExistsHash(NextText())) return;
+        ++index_;
+        const std::string& name = At(index_).Text;
+        if (const SymbolPointer record = gCurrentProject->Types.ItemHandle(name, line_, SciWndData)) {
+            CurrentTypeName = name;
+            CurrentFields = static_cast<ClsType&>(*record).Fields;
+        }
+    }
+
+    void Fields() {
+        if (CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_);
+        if (CurrentTypeName.empty()) return;
+        while (NextIsName() && CurrentFields->ExistsHash(NextText())) {
+            Symbol* field = FoundItem;
+            ++index_;
+            ColorVar(field, index_, count_, lineStart_, STYLE_Type);
+            if (index_ >= count_ || At(index_ + 1).Kind != ',') return;
+            ++index_;
+        }
+    }
+
+    void Suffix(const ClsBBFunkcija& keyword) {
+        if (index_ >= count_) return;
+        const Token& next = At(index_ + 1);
+        if (next.Kind == '.' && keyword.word == Word::Object) {
+            Style(lineStart_, next, 1, STYLE_Separator);
+            ++index_;
+            if (NextIsName()) NextFrom(gCurrentProject->Types, STYLE_Type);
+        } else if (SuffixTip[next.Kind] != 0 && SuffixTip[next.Kind] == keyword.Tip &&
+                   Touches(At(index_), next)) {
+            Style(lineStart_, next, 1, STYLE_Keyword);
+            ++index_;
+        }
+    }
+
+    int line_;
+    bool sequential_;
+    int count_;
+    int lineStart_;
+    int index_ = 1;
+};
+
+} // namespace
+
+void ColorLineLight(int line, bool sequential) {
+    Guarded("ColorLineLight", "Mod_Parse", [&] {
+        const ColoringScope own;
+        ClearBrackets();
+        std::string text = Mod_Sci::LineText(line);
+        const int length = Mod_Lexer::FillLineBuffer(text);
+        if (length > LongestLine) return; // the parser has reported it
+        const int lineStart = static_cast<int>(Mod_Sci::PositionFromLine(line)) - 1;
+        gLineStyles.Begin(lineStart + 1, length, false);
+        LightPass(line, sequential, Mod_Lexer::Tokenize(text, length, true), lineStart).Run();
+        StyleOpenBrackets();
+        gLineStyles.Flush();
+    });
+}
+
+void ColorTokenLight(int& index, int count, int lineStart) {
+    const Token& token = At(index);
+    if (token.Kind != TOK_IDENT) {
+        if (IsBracket[token.Kind])
+            Bracket(index, lineStart);
+        else if (IsNameSuffix[token.Kind])
+            ColorSuffix(index, count, lineStart);
+        else
+            ColorToken(index, lineStart);
+        return;
+    }
+    ClsProject& project = *gCurrentProject;
+    upper.Set(token.Text);
+    if (ColorFrom(project.Funkcii, STYLE_Function, ColorVar, index, count, lineStart)) return;
+    if (const ClsBBFunkcija* keyword = FindKeyword(upper.text)) {
+        FixVariableCase(keyword->Ime, index, lineStart);
+        const bool bad = LacksBracket(*keyword, index) && !ColoringCurrentLine;
+        Style(lineStart, token, static_cast<std::intptr_t>(token.Text.size()),
+              bad ? BadStyle : STYLE_Keyword);
+        return;
+    }
+    if (ColorFrom(project.Globals, STYLE_GlobalVar, ColorVar, index, count, lineStart) ||
+        ColorFrom(*CurrentLocals, STYLE_LocalVar, ColorVar, index, count, lineStart) ||
+        ColorFrom(project.Arrays, STYLE_ArrayVar, ColorArrayVar, index, count, lineStart) ||
+        ColorFrom(project.Constants, STYLE_Constant, ColorVar, index, count, lineStart))
+        return;
+    if (!ColoringCurrentLine) return ColorBad(index, count, lineStart);
+    Style(lineStart, token, static_cast<std::intptr_t>(token.Text.size()), STYLE_Text);
+    if (!ACShownNow && gEngineCalls.Autocomplete && Mod_Sci::GetCurrentPos() == lineStart + token.EndPos)
+        gEngineCalls.Autocomplete();
+}
+
+void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) {
+    Guarded("ColorUnparsedLineLight", "Mod_Parse", [&] {
+        const ColoringScope own;
+        std::string copy = text;
+        const int length = Mod_Lexer::FillLineBuffer(copy);
+        if (length > LongestLine) return;
+        const int count = Mod_Lexer::Tokenize(copy, length, true);
+        for (int i = 1; i < count; ++i) {
+            if (At(i).Kind != TOK_IDENT || At(i + 1).Kind != TOK_IDENT || !sequential) continue;
+            const ClsBBFunkcija* keyword = KeywordOf(At(i));
+            if (keyword == nullptr) continue;
+            if (keyword->word == Word::Function) {
+                if (!EnterFunction(At(i + 1).Text, line)) SetStopErrorLog(StopUnknownFunctionUnparsed);
+            } else if (keyword->word == Word::End && EqualNoCase(At(i + 1).Text, "Function")) {
+                ++i;
+                CurrentFunctionName.clear();
+            }
+        }
+    });
+}
+
+void ReColorLine(int line) {
+    std::string text = Mod_Sci::LineText(line);
+    const int length = Mod_Lexer::FillLineBuffer(text);
+    if (length > LongestLine) return;
+    const int lineStart = static_cast<int>(Mod_Sci::PositionFromLine(line)) - 1;
+    const int count = Mod_Lexer::Tokenize(text, length, true);
+    const ColoringScope own;
+    gLineStyles.Begin(lineStart + 1, length, false);
+    for (int i = 1; i <= count; ++i) {
+        if (At(i).Kind != TOK_IDENT) continue;
+        const ClsBBFunkcija* keyword = KeywordOf(At(i));
+        if (keyword == nullptr || Mod_Sci::GetStyleAt(lineStart + At(i).StartPos) == STYLE_Keyword) continue;
+        if (At(i).Text != keyword->Ime) RewriteToken(keyword->Ime, i, lineStart);
+        Style(lineStart, At(i), static_cast<std::intptr_t>(keyword->Ime.size()), STYLE_Keyword);
+    }
+    gLineStyles.Flush();
+}
+
+void ReColorFile() {
+    Guarded("ReColorFile", "Mod_Parse", [&] {
+        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(true);
+        const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
+        for (int line = 0; line <= last; ++line) ReColorLine(line);
+        gActiveDoc->State.mOldStartLine = -100;
+        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(false);
+    });
+}
+
+} // namespace Mod_Parse

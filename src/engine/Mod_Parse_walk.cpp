@@ -1,0 +1,274 @@
+// The walkers that style more than one token: variables with what hangs on them, bad words, initialisers.
+#include "engine/Mod_Parse_walk.h"
+
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "engine/EngineCalls.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/Paths.h"
+#include "sci/Mod_Sci.h"
+
+namespace Mod_Parse {
+
+namespace {
+
+const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+
+bool CaretAt(int lineStart, int column) { return Mod_Sci::GetCurrentPos() == lineStart + column; }
+
+// Offers type names where the caret stands behind column `column` and a list was asked for.
+void OfferTypes(int lineStart, int column) {
+    if (ColoringCurrentLine && ACForced && !ACShownNow && gEngineCalls.AutocompleteType &&
+        CaretAt(lineStart, column))
+        gEngineCalls.AutocompleteType();
+}
+
+ClsType* FindType(const std::string& name) {
+    return gCurrentProject->Types.ExistsHash(name) ? static_cast<ClsType*>(FoundItem) : nullptr;
+}
+
+// One variable, its index and its chain of fields. The run begins at the name and goes on through the
+// fields; brackets interrupt it.
+class VariableWalk {
+public:
+    VariableWalk(Symbol* record, int& index, int count, int lineStart, int style, char bracket)
+        : record_(record), index_(index), count_(count), lineStart_(lineStart), style_(style),
+          bracket_(bracket), runStart_(At(index).StartPos) {}
+
+    void Run() {
+        bool inFields = false;
+        do {
+            TakeSuffix();
+            if (record_->Tip == TipCustom && !inFields) inFields = AtFields();
+            if (inFields || BehindBrackets()) inFields = Field();
+        } while (inFields);
+        DrawRun();
+    }
+
+private:
+    const Token& Next() const { return At(index_ + 1); }
+    bool HasNext() const { return index_ < count_; }
+    std::uint8_t NextKind() const { return HasNext() ? Next().Kind : static_cast<std::uint8_t>(TOK_NONE); }
+    bool Indexed() const { return bracket_ == '(' || record_->IsBBArray; }
+
+    void DrawRun() {
+        const int end = TokenEnd(At(index_));
+        if (runStart_ > 0 && end > runStart_)
+            gLineStyles.Set(lineStart_ + runStart_, end - runStart_, style_);
+        runStart_ = 0;
+    }
+
+    void TakeSuffix() {
+        const std::uint8_t next = NextKind();
+        if (next != TOK_NONE && record_->Tip != TipUnnamedType && SuffixTip[next] == record_->Tip) ++index_;
+    }
+
+    // The type name of a declaration is taken; answers whether the walk stands before a field.
+    bool AtFields() {
+        if (NextKind() == '\\') return !(bracket_ == '[' && record_->IsBBArray);
+        if (NextKind() != '.') return false;
+        ++index_;
+        if (NextKind() != TOK_IDENT) {
+            OfferTypes(lineStart_, At(index_).StartPos + 1);
+            return false;
+        }
+        ClsType* type = FindType(record_->Tajp);
+        if (type != nullptr && type->Ime != record_->Tajp) record_->Tajp = type->Ime;
+        if (type == nullptr || !EqualNoCase(Next().Text, record_->Tajp)) {
+            OfferTypes(lineStart_, Next().EndPos);
+            return false;
+        }
+        ++index_;
+        FixVariableCase(record_->Tajp, index_, lineStart_);
+        return !Indexed() && NextKind() == '\\';
+    }
+
+    // Walks an index in brackets, if one follows; answers whether a field follows the closing one.
+    bool BehindBrackets() {
+        if (!Indexed() || NextKind() != bracket_) return false;
+        DrawRun();
+        ++index_;
+        Bracket(index_, lineStart_);
+        const char close = bracket_ == '(' ? ')' : ']';
+        while (HasNext()) {
+            ++index_;
+            if (At(index_).Kind == close) {
+                Bracket(index_, lineStart_);
+                break;
+            }
+            ColorTokenLight(index_, count_, lineStart_);
+        }
+        if (record_->Tip != TipCustom || NextKind() != '\\') return false;
+        runStart_ = Next().StartPos;
+        return true;
+    }
+
+    // Stands before "\". Answers whether the chain goes on behind the field.
+    bool Field() {
+        const ClsType* type = FindType(record_->Tajp);
+        const int before = index_;
+        ++index_;
+        if (NextKind() != TOK_IDENT) {
+            if (type != nullptr) OfferFields(*type, "", At(index_).StartPos + 1);
+            return false;
+        }
+        ++index_;
+        if (type == nullptr || !type->Fields->ExistsHash(At(index_).Text)) {
+            if (type != nullptr) OfferFields(*type, At(index_).Text, At(index_).EndPos);
+            // An unknown field is a bad word of its own: the run ends at the variable.
+            index_ = before;
+            return false;
+        }
+        record_ = FoundItem;
+        bracket_ = '[';
+        FixVariableCase(record_->Ime, index_, lineStart_);
+        TakeSuffix();
+        if (record_->Tip == TipCustom && NextKind() == '\\' && !record_->IsBBArray) return true;
+        if (record_->Tip == TipCustom && NextKind() == '.') return AtFields();
+        return BehindBrackets();
+    }
+
+    void OfferFields(const ClsType& type, const std::string& typed, int column) {
+        if (ColoringCurrentLine && ACForced && gEngineCalls.AutocompleteBackSlash &&
+            CaretAt(lineStart_, column))
+            gEngineCalls.AutocompleteBackSlash(type.Ime, typed);
+    }
+
+    Symbol* record_;
+    int& index_;
+    int count_;
+    int lineStart_;
+    int style_;
+    char bracket_;
+    int runStart_; // column of what is not drawn yet; 0 when all is
+};
+
+struct OpenBracket {
+    std::intptr_t position = 0;
+    bool round = false;
+};
+
+constexpr int MostBrackets = 200;
+OpenBracket brackets[MostBrackets];
+int topBracket = 0;
+
+} // namespace
+
+ColoringScope::ColoringScope() : before_(Coloring) { Coloring = true; }
+ColoringScope::~ColoringScope() { Coloring = before_; }
+
+int TokenEnd(const Token& token) {
+    return token.Kind == TOK_IDENT || token.Kind == TOK_NUMBER ? token.EndPos : token.StartPos + 1;
+}
+
+const ClsBBFunkcija* KeywordOf(const Token& token) {
+    static std::string upper;
+    upper.assign(token.Text);
+    for (char& c : upper)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+    return FindKeyword(upper);
+}
+
+bool Touches(const Token& first, const Token& next) { return TokenEnd(first) == next.StartPos; }
+
+void RewriteToken(const std::string& spelling, int index, int lineStart) {
+    Token& token = Tokens[static_cast<std::size_t>(index)];
+    const ColoringScope own;
+    const std::intptr_t start = lineStart + token.StartPos;
+    Mod_Sci::ReplaceRange(start, start + static_cast<std::intptr_t>(token.Text.size()), spelling);
+    token.Text = spelling;
+}
+
+void FixVariableCase(const std::string& spelling, int index, int lineStart) {
+    const Token& token = At(index);
+    if (!OptionsEdit::FixVariableCase || token.Text == spelling || token.Text.size() != spelling.size())
+        return;
+    const std::intptr_t caret = Mod_Sci::GetCurrentPos();
+    if (caret >= lineStart + token.StartPos && caret <= lineStart + token.EndPos) return;
+    Mod_Sci::SetUndoCollection(0);
+    RewriteToken(spelling, index, lineStart);
+    Mod_Sci::SetUndoCollection(1);
+}
+
+void ColorToken(int index, int lineStart) {
+    const Token& token = At(index);
+    if (token.Kind == TOK_NUMBER) {
+        Style(lineStart, token, token.EndPos - token.StartPos, STYLE_Number);
+    } else if (token.Kind == TOK_STRING) {
+        Style(lineStart, token, token.EndPos - token.StartPos + 1, STYLE_String);
+    } else if (token.Kind == ',' || token.Kind == ':') {
+        Style(lineStart, token, 1, STYLE_Separator);
+    } else if (token.Kind == TOK_IDENT) {
+        const ClsBBFunkcija* keyword = KeywordOf(token);
+        if (keyword == nullptr) return;
+        if (token.Text != keyword->Ime) RewriteToken(keyword->Ime, index, lineStart);
+        Style(lineStart, token, static_cast<std::intptr_t>(keyword->Ime.size()), STYLE_Keyword);
+    } else if (IsOperator[token.Kind]) {
+        Style(lineStart, token, 1, STYLE_Operator);
+    }
+}
+
+void ColorExprDoZapirka(int& index, int count, int lineStart) {
+    int depth = 0;
+    for (; index < count; ++index) {
+        const Token& token = At(index);
+        if (token.Kind == '(') {
+            ++depth;
+            Style(lineStart, token, 1, STYLE_Separator);
+        } else if (token.Kind == ')') {
+            Style(lineStart, token, 1, STYLE_Separator);
+            if (--depth < 0) return;
+        } else if (token.Kind == ':' || token.Kind == ',') {
+            if (depth == 0) return;
+            ColorToken(index, lineStart);
+        } else {
+            ColorToken(index, lineStart);
+        }
+    }
+}
+
+void ColorVar(Symbol* record, int& index, int count, int lineStart, int style) {
+    VariableWalk(record, index, count, lineStart, style, '[').Run();
+}
+
+void ColorArrayVar(Symbol* record, int& index, int count, int lineStart, int style) {
+    VariableWalk(record, index, count, lineStart, style, '(').Run();
+}
+
+void ColorBadVar(int& index, int count, int lineStart, int style) {
+    const Token& first = At(index);
+    int end = TokenEnd(first);
+    for (;;) {
+        while (index < count && At(index + 1).Kind == TOK_IDENT && At(index + 1).StartPos == end)
+            end = At(++index).EndPos;
+        if (index >= count || !IsNameSuffix[At(index + 1).Kind] || At(index + 1).StartPos != end) break;
+        ++index;
+        ++end;
+    }
+    Style(lineStart, first, end - first.StartPos, style);
+}
+
+void ClearBrackets() { topBracket = 0; }
+
+void Bracket(int index, int lineStart) {
+    const Token& token = At(index);
+    if (!IsCloseBracket[token.Kind]) {
+        if (++topBracket >= MostBrackets) topBracket = 1;
+        brackets[topBracket] = {lineStart + token.StartPos, token.Kind == '('};
+        Style(lineStart, token, 1, STYLE_Separator);
+        return;
+    }
+    bool matched = false;
+    if (topBracket > 0) {
+        matched = brackets[topBracket].round == (token.Kind == ')');
+        --topBracket;
+    }
+    Style(lineStart, token, 1, matched ? STYLE_Separator : STYLE_BraceBad);
+}
+
+void StyleOpenBrackets() {
+    for (; topBracket > 0; --topBracket) gLineStyles.Set(brackets[topBracket].position, 1, STYLE_BraceBad);
+}
+
+} // namespace Mod_Parse

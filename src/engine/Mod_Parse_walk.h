@@ -1,0 +1,65 @@
+// Shared by the parser and the colourers: the walkers over Tokens. For the engine's own files.
+// `index` stands on a token, from 1, and ends on the last one that the walker consumed; `lineStart` is the
+// position in front of column 1.
+#pragma once
+
+#include "engine/LineStyles.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/Symbols.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+struct ClsBBFunkcija;
+
+namespace Mod_Parse {
+
+// Raises Coloring for as long as it lives and puts back what it was.
+class ColoringScope {
+public:
+    ColoringScope();
+    ~ColoringScope();
+    ColoringScope(const ColoringScope&) = delete;
+    ColoringScope& operator=(const ColoringScope&) = delete;
+
+private:
+    bool before_;
+};
+
+// The column behind a token: EndPos of a word or a number, one further for a single character.
+int TokenEnd(const Token& token);
+// The keyword that a token is; null when it is none.
+const ClsBBFunkcija* KeywordOf(const Token& token);
+// Whether one token begins where the other ends.
+bool Touches(const Token& first, const Token& next);
+
+inline void Style(int lineStart, const Token& token, std::intptr_t length, int style) {
+    gLineStyles.Set(lineStart + token.StartPos, length, style);
+}
+
+// Rewrites a token's extent, which keeps its length, and its Text. It enters the undo history.
+void RewriteToken(const std::string& spelling, int index, int lineStart);
+// The same outside the undo history, unless the option is off or the caret stands at the token.
+void FixVariableCase(const std::string& spelling, int index, int lineStart);
+
+// A literal, keyword, separator or operator inside an initialiser or bounds, without symbol look-up.
+void ColorToken(int index, int lineStart);
+// An initialiser up to the next comma or colon at depth 0. The line's last token is left to the caller.
+void ColorExprDoZapirka(int& index, int count, int lineStart);
+
+// A variable with its suffix, [...] and \field chain as runs of one style.
+void ColorVar(Symbol* record, int& index, int count, int lineStart, int style);
+// The same for an array, with (...).
+void ColorArrayVar(Symbol* record, int& index, int count, int lineStart, int style);
+// A word made of touching pieces that has no declaration.
+void ColorBadVar(int& index, int count, int lineStart, int style);
+// One token inside brackets, by what it means.
+void ColorTokenLight(int& index, int count, int lineStart);
+
+// Brackets of the pass: clear before it, push or close each one, and style what stayed open after it.
+void ClearBrackets();
+void Bracket(int index, int lineStart);
+void StyleOpenBrackets();
+
+} // namespace Mod_Parse

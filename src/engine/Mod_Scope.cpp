@@ -1,0 +1,182 @@
+// Scope and indentation are read off the markers and the line above when they are asked for.
+#include "engine/Mod_Parse.h"
+
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "engine/DocumentRecord.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/ErrorLog.h"
+#include "sci/Mod_Sci.h"
+
+#include <cmath>
+
+namespace Mod_Parse {
+
+namespace {
+
+using Word = ClsBBFunkcija::Word;
+
+// The text that the tables know of a line: that of before the edit while the line is being edited.
+std::string KnownText(int line) {
+    const PipelineState& state = gActiveDoc->State;
+    return line == state.UnparsedLine ? state.UnparsedText : Mod_Sci::LineText(line);
+}
+
+// Scans a line with the light scanner; answers its token count. A line beyond the limits counts as empty.
+int ScanLight(std::string line) {
+    const int length = Mod_Lexer::FillLightBuffer(line);
+    return length > LongestLine ? 0 : Mod_Lexer::TokenizeLightPomosna(line, length);
+}
+
+// The name behind the first `word` of a line, empty where there is none.
+std::string NameBehind(const std::string& text, std::string_view word) {
+    const int count = ScanLight(text);
+    for (int i = 1; i < count; ++i) {
+        const Token& token = LightTokens[static_cast<std::size_t>(i)];
+        const Token& next = LightTokens[static_cast<std::size_t>(i) + 1];
+        if (token.Kind == TOK_IDENT && token.Text == word && next.Kind == TOK_IDENT) return next.Text;
+    }
+    return {};
+}
+
+struct ScopeFound {
+    std::string name;
+    SymbolPointer record;
+};
+
+// The record of the scope that a line lies in: walk back to the nearest opening or closing line and
+// read that one line.
+ScopeFound FindScope(int line, int marker, std::string_view word, clsHash& table) {
+    // A line whose name the table does not know is passed over once; more cannot be told from markers.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const int at = static_cast<int>(Mod_Sci::MarkerPrevious(line - attempt, MaskOf(marker)));
+        if (at < 0 || HasMarker(at, MarkerFoldCloses)) return {};
+        const std::string name = NameBehind(KnownText(at), word);
+        if (name.empty()) return {};
+        if (SymbolPointer record = table.ItemHandle(name, at, SciWndData)) return {name, std::move(record)};
+    }
+    return {};
+}
+
+// What the words of a line open and close for the line below.
+struct Levels {
+    int opens = 0;
+    int closes = 0;
+
+    void General() {
+        if (opens >= 1)
+            --opens;
+        else
+            ++closes;
+    }
+};
+
+const ClsBBFunkcija* KeywordAt(int index) {
+    const Token& token = LightTokens[static_cast<std::size_t>(index)];
+    return token.Kind == TOK_IDENT ? FindKeyword(UCase(token.Text)) : nullptr;
+}
+
+void CountEndScope(Levels& levels, Word word, int index, int count) {
+    const Token& next = LightTokens[static_cast<std::size_t>(index) + 1];
+    const bool last = index == count;
+    switch (word) {
+    case Word::End:
+        if (next.Kind == TOK_IDENT && EqualNoCase(next.Text, "Select")) ++levels.closes;
+        levels.General();
+        break;
+    case Word::Then:
+        if (!last && next.Kind != TOK_COMMENT) levels.General();
+        break;
+    case Word::Else: {
+        // The word behind an Else is read from the full scanner's array, as its last pass left it.
+        const Token& full = Tokens[static_cast<std::size_t>(index) + 1];
+        if (full.Kind == TOK_COMMENT || last) {
+            ++levels.closes;
+            ++levels.opens;
+        } else if (full.Kind == TOK_IDENT && EqualNoCase(full.Text, "If") && index == 1) {
+            ++levels.closes;
+        }
+        break;
+    }
+    case Word::ElseIf:
+        if (index == 1) ++levels.closes;
+        break;
+    case Word::Case:
+    case Word::Default: ++levels.closes; break;
+    default: levels.General();
+    }
+}
+
+Levels CountLevels(int count) {
+    Levels levels;
+    for (int i = 1; i <= count; ++i) {
+        const ClsBBFunkcija* keyword = KeywordAt(i);
+        if (keyword == nullptr) continue;
+        if (keyword->IsStartScope) levels.opens += keyword->word == Word::Select ? 2 : 1;
+        if (keyword->IsEndScope) CountEndScope(levels, keyword->word, i, count);
+    }
+    return levels;
+}
+
+} // namespace
+
+bool HasMarker(int line, int marker) { return (Mod_Sci::MarkerGet(line) & MaskOf(marker)) != 0; }
+
+std::string CurrentFunction(int line) {
+    return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {
+        ScopeFound found = FindScope(line, MarkerFunction, "Function", gCurrentProject->Funkcii);
+        if (!found.record) {
+            CurrentLocals = gCurrentProject->MainFunLocals;
+            return MainProgram;
+        }
+        CurrentLocals = static_cast<ClsFunkcija&>(*found.record).Locals;
+        return found.name;
+    });
+}
+
+std::string CurrentType(int line) {
+    return Guarded("CurrentType", "Mod_Parse", std::string(), [&] {
+        ScopeFound found = FindScope(line, MarkerType, "Type", gCurrentProject->Types);
+        if (found.record) CurrentFields = static_cast<ClsType&>(*found.record).Fields;
+        return found.name;
+    });
+}
+
+std::string CurrentFunctionForDisplay(int line) {
+    return Guarded("CurrentFunctionForDisplay", "Mod_Parse", std::string(), [&]() -> std::string {
+        int at = line;
+        for (int from = line;; --from) {
+            at = static_cast<int>(Mod_Sci::MarkerPrevious(from, MaskOf(MarkerFunction)));
+            if (at < 0) return MainProgram;
+            if (!HasMarker(at, MarkerFoldCloses)) break;
+            // The line that ends a function still counts as its own.
+            if (at != from) return MainProgram;
+        }
+        std::string name = NameBehind(KnownText(at), "Function");
+        return name.empty() ? MainProgram : name;
+    });
+}
+
+int GetNextIndent(int line) {
+    return Guarded("GetNextIndent", "Mod_Parse", 1, [&] {
+        int level = 1;
+        int count = 0;
+        for (;; --line) {
+            if (line < 0) return 1;
+            level = static_cast<int>(std::nearbyint(static_cast<double>(Mod_Sci::GetLineIndentation(line)) /
+                                                    std::max(1, OptionsEdit::TabValue))) +
+                    1;
+            if (Mod_Sci::LineLength(line) == 0) return level;
+            count = ScanLight(Mod_Sci::LineText(line));
+            if (count > 0) break;
+        }
+        const Levels levels = CountLevels(count);
+        level += levels.opens;
+        if (!HasMarker(line, MarkerParsed)) level -= levels.closes;
+        return level;
+    });
+}
+
+} // namespace Mod_Parse

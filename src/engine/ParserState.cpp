@@ -1,0 +1,17 @@
+// The shared state of parser and colourers.
+#include "engine/ParserState.h"
+
+std::string CurrentFunctionName;
+std::string CurrentTypeName;
+std::shared_ptr<clsHash> CurrentLocals;
+std::shared_ptr<clsHash> CurrentFields;
+int FoldLevel = 0;
+int IndentLevel = 0;
+bool ParsingFile = false;
+bool Coloring = false;
+bool gSymbolsChanged = false;
+int BadStyle = 0;
+bool ColoringCurrentLine = false;
+bool ACForced = false;
+bool ACShownNow = false;
+bool InDeclaration = false;

@@ -1,0 +1,219 @@
+// The common front of the compiler's commands: save, choose the file, find the compiler, start it.
+#include "toolchain/Mod_Compiler.h"
+
+#include "documents/Mod_File.h"
+#include "documents/Options.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "host/Desktop.h"
+#include "host/Dialogs.h"
+#include "host/ErrorLog.h"
+#include "host/Files.h"
+#include "host/Host.h"
+#include "host/Processes.h"
+#include "host/SettingsStore.h"
+#include "toolchain/CompilerOutput.h"
+#include "toolchain/ToolchainCalls.h"
+
+ToolchainCalls gToolchainCalls;
+
+namespace Mod_Compiler {
+
+std::string gLastCompiledFile;
+bool gCreatingExe = false;
+std::string gTargetExe;
+
+namespace {
+
+enum class Job { Run, Check, Build };
+
+void Exclaim(std::string text, std::string title = {}) {
+    gHost.dialogs->Show({std::move(text), MessageIcon::Exclamation, std::move(title)});
+}
+
+// The file of a document that belongs to no project; nothing when a save was cancelled.
+bool SingleFileToCompile(Job job, std::string& path) {
+    frmDoc& document = *ActiveForm();
+    if (job != Job::Build && document.NewFile) {
+        path = CollapseSeparators(AppDir() + "/Temp/New.bb");
+        return Mod_File::WriteTextFile(path);
+    }
+    if (document.Dirty && !Mod_File::SaveFile(&document)) return false;
+    if (path.empty() || (job == Job::Build && path.starts_with('{'))) path = document.FullFilename;
+    return true;
+}
+
+bool ProjectFileToCompile(std::string& path) {
+    const ClsProject& project = *gCurrentProject;
+    const auto main = project.Files.Find(project.MainFile);
+    if (!main) {
+        Exclaim("Please Set the 'Main File' for this project first...", "Operation aborted");
+        return false;
+    }
+    Mod_File::SaveProjectFiles();
+    path = gHost.files->Find(CollapseSeparators(project.Path + ToDisk(main->AbsPath)));
+    return true;
+}
+
+// The compiler's executable: a Windows one where it is there, else a native one; empty when neither is.
+std::string CompilerFile(const std::string& folder) {
+    const std::string windows = gHost.files->Find(CollapseSeparators(folder + "/bin/blitzcc.exe"));
+    if (gHost.files->Kind(windows) == PathKind::File) return windows;
+    const std::string native = gHost.files->Find(CollapseSeparators(folder + "/bin/blitzcc"));
+    return gHost.files->Kind(native) == PathKind::File ? native : std::string();
+}
+
+bool FindCompiler(std::string& shortPath) {
+    const std::string file = CompilerFile(gActiveCompiler->Folder());
+    if (file.empty()) {
+        gHost.dialogs->Show({"Specified compiler not found on location :\r" +
+                                 CollapseSeparators(gActiveCompiler->Folder() + "/bin/blitzcc.exe") +
+                                 "\rPlease check your compiler settings !",
+                             MessageIcon::Exclamation});
+        return false;
+    }
+    shortPath = gHost.desktop->ShortPath(file);
+    if (shortPath.empty())
+        gHost.dialogs->Show({"Could not get compiler's short path", MessageIcon::Critical});
+    return !shortPath.empty();
+}
+
+std::string AskForTarget(const std::string& path) {
+    FileQuestion question{"Create Executable", "Executables (*.exe)|*.exe", path, {}, false};
+    question.fileName.resize(question.fileName.size() - std::min<std::size_t>(3, question.fileName.size()));
+    if (question.fileName.ends_with('.')) question.fileName.pop_back();
+    question.fileName += ".exe";
+    return gHost.dialogs->SaveFile(question);
+}
+
+// Every run of two blanks becomes one, in one pass from the left.
+std::string CollapseBlanks(const std::string& command) {
+    std::string collapsed;
+    for (std::size_t i = 0; i < command.size(); ++i) {
+        collapsed += command[i];
+        if (command[i] == ' ' && i + 1 < command.size() && command[i + 1] == ' ') ++i;
+    }
+    return collapsed;
+}
+
+std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
+bool StartJob(Job job, std::string path, bool debug) {
+    if (!DocumentActive() || !gCurrentProject) return false;
+    if (!gActiveCompiler) throw Failure(91, "No compiler is active");
+    gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
+    if (!(gCurrentProject->SingleFile ? SingleFileToCompile(job, path) : ProjectFileToCompile(path)))
+        return false;
+    if (Options::gOnCompileSave == 0) Mod_File::SaveAllFiles();
+    std::string target;
+    if (job == Job::Build) {
+        target = AskForTarget(path);
+        if (target.empty()) return false;
+    }
+    std::string compiler;
+    if (!FindCompiler(compiler)) return false;
+
+    std::string command = Quoted(compiler) + " ";
+    if (job == Job::Run && debug) command += " -d ";
+    if (job == Job::Check) command += " -c ";
+    if (job == Job::Build) command += " -o " + Quoted(target) + " ";
+    command += Quoted(path);
+    if (job == Job::Run && !gCurrentProject->CommandLine.empty())
+        command += " " + gCurrentProject->CommandLine;
+    command = CollapseBlanks(command);
+
+    frmDoc& document = *ActiveForm();
+    if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
+    if (job == Job::Run && gActiveCompiler->RealConsole) {
+        gHost.processes->StartDetached(command);
+        return false;
+    }
+    CompilerOutput::Listen(document);
+    constexpr const char* labels[] = {"Compiling program...", "Checking for errors...",
+                                      "Creating executable..."};
+    if (gToolchainCalls.ShowCompiling) gToolchainCalls.ShowCompiling(labels[static_cast<int>(job)]);
+    if (gToolchainCalls.SetCompilingValue) gToolchainCalls.SetCompilingValue(0);
+    gCreatingExe = job == Job::Build;
+    if (gCreatingExe) gTargetExe = target;
+    if (job == Job::Run)
+        document.ShellClass->Execute(command, compiler, "");
+    else
+        document.ShellClass->ExecuteNoCheck(command, "");
+    return false;
+}
+
+} // namespace
+
+bool Compile(const std::string& path, bool debug) {
+    return Guarded("Compile", "Mod_Compiler", false, [&] {
+        gLastCompiledFile = path;
+        return StartJob(Job::Run, path, debug);
+    });
+}
+
+bool CheckForErrors(const std::string& path) {
+    return Guarded("CheckForErrors", "Mod_Compiler", false,
+                   [&] { return StartJob(Job::Check, path, false); });
+}
+
+bool CreateExe(const std::string& path) {
+    return Guarded("CreateExe", "Mod_Compiler", false, [&] { return StartJob(Job::Build, path, false); });
+}
+
+void CompileLast() {
+    if (gHost.dock == nullptr) return;
+    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(gLastCompiledFile)) {
+        window->Activate();
+        if (window->HostedForm() != nullptr) MakeActive(static_cast<frmDoc*>(window->HostedForm()));
+    }
+    if (DocumentActive()) Compile(ActiveForm()->FullFilename, false);
+}
+
+void RunLastCreated() {
+    if (Options::gLastCreatedExe.empty()) return;
+    if (gHost.files->Kind(Options::gLastCreatedExe) != PathKind::File) {
+        Exclaim("File " + Options::gLastCreatedExe + " not found !");
+        return;
+    }
+    if (const SystemError error = gHost.processes->StartDetached(Quoted(Options::gLastCreatedExe)))
+        Exclaim(error.text);
+}
+
+void StopRunning() {
+    if (DocumentActive() && ActiveForm()->ShellClass->Running()) ActiveForm()->ShellClass->Terminate();
+}
+
+void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath) {
+    Guarded("RefreshDefinitions", "Mod_Compiler", [&] {
+        gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(compilerPath));
+        const std::string compiler = CompilerFile(compilerPath);
+        if (compiler.empty()) {
+            gHost.dialogs->Show(
+                {"Could not find compiler (blitzcc.exe) on specified location: \r" + compilerPath +
+                     "\r Make sure you have selected correct Blitz Path and at least v1.78 of Blitz "
+                     "installed !",
+                 MessageIcon::None, "Error"});
+            return;
+        }
+        constexpr int MostMilliseconds = 10000;
+        constexpr long long SmallestKeywordFile = 3000;
+        const std::string target = AppPath("Conf\\" + compilerName + ".lng");
+        if (gHost.files->Kind(target) == PathKind::None) Mod_File::CreateEmptyFile(target);
+        gHost.desktop->SetWaitCursor(true);
+        gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
+        gHost.desktop->SetWaitCursor(false);
+        if (gHost.files->Size(target) >= SmallestKeywordFile) {
+            gCompilers.Item(compilerName)->LoadKeywords();
+            gHost.dialogs->Show(
+                {"Keyword definitions for this compiler successfully created !", MessageIcon::Information});
+        } else {
+            gHost.dialogs->Show(
+                {" Error while creating keyword definitions file !\r\n\r\n See " + target + " for details",
+                 MessageIcon::Critical});
+        }
+        if (gActiveDoc != nullptr) gActiveDoc->State.mOldStartLine = -100;
+    });
+}
+
+} // namespace Mod_Compiler
