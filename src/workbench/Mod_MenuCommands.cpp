@@ -4,9 +4,9 @@
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
-#include "engine/BadStyle.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "engine/ParserState.h"
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
@@ -38,7 +38,7 @@ void Route(DockCommand& command, int item) {
     for (const RoutedCommand& route : Routes()) {
         if (command.Name() != route.name) continue;
         if (!route.run) return;
-        if (route.cancelFirst && DocumentActive()) Mod_Sci::Cancel();
+        if (route.cancelFirst && DocumentActive()) Mod_Sci::Send(SCI_CANCEL);
         return route.run({command, item});
     }
 }

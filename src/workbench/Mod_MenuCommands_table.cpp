@@ -53,7 +53,8 @@ void FocusCommandLine(const Click&) {
 }
 
 void ToggleFold(const Click&) {
-    if (ShowFoldMargin != 0) Mod_Folding::ToggleFold(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
+    if (OptionsEdit::ShowFoldMargin == 0 || !DocumentActive()) return;
+    Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
 void NotAvailable(const Click&) {

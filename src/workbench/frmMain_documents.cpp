@@ -38,23 +38,6 @@ void SetBox(const char* name, const std::string& text) {
     if (DockCommand* box = gHost.dock->FindCommand(name)) box->SetText(text);
 }
 
-// Takes a closed document out of its project, and with a single file the project itself.
-void Unload(frmDoc& document) {
-    // The last owner goes with the entry, so nothing may look at the document afterwards.
-    const std::string project = document.PrjFullPath;
-    const std::string path = document.FullFilename;
-    const bool single = document.SingleFile;
-    if (gActiveDoc == &document) MakeActive(nullptr);
-    const auto owner = gProjects.Find(project);
-    if (!owner) return;
-    if (single) {
-        gProjects.RemoveKey(project);
-        if (gCurrentProject == owner) gCurrentProject = nullptr;
-    } else if (owner->Sources.Exist_Key(path)) {
-        owner->Sources.RemoveKey(path);
-    }
-}
-
 }
 
 void frmMain::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
@@ -103,7 +86,7 @@ void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {
     Guarded("DS_DocumentWindowHidden", "frmMain", [&] {
         frmDoc* document = DocumentOf(window);
         window.Attach(nullptr);
-        if (document) Unload(*document);
+        if (document) UnloadDocument(document);
         gHost.dock->DropDocumentWindow(window);
         UpdateCommandUI();
     });

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFontDatabase>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
@@ -84,6 +85,12 @@ ScreenSize QtDesktop::Screen() {
     if (!screen) return {};
     return {screen->availableVirtualGeometry().width() * TwipsPerPixel,
             screen->availableVirtualGeometry().height() * TwipsPerPixel};
+}
+
+std::string QtDesktop::FontFor(const std::string& name) {
+    const QString face = Shown(name);
+    if (!face.isEmpty() && QFontDatabase::hasFamily(face)) return name;
+    return Typed(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
 }
 
 std::string QtDesktop::Date() { return Typed(QDate::currentDate().toString(Qt::ISODate)); }

@@ -20,6 +20,7 @@ public:
     bool ShiftDown() override;
     bool ControlDown() override;
     ScreenSize Screen() override;
+    std::string FontFor(const std::string& name) override;
     std::string Date() override;
     std::string Time() override;
     std::string OsName() override;

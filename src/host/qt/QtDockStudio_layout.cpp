@@ -73,11 +73,14 @@ WindowPlace QtDockStudio::Place() {
 }
 
 void QtDockStudio::SetPlace(const WindowPlace& place) {
-    window_.move(place.left / TwipsPerPixel, place.top / TwipsPerPixel);
-    window_.resize(place.width / TwipsPerPixel, place.height / TwipsPerPixel);
+    const WindowPlace now = Place();
+    // A maximised window that is moved falls back to its normal size on some desktops.
+    if (place.left != now.left || place.top != now.top)
+        window_.move(place.left / TwipsPerPixel, place.top / TwipsPerPixel);
+    if (place.width != now.width || place.height != now.height)
+        window_.resize(place.width / TwipsPerPixel, place.height / TwipsPerPixel);
     wantedState_ = place.state;
-    if (!window_.isVisible()) return;
-    ShowWindow();
+    if (window_.isVisible() && place.state != now.state) ShowWindow();
 }
 
 void QtDockStudio::ShowWindow() {
