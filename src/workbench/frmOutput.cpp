@@ -12,6 +12,14 @@ namespace {
 // A longer line is shown in pieces, because laying out one line of a megabyte freezes the pane.
 constexpr std::size_t LongestPiece = 4000;
 
+constexpr int LinesAtFirst = 8;
+
+// Asks for a low pane where its size was never set.
+class OutputText : public QPlainTextEdit {
+public:
+    QSize sizeHint() const override { return {400, LinesAtFirst * fontMetrics().lineSpacing()}; }
+};
+
 }
 
 frmOutput& frmOutput::Instance() {
@@ -19,7 +27,7 @@ frmOutput& frmOutput::Instance() {
     return pane;
 }
 
-frmOutput::frmOutput() : text_(new QPlainTextEdit) {
+frmOutput::frmOutput() : text_(new OutputText) {
     text_->setReadOnly(true);
     text_->setUndoRedoEnabled(false);
     text_->setMaximumBlockCount(MostLines);
