@@ -49,7 +49,7 @@ public:
     // Puts a form into the window; null takes out what was there.
     virtual void Attach(Form* form) = 0;
     virtual bool Visible() const = 0;
-    // Hiding asks DS_DocumentWindowHiding first; it stays visible where that was cancelled.
+    // Showing makes it the active window. Hiding asks DS_DocumentWindowHiding first; it stays visible where that was cancelled.
     virtual void SetVisible(bool visible) = 0;
     virtual void Activate() = 0;
     // Whether it is the front window of its tab group.

@@ -63,3 +63,7 @@ struct Layout {
 // Reads an arrangement whole. Throws a Failure that names what is wrong with it.
 Layout ParseLayout(std::string_view bytes);
 std::string WriteLayout(const Layout& layout);
+
+// Adds to a stored arrangement what the present one has and it does not know: commands, bars and panes that
+// are newer than the file. So an arrangement of an older version of the program keeps working.
+void AddWhatIsNew(const Layout& present, Layout& stored);

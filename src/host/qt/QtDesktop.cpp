@@ -87,26 +87,10 @@ ScreenSize QtDesktop::Screen() {
             screen->availableVirtualGeometry().height() * TwipsPerPixel};
 }
 
-// Asking the font data base is slow, so each name is asked once.
 std::string QtDesktop::FontFor(const std::string& name) {
-    static std::map<std::string, std::string> known;
-    const auto at = known.find(name);
-    if (at != known.end()) return at->second;
-    QStringList wanted{QString::fromStdString(name),
-                       "DejaVu Sans Mono",
-                       "Noto Sans Mono",
-                       "Liberation Mono",
-                       "Ubuntu Mono",
-                       "Hack",
-                       "FreeMono"};
-    wanted << QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    QString found = wanted.last();
-    for (const QString& family : wanted) {
-        if (!QFontDatabase::hasFamily(family)) continue;
-        found = family;
-        break;
-    }
-    return known[name] = found.toStdString();
+    const QString face = Shown(name);
+    if (!face.isEmpty() && QFontDatabase::hasFamily(face)) return name;
+    return Typed(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
 }
 
 std::string QtDesktop::Date() { return Typed(QDate::currentDate().toString(Qt::ISODate)); }

@@ -55,6 +55,7 @@ private:
     QtBar* Bar(const std::string& name);
     QtPane* Pane(const std::string& name);
     void Apply(const Layout& layout);
+    Layout Present();
     void AddPane(const LayoutPane& record);
     void EntriesChanged(const std::string& bar);
 

@@ -14,7 +14,20 @@ enum : int { Normal = 0, Minimised = 1, Maximised = 2 };
 
 }
 
-void QtDockStudio::LoadLayout(const std::string& path) { Apply(ParseLayout(QtFiles().Read(path))); }
+void QtDockStudio::LoadLayout(const std::string& path) {
+    Layout layout = ParseLayout(QtFiles().Read(path));
+    AddWhatIsNew(Present(), layout);
+    Apply(layout);
+}
+
+Layout QtDockStudio::Present() {
+    Layout layout;
+    for (const auto& command : table_.All()) layout.commands.push_back(command->Record());
+    for (const auto& bar : bars_) layout.bars.push_back(bar->Record());
+    for (const auto& pane : panes_) layout.panes.push_back(pane->Record());
+    layout.start = start_;
+    return layout;
+}
 
 void QtDockStudio::Apply(const Layout& layout) {
     window_.setUpdatesEnabled(false);
@@ -39,11 +52,7 @@ void QtDockStudio::Apply(const Layout& layout) {
 }
 
 void QtDockStudio::SaveLayout(const std::string& path) {
-    Layout layout;
-    for (const auto& command : table_.All()) layout.commands.push_back(command->Record());
-    for (const auto& bar : bars_) layout.bars.push_back(bar->Record());
-    for (const auto& pane : panes_) layout.panes.push_back(pane->Record());
-    layout.start = start_;
+    Layout layout = Present();
     layout.windowState = window_.saveState().toBase64().toStdString();
     QtFiles files;
     if (const auto separator = path.find_last_of('/'); separator != path.npos && separator > 0)
@@ -64,11 +73,14 @@ WindowPlace QtDockStudio::Place() {
 }
 
 void QtDockStudio::SetPlace(const WindowPlace& place) {
-    window_.move(place.left / TwipsPerPixel, place.top / TwipsPerPixel);
-    window_.resize(place.width / TwipsPerPixel, place.height / TwipsPerPixel);
+    const WindowPlace now = Place();
+    // A maximised window that is moved falls back to its normal size on some desktops.
+    if (place.left != now.left || place.top != now.top)
+        window_.move(place.left / TwipsPerPixel, place.top / TwipsPerPixel);
+    if (place.width != now.width || place.height != now.height)
+        window_.resize(place.width / TwipsPerPixel, place.height / TwipsPerPixel);
     wantedState_ = place.state;
-    if (!window_.isVisible()) return;
-    ShowWindow();
+    if (window_.isVisible() && place.state != now.state) ShowWindow();
 }
 
 void QtDockStudio::ShowWindow() {

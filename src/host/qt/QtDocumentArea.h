@@ -22,6 +22,7 @@ public:
     std::vector<DocumentWindow*> Windows() const;
     void Drop(DocumentWindow& window);
 
+    // Gives it a tab, without making it the active window.
     void Show(QtDocumentWindow& window);
     // Asks first; the window may be gone when this returns.
     void Hide(QtDocumentWindow& window);

@@ -77,7 +77,7 @@ TabGroup* QtDocumentWindow::Group() const { return page_ ? area_.GroupOf(page_) 
 
 void QtDocumentWindow::SetVisible(bool visible) {
     if (visible)
-        area_.Show(*this);
+        area_.Activate(*this);
     else
         area_.Hide(*this);
 }

@@ -3,12 +3,18 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QTabBar>
+#include <QToolButton>
+
+namespace {
+constexpr QSize CloseIcon(12, 12);
+constexpr QSize CloseButton(18, 18);
+}
 
 TabGroup::TabGroup(QWidget* parent) : QTabWidget(parent) {
     setDocumentMode(true);
     setMovable(true);
-    setTabsClosable(true);
     setElideMode(Qt::ElideMiddle);
     setUsesScrollButtons(true);
     tabBar()->setExpanding(false);
@@ -19,6 +25,22 @@ TabGroup::TabGroup(QWidget* parent) : QTabWidget(parent) {
     connect(this, &QTabWidget::tabBarDoubleClicked, this, [this](int index) {
         if (index >= 0) emit TabDoubleClicked(widget(index));
     });
+}
+
+// The style's own close button is drawn in a warning red; this one stays in the background.
+void TabGroup::tabInserted(int index) {
+    QWidget* page = widget(index);
+    auto* button = new QToolButton(tabBar());
+    button->setAutoRaise(true);
+    button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setIconSize(CloseIcon);
+    button->setFixedSize(CloseButton);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setToolTip(tr("Close"));
+    button->setAccessibleName(tr("Close"));
+    connect(button, &QToolButton::clicked, this, [this, page] { emit CloseAsked(page); });
+    tabBar()->setTabButton(index, QTabBar::RightSide, button);
+    QTabWidget::tabInserted(index);
 }
 
 bool TabGroup::eventFilter(QObject* watched, QEvent* event) {

@@ -15,5 +15,6 @@ signals:
     void TabContextAsked(QWidget* page, const QPoint& global);
 
 protected:
+    void tabInserted(int index) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 };

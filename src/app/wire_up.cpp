@@ -1,0 +1,65 @@
+// Wires the floors together. Each request that a lower floor declares is filled here and nowhere else.
+#include "app/wire_up.h"
+
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "editor/EditorCalls.h"
+#include "engine/EngineCalls.h"
+#include "host/Desktop.h"
+#include "host/DockStudio.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+#include "toolchain/ToolchainCalls.h"
+#include "workbench/Shown.h"
+#include "workbench/frmCompiling.h"
+#include "workbench/frmError.h"
+#include "workbench/frmMain.h"
+#include "workbench/frmOutput.h"
+#include "workbench/frmSplash.h"
+
+namespace {
+
+void WireEditor() {
+    gEngineCalls.WaitCursor = [](bool on) { gHost.desktop->SetWaitCursor(on); };
+    gEditorCalls.SetPositionText = [](const std::string& text) { frmMain::Instance().SetPositionText(text); };
+    gEditorCalls.SetFunctionText = [](const std::string& text) { frmMain::Instance().SetFunctionText(text); };
+    gEditorCalls.UpdateSciCommandUI = [] { frmMain::Instance().UpdateSciCommandUI(); };
+    gEditorCalls.OpenFile = [](const std::string& path) { Mod_File::OpenFile(path); };
+}
+
+void WireDocuments() {
+    gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
+    gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };
+    gDocumentCalls.ShowMainWindow = [] {
+        frmSplash::Unload();
+        gHost.dock->ShowWindow();
+    };
+    gDocumentCalls.StrictModeChecked = [] {
+        const DockCommand* strict = gHost.dock->FindCommand("Strict Mode");
+        return strict && strict->Checked();
+    };
+}
+
+void WireToolchain() {
+    gToolchainCalls.ClearOutput = [] { frmOutput::Instance().Clear(); };
+    gToolchainCalls.AppendOutput = [](const std::string& line) { frmOutput::Instance().Append(line); };
+    gToolchainCalls.ScrollOutputToEnd = [] { frmOutput::Instance().ScrollToEnd(); };
+    gToolchainCalls.ShowCompiling = [](const std::string& label) {
+        frmCompiling::Instance().Open(Shown(label));
+    };
+    gToolchainCalls.CloseCompiling = [] { frmCompiling::Instance().close(); };
+    gToolchainCalls.CompilingValue = [] { return frmCompiling::Instance().Value(); };
+    gToolchainCalls.SetCompilingValue = [](int value) { frmCompiling::Instance().SetValue(value); };
+}
+
+}
+
+void WireUp() {
+    gShowErrorDialog = [] { frmError::ShowModal(); };
+    gCountOpenFiles = [] { return static_cast<int>(gHost.dock->DocumentWindows().size()); };
+    WireEditor();
+    WireDocuments();
+    WireToolchain();
+}

@@ -1,0 +1,12 @@
+// The mail draft that a user may send after a failure. Nothing is sent by the program itself.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The draft's text: headers, room for notes, and the log. Lines end in CR LF.
+std::string ErrorReportText(std::string_view mailbox, std::string_view log);
+
+// Writes the draft from error.log below AppDir, opens it with the desktop's mail program and empties the
+// log. Fails when a file cannot be read or written.
+void PrepareErrorReport();

@@ -1,0 +1,151 @@
+// The routines behind commands of the main window itself.
+#include "workbench/Mod_MenuCommands.h"
+
+#include "documents/Mod_Project.h"
+#include "documents/Options.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "engine/ParserState.h"
+#include "host/Desktop.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+#include "workbench/KeyWatch.h"
+#include "workbench/frmMain.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int StrictStyle = 16;
+
+// Styles are written for lines that come into view, so the ones on the screen must count as new.
+void RestyleVisible() {
+    frmDoc* document = ActiveForm();
+    if (!document) return;
+    document->State.mOldStartLine = -100;
+    document->Redraw();
+}
+
+}
+
+namespace Mod_MenuCommands {
+
+void Route(DockCommand& command, int item) {
+    const std::string category = command.Category();
+    if ((category == "Sci" || category == "SciFocus") && !DocumentActive()) return;
+    for (const RoutedCommand& route : Routes()) {
+        if (command.Name() != route.name) continue;
+        if (!route.run) return;
+        if (route.cancelFirst && DocumentActive()) Mod_Sci::Send(SCI_CANCEL);
+        return route.run({command, item});
+    }
+}
+
+void ChangeStrictMode() {
+    Guarded("ChangeStrictMode", "Mod_MenuCommands", [] {
+        DockCommand* command = gHost.dock->FindCommand("Strict Mode");
+        if (!command) return;
+        const bool strict = !command->Checked();
+        command->SetChecked(strict);
+        command->SetCaption(strict ? " Strict On" : "Strict Off");
+        BadStyle = strict ? StrictStyle : 0;
+        RestyleVisible();
+    });
+}
+
+void cboCompilers() {
+    Guarded("cboCompilers", "Mod_MenuCommands", [] {
+        DockCommand* box = gHost.dock->FindCommand("cboCompilers");
+        if (!box || !gActiveCompiler || box->Text() == gActiveCompiler->Name) return;
+        const auto compiler = gCompilers.Find(box->Text());
+        if (!compiler || !compiler->SetDefaultKeywords()) {
+            box->SetText(gActiveCompiler->Name);
+            return;
+        }
+        gActiveCompiler = compiler;
+        if (gCurrentProject) gCurrentProject->Compiler = compiler->Name;
+        frmDoc* document = ActiveForm();
+        if (document && gCurrentProject && !gCurrentProject->SingleFile)
+            document->CompilerUsed = compiler->Name;
+        RestyleVisible();
+    });
+}
+
+void cboCommandLine() {
+    const DockCommand* box = gHost.dock->FindCommand("cboCommandLine");
+    if (box && gCurrentProject) gCurrentProject->CommandLine = box->Text();
+}
+
+void TogglePane(const char* pane) {
+    DockPane* found = gHost.dock->FindPane(pane);
+    if (!found) return;
+    if (found->Visible() && !found->AutoHidden())
+        found->Hide();
+    else
+        found->Show();
+}
+
+void ToggleStatusBar() {
+    DockBar* bar = gHost.dock->FindBar("StatusBar");
+    if (!bar) return;
+    bar->SetVisible(!bar->Visible());
+    if (DockCommand* command = gHost.dock->FindCommand("StatusBar")) command->SetChecked(bar->Visible());
+}
+
+void CloseFile() {
+    const frmDoc* document = ActiveForm();
+    if (!document) return;
+    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(document->m_strDocumentWindowID))
+        window->SetVisible(false);
+}
+
+void CloseAllFiles() {
+    Guarded("CloseAllFiles", "Mod_MenuCommands", [] {
+        std::vector<std::string> keys;
+        for (const DocumentWindow* window : gHost.dock->DocumentWindows()) keys.push_back(window->Key());
+        for (const std::string& key : keys) {
+            DocumentWindow* window = gHost.dock->FindDocumentWindow(key);
+            if (!window || key == HelpWindowKey) continue;
+            const auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
+            if (!document || !document->SingleFile) continue;
+            window->SetVisible(false);
+            // The look-up is made again, for a window that closed is gone.
+            const DocumentWindow* left = gHost.dock->FindDocumentWindow(key);
+            if (left && left->Visible()) return;
+        }
+        for (int index = gProjects.Count() - 1; index >= 0; --index) {
+            const auto project = gProjects.Item(index);
+            if (!project->SingleFile) Mod_Project::CloseProject(project);
+        }
+    });
+}
+
+void NextFileTab() {
+    Guarded("NextFileTab", "Mod_MenuCommands", [] {
+        DockStudio& dock = *gHost.dock;
+        if (dock.DocumentWindows().size() < 2) return;
+        // While Control stays down, further presses walk on through the group.
+        if (Options::gTabbingStartsWithPrevious == 0 || !ControlWasReleased()) return dock.NextTab(1);
+        RecentTabs& tabs = frmMain::Instance().Tabs();
+        const DocumentWindow* active = dock.ActiveDocumentWindow();
+        if (active && tabs.previous != active->Key())
+            tabs.older = tabs.previous;
+        else
+            tabs.previous = tabs.older;
+        DocumentWindow* window = dock.FindDocumentWindow(tabs.previous);
+        if (window)
+            window->Activate();
+        else
+            dock.NextTab(1);
+    });
+}
+
+void ActivateWindow(int index) {
+    const auto windows = gHost.dock->DocumentWindows();
+    if (index >= 0 && index < static_cast<int>(windows.size()))
+        windows[static_cast<std::size_t>(index)]->Activate();
+}
+
+} // namespace Mod_MenuCommands

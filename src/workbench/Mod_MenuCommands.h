@@ -1,0 +1,52 @@
+// Commands by their names: the routing table, and the routines that belong to no other module.
+#pragma once
+
+#include "host/DockStudio.h"
+
+#include <string_view>
+#include <vector>
+
+namespace Mod_MenuCommands {
+
+struct Click {
+    DockCommand& command;
+    int item; // the entry of a list command, else -1
+};
+
+// One command. A command without a routine is known and does nothing.
+struct RoutedCommand {
+    std::string_view name;
+    void (*run)(const Click& click);
+    bool cancelFirst = false; // ends a completion list and a call tip before it runs
+};
+
+// Every command of the program, in routing order.
+const std::vector<RoutedCommand>& Routes();
+
+// Runs the routine of a command. One that needs a document does nothing without it; an unknown name
+// does nothing. Failures go on to the caller.
+void Route(DockCommand& command, int item);
+
+// Flips strict mode: its check mark and caption, BadStyle, and the colours on the screen.
+void ChangeStrictMode();
+// Makes the compiler that was picked in the box the active project's one; the old name comes back when
+// its keywords cannot be loaded.
+void cboCompilers();
+// Makes the text in the box the command line of the active project.
+void cboCommandLine();
+// Shows a pane that is hidden, and hides one that is shown.
+void TogglePane(const char* pane);
+void ToggleStatusBar();
+void CloseFile();
+// Closes single files, then projects; a close that the user cancels ends it.
+void CloseAllFiles();
+// The next tab of the group, or the one before with gTabbingStartsWithPrevious.
+void NextFileTab();
+void ActivateWindow(int index);
+
+// Layouts 1 to 3: the arrangement in a file and the window's place in the settings store.
+void SaveAsLayout(int number);
+void SwitchToLayout(int number);
+void ResetLayout();
+
+} // namespace Mod_MenuCommands

@@ -1,0 +1,223 @@
+// The routing table: every command of the program with its routine, in routing order. A flat table.
+#include "workbench/Mod_MenuCommands.h"
+
+#include "documents/Mod_File.h"
+#include "documents/Mod_Project.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsProject.h"
+#include "engine/Mod_Folding.h"
+#include "engine/OptionsEdit.h"
+#include "host/Dialogs.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+#include "toolchain/Mod_Compiler.h"
+#include "workbench/frmAbout.h"
+
+namespace Mod_MenuCommands {
+
+namespace {
+
+void SaveActive(const Click&) {
+    if (frmDoc* document = ActiveForm()) Mod_File::SaveFile(document);
+}
+
+void SaveActiveAs(const Click&) {
+    if (frmDoc* document = ActiveForm()) Mod_File::SaveFileAs(document);
+}
+
+void CloseActiveProject(const Click&) {
+    if (const auto project = gCurrentProject) Mod_Project::CloseProject(project);
+}
+
+void CompileActive(const Click&) {
+    if (const frmDoc* document = ActiveForm()) Mod_Compiler::Compile(document->FullFilename, false);
+}
+
+void DebugActive(const Click&) {
+    if (const frmDoc* document = ActiveForm()) Mod_Compiler::Compile(document->FullFilename, true);
+}
+
+void CheckActive(const Click&) {
+    if (const frmDoc* document = ActiveForm()) Mod_Compiler::CheckForErrors(document->FullFilename);
+}
+
+void BuildActive(const Click&) {
+    if (const frmDoc* document = ActiveForm()) Mod_Compiler::CreateExe(document->FullFilename);
+}
+
+void FocusCommandLine(const Click&) {
+    DockBar* bar = gHost.dock->FindBar("Command Line");
+    if (!bar) return;
+    bar->SetVisible(true);
+    bar->FocusFirstControl();
+}
+
+void ToggleFold(const Click&) {
+    if (OptionsEdit::ShowFoldMargin == 0 || !DocumentActive()) return;
+    Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
+}
+
+void NotAvailable(const Click&) {
+    gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
+                         .icon = MessageIcon::Information});
+}
+
+}
+
+const std::vector<RoutedCommand>& Routes() {
+    static const std::vector<RoutedCommand> table = {
+        {"New Line", [](const Click&) { Mod_Sci::NewLine(); }},
+        {"Undo", [](const Click&) { Mod_Sci::Undo(); }, true},
+        {"Redo", [](const Click&) { Mod_Sci::Redo(); }, true},
+        {"Cut", [](const Click&) { Mod_Sci::Cut(); }},
+        {"Copy", [](const Click&) { Mod_Sci::Copy(); }},
+        {"Paste", [](const Click&) { Mod_Sci::Paste(); }, true},
+        {"Delete", [](const Click&) { Mod_Sci::Clear(); }},
+        {"Select All", [](const Click&) { Mod_Sci::SelectAll(); }, true},
+        {"Indent Selection", nullptr},
+        {"UnIndent Selection", nullptr},
+        {"Word Left", [](const Click&) { Mod_Sci::WordLeft(); }},
+        {"Word Left Extend", [](const Click&) { Mod_Sci::WordLeftExtend(); }},
+        {"Word Right", [](const Click&) { Mod_Sci::WordRight(); }},
+        {"Word Right Extend", [](const Click&) { Mod_Sci::WordRightExtend(); }},
+        {"Document Start", [](const Click&) { Mod_Sci::DocumentStart(); }},
+        {"Document Start Extend", [](const Click&) { Mod_Sci::DocumentStartExtend(); }},
+        {"Document End", [](const Click&) { Mod_Sci::DocumentEnd(); }},
+        {"Document End Extend", [](const Click&) { Mod_Sci::DocumentEndExtend(); }},
+        {"Delete Word Left", [](const Click&) { Mod_Sci::DelWordLeft(); }},
+        {"Delete Line Left", [](const Click&) { Mod_Sci::DelLineLeft(); }},
+        {"Delete Word Right", [](const Click&) { Mod_Sci::DelWordRight(); }},
+        {"Delete Line Right", [](const Click&) { Mod_Sci::DelLineRight(); }},
+        {"Cut Current Line", [](const Click&) { Mod_Sci::LineCut(); }},
+        {"Delete Current Line", [](const Click&) { Mod_Sci::LineDelete(); }},
+        {"Copy Current Line", [](const Click&) { Mod_Sci::LineCopy(); }},
+        {"Move Current Line Up", nullptr},
+        {"Move Current Line Down", nullptr},
+        {"Comment Selection", nullptr},
+        {"UnComment Selection", nullptr},
+        {"Block From Selection", nullptr},
+        {"Goto Line", nullptr, true},
+        {"Goto Function", NotAvailable, true},
+        {"Goto Declaration", nullptr, true},
+        {"Goto Previous Position", nullptr, true},
+        {"Goto Next Position", nullptr, true},
+        {"Toggle Fold", ToggleFold},
+        {"KeywordHelp", nullptr},
+        {"Toggle Bookmark", nullptr},
+        {"Previous Bookmark", nullptr, true},
+        {"Next Bookmark", nullptr, true},
+        {"Clear All Bookmarks", nullptr},
+        {"Show Autocomplete", nullptr},
+        {"Show Calltip", nullptr},
+        {"Cycle Private", nullptr},
+        {"Copy Private", nullptr},
+        {"Paste Private", nullptr},
+        {"Find", nullptr},
+        {"Find Next", nullptr},
+        {"Find Previous", nullptr},
+        {"Replace", nullptr},
+        {"Next Function", nullptr},
+        {"Previous Function", nullptr},
+        {"Auto Indent Selection", nullptr},
+        {"Auto Indent Function", nullptr},
+        {"Complete Scope", nullptr},
+        {"Convert To Upper Case", [](const Click&) { Mod_Sci::UpperCase(); }},
+        {"Convert To Lower Case", [](const Click&) { Mod_Sci::LowerCase(); }},
+        {"Fold Everything", nullptr},
+        {"UnFold Everything", nullptr},
+        {"Fold Blocks", nullptr},
+        {"UnFold Blocks", nullptr},
+        {"Fold Functions", nullptr},
+        {"UnFold Functions", nullptr},
+        {"Fold Types", nullptr},
+        {"UnFold Types", nullptr},
+        {"Insert Color", nullptr},
+        {"Insert Filename", nullptr},
+        {"Insert FilePath", nullptr},
+        {"New File", [](const Click&) { Mod_File::NewFile(); }},
+        {"New Project", nullptr},
+        {"Open File", [](const Click&) { Mod_File::OpenFile(""); }},
+        {"Save File", SaveActive},
+        {"Save All Files", [](const Click&) { Mod_File::SaveAllFiles(); }},
+        {"Save File As", SaveActiveAs},
+        {"Close File", [](const Click&) { CloseFile(); }},
+        {"Close All Files", [](const Click&) { CloseAllFiles(); }},
+        {"Load Last Workspace", nullptr},
+        {"Open Workspace", nullptr},
+        {"Save Workspace As", nullptr},
+        {"Next File Tab", [](const Click&) { NextFileTab(); }},
+        {"Previous File Tab", [](const Click&) { gHost.dock->NextTab(-1); }},
+        {"Exit", [](const Click&) { gHost.dock->CloseWindow(); }},
+        {"Save This Project", nullptr},
+        {"Close Project", CloseActiveProject},
+        {"Close This Project", nullptr},
+        {"Add Existing Files", nullptr},
+        {"Remove File", nullptr},
+        {"Add New File", nullptr},
+        {"Create Category", nullptr},
+        {"Remove Category", nullptr},
+        {"Rename", nullptr},
+        {"Set As Main File", nullptr},
+        {"Add Folder With Files", nullptr},
+        {"FileRecentFiles", nullptr},
+        {"FileRecentProjects", nullptr},
+        {"WindowList", [](const Click& click) { ActivateWindow(click.item); }},
+        {"New Horizontal Tab Group", [](const Click&) { gHost.dock->NewTabGroup(false); }},
+        {"New Vertical Tab Group", [](const Click&) { gHost.dock->NewTabGroup(true); }},
+        {"File Explorer", [](const Click&) { TogglePane("FileExplorer"); }},
+        {"Output Window", [](const Click&) { TogglePane("Output"); }},
+        {"Projects Manager", [](const Click&) { TogglePane("Projects"); }},
+        {"Snippets Manager", [](const Click&) { TogglePane("Snippets"); }},
+        {"Code Explorer", [](const Click&) { TogglePane("CodeExplorer"); }},
+        {"Functions", nullptr},
+        {"Types", nullptr},
+        {"Arrays", nullptr},
+        {"Globals", nullptr},
+        {"Constants", nullptr},
+        {"Labels", nullptr},
+        {"StatusBar", [](const Click&) { ToggleStatusBar(); }},
+        {"SwitchToLayout1", [](const Click&) { SwitchToLayout(1); }},
+        {"SwitchToLayout2", [](const Click&) { SwitchToLayout(2); }},
+        {"SwitchToLayout3", [](const Click&) { SwitchToLayout(3); }},
+        {"SaveAsLayout1", [](const Click&) { SaveAsLayout(1); }},
+        {"SaveAsLayout2", [](const Click&) { SaveAsLayout(2); }},
+        {"SaveAsLayout3", [](const Click&) { SaveAsLayout(3); }},
+        {"ResetLayout", [](const Click&) { ResetLayout(); }},
+        {"About", [](const Click&) { ShowAbout(); }},
+        {"cboCompilers", [](const Click&) { cboCompilers(); }},
+        {"cboCommandLine", [](const Click&) { cboCommandLine(); }},
+        {"Compile and Run", CompileActive},
+        {"Compile and Run Last", [](const Click&) { Mod_Compiler::CompileLast(); }},
+        {"Run Last Created EXE", [](const Click&) { Mod_Compiler::RunLastCreated(); }},
+        {"Check For Errors", CheckActive},
+        {"DebugCompile", DebugActive},
+        {"CreateExecutable", BuildActive},
+        {"ProgramCommandLine", FocusCommandLine},
+        {"Toggle BreakPoint", nullptr},
+        {"Strict Mode", [](const Click&) { ChangeStrictMode(); }},
+        {"HotCode For Selection", nullptr},
+        {"Edit HotCodes", nullptr},
+        {"Apply HotCode", nullptr},
+        {"Editor Settings", nullptr},
+        {"Preferences", nullptr},
+        {"Color Styles", nullptr},
+        {"UI Styles", nullptr},
+        {"Export To HTML", nullptr},
+        {"Print", NotAvailable},
+        {"Print Preview", NotAvailable},
+        {"External Tools", nullptr},
+        {"MRUExternalTools", nullptr},
+        {"Edit Userlibs", nullptr},
+        {"Insert Snippet", nullptr},
+        {"Edit Snippet", nullptr},
+        {"Delete Snippet", nullptr},
+        {"Add Category", nullptr},
+        {"New Snippet", nullptr},
+        {"Refresh Snippets", nullptr},
+        {"Edit As File", nullptr},
+        {"Stop Program", [](const Click&) { Mod_Compiler::StopRunning(); }},
+    };
+    return table;
+}
+
+} // namespace Mod_MenuCommands

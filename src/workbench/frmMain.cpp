@@ -1,0 +1,145 @@
+// The main window: start-up, enabling, and the events that aren't about document windows.
+#include "workbench/frmMain.h"
+
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "documents/Mod_Main.h"
+#include "documents/Options.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "host/Desktop.h"
+#include "host/ErrorLog.h"
+#include "host/Failure.h"
+#include "host/Host.h"
+#include "host/Paths.h"
+#include "host/SettingsStore.h"
+#include "sci/Mod_Sci.h"
+#include "workbench/Mod_MenuCommands.h"
+#include "workbench/frmOutput.h"
+
+frmMain& frmMain::Instance() {
+    static frmMain window;
+    return window;
+}
+
+void frmMain::Form_Load() {
+    Guarded("Form_Load", "frmMain", [this] {
+        gHost.settings->Save("Instance", "Handle", gHost.instances->Publish(Mod_Main::TextReceived));
+        gHost.dock->SetEvents(this);
+        gHost.dock->LoadLayout(AppPath("Layout.mp"));
+        try {
+            gHost.dock->LoadLayout(AppPath("Layouts\\Layout0.8_0.mp"));
+        } catch (const Failure&) {
+            // No arrangement of the user's own, or none that can be read: the factory's stands.
+        }
+        AdditionalUISetup();
+        AddDockForms(true);
+        Mod_Main::PlaceMainWindow();
+        FillCompilers();
+        if (Options::gOpenBrowserAtStartup != 0 && gDocumentCalls.OpenBrowser) {
+            gDocumentCalls.OpenBrowser("");
+            if (Options::gDefaultHelpPage.size() > 4) gDocumentCalls.OpenBrowser(Options::gDefaultHelpPage);
+        }
+        UpdateCommandUI();
+    });
+}
+
+void frmMain::FillCompilers() {
+    std::vector<std::string> names;
+    for (const auto& entry : gCompilers) names.push_back(entry.record->Name);
+    if (DockCommand* box = gHost.dock->FindCommand("cboCompilers")) box->SetItems(names);
+}
+
+frmDoc* frmMain::ActiveDocument() {
+    DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
+    if (!window || window->Key() == HelpWindowKey) return nullptr;
+    return dynamic_cast<frmDoc*>(window->HostedForm());
+}
+
+void frmMain::UpdateCommandUI() {
+    gHost.dock->SuspendRepaint(true);
+    Guarded("UpdateCommandUI", "frmMain", [this] {
+        const bool have = DocumentActive() && ActiveDocument();
+        const auto enable = [](const char* name, bool enabled) {
+            if (DockCommand* command = gHost.dock->FindCommand(name)) command->SetEnabled(enabled);
+        };
+        enable("Save File", have);
+        enable("Save File As", have);
+        for (DockCommand* command : gHost.dock->Commands()) {
+            const std::string category = command->Category();
+            if (category == "Sci" || category == "SciFocus") command->SetEnabled(have);
+        }
+        if (!have) return;
+        enable("Undo", Mod_Sci::CanUndo());
+        enable("Redo", Mod_Sci::CanRedo());
+        const bool single = !gCurrentProject || gCurrentProject->SingleFile;
+        enable("Close File", single);
+        enable("Close Project", !single);
+    });
+    gHost.dock->SuspendRepaint(false);
+}
+
+void frmMain::UpdateSciCommandUI() {
+    Guarded("UpdateSciCommandUI", "frmMain", [this] {
+        if (!DocumentActive()) return;
+        if (undo_) undo_->SetEnabled(Mod_Sci::CanUndo());
+        if (redo_) redo_->SetEnabled(Mod_Sci::CanRedo());
+    });
+}
+
+void frmMain::AddDockForms(bool addNew) {
+    Guarded("AddDockForms", "frmMain",
+            [&] { AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew); });
+}
+
+void frmMain::AttachDockForm(const std::string& pane, const std::string& caption, const std::string& icon,
+                             Form& form, bool addNew) {
+    Guarded("AttachDockForm", "frmMain", [&] { gHost.dock->AttachPane(pane, caption, icon, form, addNew); });
+}
+
+void frmMain::SetPositionText(const std::string& text) {
+    if (position_) position_->SetText(text);
+}
+
+void frmMain::SetFunctionText(const std::string& text) {
+    if (functions_) functions_->SetText(text);
+}
+
+void frmMain::DS_CommandClick(DockCommand& command, int item) {
+    Guarded("DS_CommandClick", "frmMain", [&] { Mod_MenuCommands::Route(command, item); });
+}
+
+void frmMain::DS_ComboTextChanged(DockCommand&) {}
+
+void frmMain::DS_ComboTextCommitted(DockCommand& command) { DS_CommandClick(command, -1); }
+
+void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
+    static constexpr struct {
+        const char* pane;
+        const char* command;
+    } Toggles[] = {{"Projects", "Projects Manager"},
+                   {"FileExplorer", "File Explorer"},
+                   {"Output", "Output Window"},
+                   {"Snippets", "Snippets Manager"},
+                   {"CodeExplorer", "Code Explorer"}};
+    for (const auto& toggle : Toggles)
+        if (pane == toggle.pane)
+            if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
+}
+
+void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {
+    if (command.Category() != "SciFocus") return;
+    cancel = !DocumentActive();
+    if (cancel || Mod_Sci::GetFocus()) return;
+    cancel = true;
+    gHost.desktop->Beep();
+}
+
+void frmMain::DS_FilesDropped(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths) Mod_File::OpenFile(path);
+}
+
+void frmMain::DS_QueryUnload(bool& cancel) { Mod_Main::QueryUnload(cancel); }
+
+void frmMain::DS_Resize() { Mod_Main::Resized(); }
