@@ -43,8 +43,8 @@ struct Expr {
     Symbol symbol = 0;
     int32_t integer = 0;
     float real = 0;
-    uint32_t depth = 1; // levels of the tree below and with this node
-    std::string text;
+    uint32_t depth = 1;    // levels of the tree below and with this node
+    std::string_view text; // into the source
     Pos pos;
     std::vector<ExprPtr> kids;
 };

@@ -37,18 +37,19 @@ ValueKind markKind(char c) {
 
 }
 
-void Decls::readFolder(const std::string& folder) {
+std::string Decls::folderText(const std::string& folder) {
     std::error_code error;
     std::vector<std::string> paths;
     for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end; it.increment(error))
         if (lowerText(it->path().extension().string()) == ".decls") paths.push_back(it->path().string());
     std::sort(paths.begin(), paths.end());
+    std::string all;
     for (const std::string& path : paths) {
         std::string text;
         std::string reason;
-        library_.clear();
-        if (readFile(path, text, reason)) readText(text);
+        if (readFile(path, text, reason)) all += text + "\n";
     }
+    return all;
 }
 
 void Decls::readText(std::string_view text) {

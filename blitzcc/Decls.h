@@ -15,9 +15,9 @@ struct LibraryFunction {
 
 class Decls {
 public:
-    /// Reads all *.decls files of a folder, in any case; a missing folder holds none.
-    void readFolder(const std::string& folder);
-    /// Reads the text of one file; a malformed line is passed over.
+    /// The text of all *.decls files of a folder, in any case; a missing folder holds none.
+    static std::string folderText(const std::string& folder);
+    /// Reads the text of one file or of several; a malformed line is passed over.
     void readText(std::string_view text);
     /// The function with that name in lower case, or null.
     const LibraryFunction* find(const std::string& lowered) const;

@@ -35,7 +35,7 @@ std::string withoutColons(std::string text) {
 
 std::string libraryFolder() {
     if (const char* const path = std::getenv("BLITZPATH"); path && *path) {
-        const std::string folder = findFile(std::string(path) + "/userlibs");
+        std::string folder = findFile(std::string(path) + "/userlibs");
         if (!folder.empty()) return folder;
     }
     const auto bin = std::filesystem::path(ownPath()).parent_path();
@@ -130,7 +130,8 @@ Code compile(Sources& sources, const std::string& folder) {
     Symbols symbols;
     const Program program = Parser(sources, symbols).parse();
     Decls decls;
-    decls.readFolder(folder);
+    if (!sources.isBundle()) sources.setLibraries(Decls::folderText(folder));
+    decls.readText(sources.libraries());
     return Generator(program, symbols, decls).generate();
 }
 

@@ -35,7 +35,9 @@ Type Generator::expression(const Expr& expr) {
     switch (expr.kind) {
     case ExprKind::Int: emit(Op::PushInt, expr.integer); return {};
     case ExprKind::Float: emit(Op::PushInt, std::bit_cast<int32_t>(expr.real)); return {Type::Kind::Float};
-    case ExprKind::String: emit(Op::PushStr, stringIndex(expr.text)); return {Type::Kind::String};
+    case ExprKind::String:
+        emit(Op::PushStr, stringIndex(std::string(expr.text)));
+        return {Type::Kind::String};
     case ExprKind::Null: emit(Op::PushNull); return {Type::Kind::Null};
     case ExprKind::Name:
     case ExprKind::Element:

@@ -77,7 +77,7 @@ void Machine::end() { throw Ended{}; }
 Value* Machine::enter(const FunctionCode& function, Value* top) {
     Value* const slots = top - function.parameters;
     if (frames_.size() >= deepestCall ||
-        limit_ - slots < static_cast<ptrdiff_t>(function.slots + function.stack))
+        limit_ - slots < static_cast<ptrdiff_t>(function.slots) + static_cast<ptrdiff_t>(function.stack))
         fault("Stack overflow");
     Value* const newTop = slots + function.slots;
     std::fill(top, newTop, Value{});

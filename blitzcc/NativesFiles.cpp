@@ -24,8 +24,7 @@ namespace {
 using Args = const Value*;
 
 Value opened(Machine& m, const std::string& name, const char* mode) {
-    std::string path = findFile(name);
-    if (path.empty()) path = name;
+    const std::string path = targetPath(name);
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) return intValue(0);
     std::FILE* const stream = std::fopen(path.c_str(), mode);

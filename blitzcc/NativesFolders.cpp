@@ -13,13 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using Args = const Value*;
 
-std::string pathOf(Value value) {
-    const std::string found = findFile(Machine::text(value));
-    if (!found.empty()) return found;
-    std::string wanted = Machine::text(value);
-    std::replace(wanted.begin(), wanted.end(), '\\', '/');
-    return wanted;
-}
+std::string pathOf(Value value) { return targetPath(Machine::text(value)); }
 
 Value fileType(Machine&, Args a, size_t) {
     std::error_code error;

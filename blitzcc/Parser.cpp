@@ -2,8 +2,6 @@
 // Statements need no separator between them: a new one begins where the former is complete.
 #include "Parser.h"
 
-#include "Lexer.h"
-
 namespace blitz {
 
 // Deeper nesting than any program has, and shallow enough for the stack.
@@ -14,11 +12,6 @@ Parser::Level::Level(Parser& parser) : parser_(parser) {
         --parser_.level_;
         failAt(parser_.token().pos, "The program is nested too deeply");
     }
-}
-
-const Token& Parser::token(size_t ahead) const {
-    const size_t index = cursor_->at + ahead;
-    return index < cursor_->tokens.size() ? cursor_->tokens[index] : cursor_->tokens.back();
 }
 
 bool Parser::atTerminator() const {
@@ -79,17 +72,19 @@ Program Parser::parse() {
 }
 
 void Parser::parseFile(uint32_t file, Block& block) {
-    Cursor* const outer = cursor_;
-    Cursor cursor{tokenize(sources_.files()[file].text, file, symbols_), 0};
-    cursor_ = &cursor;
+    Lexer* const outer = lexer_;
+    Lexer lexer(sources_.files()[file].text, file, symbols_);
+    lexer_ = &lexer;
     statements(block, Scope::Main);
     if (kind() != Tok::End) {
-        const Tok found = kind();
-        failAt(token().pos,
-               tokenName(found) + (found >= Tok::KwAbs ? " without its opener" : " is unexpected"));
+        const bool closes = kind() == Tok::KwNext || kind() == Tok::KwWend || kind() == Tok::KwUntil ||
+                            kind() == Tok::KwForever || kind() == Tok::KwElse || kind() == Tok::KwElseIf ||
+                            kind() == Tok::KwCase || kind() == Tok::KwDefault ||
+                            (kind() >= Tok::KwEndIf && kind() <= Tok::KwEndType);
+        failAt(token().pos, tokenName(kind()) + (closes ? " without its opener" : " is unexpected here"));
     }
     program_.endPos = token().pos;
-    cursor_ = outer;
+    lexer_ = outer;
 }
 
 void Parser::statements(Block& block, Scope scope) {

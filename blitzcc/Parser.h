@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Ast.h"
+#include "Lexer.h"
 #include "Sources.h"
 
 #include <unordered_map>
@@ -21,11 +22,6 @@ private:
     // Where a statement stands decides what it may be.
     enum class Scope { Main, Inner, Line };
 
-    struct Cursor {
-        std::vector<Token> tokens;
-        size_t at = 0;
-    };
-
     // Counts the levels of nesting, so that a deeply nested source ends in a message.
     class Level {
     public:
@@ -38,12 +34,10 @@ private:
         Parser& parser_;
     };
 
-    const Token& token(size_t ahead = 0) const;
+    const Token& token(size_t ahead = 0) const { return lexer_->peek(ahead); }
     Tok kind(size_t ahead = 0) const { return token(ahead).kind; }
     bool atTerminator() const;
-    void advance() {
-        if (cursor_->at + 1 < cursor_->tokens.size()) ++cursor_->at;
-    }
+    void advance() { lexer_->advance(); }
     bool accept(Tok wanted);
     Pos expect(Tok wanted);
     Symbol expectName(const char* what);
@@ -102,7 +96,7 @@ private:
     Sources& sources_;
     Symbols& symbols_;
     Program program_;
-    Cursor* cursor_ = nullptr;
+    Lexer* lexer_ = nullptr;                    // of the file at hand
     std::unordered_map<Symbol, size_t> arrays_; // the names that Dim has met so far
     int level_ = 0;
     bool inFunction_ = false;

@@ -121,6 +121,12 @@ ExprPtr Parser::unary() {
         node->kind = ExprKind::Object;
         accept(Tok::Dot);
         node->symbol = expectName("type name");
+        // Object.Thing(handle)\field reads a field of the object, not of the handle.
+        if (accept(Tok::LParen)) {
+            node->kids.push_back(expression());
+            expect(Tok::RParen);
+            return variableTail(finish(std::move(node)));
+        }
     } else if (op == Tok::KwInt || op == Tok::KwFloat || op == Tok::KwStr || op == Tok::KwAbs ||
                op == Tok::KwSgn) {
         // Int%(x), Float#(x) and Str$(x) may carry the mark of their result.

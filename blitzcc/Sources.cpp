@@ -94,6 +94,18 @@ std::string findFile(const std::string& path) {
     return found;
 }
 
+std::string targetPath(const std::string& path) {
+    std::string found = findFile(path);
+    if (!found.empty()) return found;
+    std::string wanted = path;
+    for (char& c : wanted)
+        if (c == '\\') c = '/';
+    const size_t slash = wanted.rfind('/');
+    if (slash == std::string::npos) return wanted;
+    found = findFile(wanted.substr(0, slash));
+    return found.empty() ? wanted : found + wanted.substr(slash);
+}
+
 bool Sources::loadMain(const std::string& path, std::string& reason) {
     const std::string found = findFile(path);
     if (found.empty()) return reason = "File not found", false;
@@ -110,7 +122,7 @@ std::string Sources::resolve(std::string_view name, uint32_t fromFile) const {
     if (!wanted.empty() && wanted[0] == '/') return findFile(wanted);
     for (const uint32_t base : {fromFile, 0u}) {
         const std::string folder = fs::path(files_[base].path).parent_path().string();
-        const std::string found = findFile(folder + "/" + wanted);
+        std::string found = findFile((fs::path(folder) / wanted).string());
         if (!found.empty()) return found;
     }
     return {};
@@ -142,6 +154,8 @@ std::string Sources::pack() const {
             putNumber(bytes, static_cast<uint32_t>(text.size()));
             bytes += text;
         }
+    putNumber(bytes, static_cast<uint32_t>(libraries_.size()));
+    bytes += libraries_;
     putNumber(bytes, static_cast<uint32_t>(log_.size()));
     for (const int answer : log_) putNumber(bytes, static_cast<uint32_t>(answer));
     return bytes;
@@ -155,6 +169,7 @@ bool Sources::unpack(std::string_view bytes) {
         if (!takeText(bytes, file.path) || !takeText(bytes, file.text)) return false;
         files_.push_back(std::move(file));
     }
+    if (!takeText(bytes, libraries_)) return false;
     if (!takeNumber(bytes, count) || bytes.size() != size_t{count} * 4) return false;
     for (uint32_t answer = 0; takeNumber(bytes, answer);) {
         if (static_cast<int>(answer) >= static_cast<int>(files_.size())) return false;

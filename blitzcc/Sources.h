@@ -22,6 +22,9 @@ bool readFile(const std::string& path, std::string& text, std::string& reason);
 /// of its components; backslashes count as separators. Empty if there is none.
 std::string findFile(const std::string& path);
 
+/// The path for a file that may have to be made: as findFile, or its name in the folder found for it.
+std::string targetPath(const std::string& path);
+
 /// An absolute path without . and .. components.
 std::string absolutePath(const std::string& path);
 
@@ -36,6 +39,12 @@ public:
     /// The files in the order of their loading; the main file is the first. Texts keep their address.
     const std::deque<SourceFile>& files() const { return files_; }
 
+    /// The declarations of libraries that the program was checked with; they travel with a bundle.
+    const std::string& libraries() const { return libraries_; }
+    void setLibraries(std::string text) { libraries_ = std::move(text); }
+    /// Whether this is a bundle, which finds all it needs in itself.
+    bool isBundle() const { return replaying_; }
+
     /// The files and includes as one string of bytes, and back; false if the bytes are no bundle.
     std::string pack() const;
     bool unpack(std::string_view bytes);
@@ -44,6 +53,7 @@ private:
     std::string resolve(std::string_view name, uint32_t fromFile) const;
 
     std::deque<SourceFile> files_;
+    std::string libraries_;
     std::vector<int> log_; // the answer of each include
     size_t replay_ = 0;    // the next answer when replaying
     bool replaying_ = false;

@@ -4,6 +4,7 @@
 #include "Executable.h"
 
 #include <filesystem>
+#include <new>
 #include <unistd.h>
 
 using namespace blitz;
@@ -28,7 +29,13 @@ int runAppended(Sources& sources, const std::vector<std::string>& arguments, Out
 int main(int count, char** words) {
     const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
     Output output(STDOUT_FILENO);
-    if (std::optional<Sources> sources = appendedSources(ownPath()))
-        return runAppended(*sources, arguments, output);
-    return perform(parseCommandLine(arguments), output);
+    try {
+        if (std::optional<Sources> sources = appendedSources(ownPath()))
+            return runAppended(*sources, arguments, output);
+        return perform(parseCommandLine(arguments), output);
+    } catch (const std::bad_alloc&) {
+        output.endLine();
+        output.line("Out of memory");
+        return 1;
+    }
 }

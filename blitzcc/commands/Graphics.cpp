@@ -100,10 +100,10 @@ static constexpr const char* definitions[] = {
     "MoviePlaying (movie%)",
     "CloseMovie movie%",
     // Images.
-    "LoadImage (file_name$)",
-    "LoadAnimImage (file_name$,cell_width%,cell_height%,first%,count%)",
+    "LoadImage (file_name$[,flags%])",
+    "LoadAnimImage (file_name$,cell_width%,cell_height%,first%,count%[,flags%])",
     "CopyImage (image%)",
-    "CreateImage (width%,height%[,frames%])",
+    "CreateImage (width%,height%[,frames%][,flags%])",
     "FreeImage image%",
     "SaveImage (image%,file_name$[,frame%])",
     "GrabImage image%,x%,y%[,frame%]",

@@ -14,9 +14,6 @@ static constexpr const char* definitions[] = {
     "GetKey ()",
     "WaitKey ()",
     "FlushKeys",
-    "KeyWait ()",
-    "GetKeyRepeat ()",
-    "MoveCursor x%,y%",
     // Mouse.
     "MouseDown (button%)",
     "MouseHit (button%)",
@@ -33,7 +30,6 @@ static constexpr const char* definitions[] = {
     "MoveMouse x%,y%[,canvas%]",
     "HidePointer [canvas%]",
     "ShowPointer [canvas%]",
-    "SetPointer shape%",
     // Joystick.
     "JoyType ([port%])",
     "JoyDown (button%[,port%])",
@@ -56,6 +52,8 @@ static constexpr const char* definitions[] = {
     "JoyUDir ([port%])",
     "JoyVDir ([port%])",
     "FlushJoy",
+    "EnableDirectInput enable%",
+    "DirectInputEnabled ()",
 };
 // clang-format on
 

@@ -8,20 +8,11 @@ namespace blitz {
 
 // clang-format off
 static constexpr const char* definitions[] = {
-    "ExecFileWait command$",
-    "OpenConsole",
-    "CloseConsole",
     "CreateProcess (command$)",
     "ProcessStatus (process%)",
     "TerminateProcess process%",
-    "CreateShellStream (command$)",
-    "Beep",
-    "ShellExec command$",
     "LoadResource (name$)",
     "FreeResource resource%",
-    "SetClipboardText text$",
-    "ClipboardText$ ()",
-    "GetGadgetHandle (gadget%)",
 };
 // clang-format on
 

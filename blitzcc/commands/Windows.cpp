@@ -21,7 +21,6 @@ static constexpr const char* definitions[] = {
     "SetStatusText window%,text$",
     "WindowMenu (window%)",
     "UpdateWindowMenu window%",
-    "SetWindowTitle window%,title$",
     "Desktop ()",
     // Gadgets.
     "FreeGadget gadget%",
@@ -45,7 +44,6 @@ static constexpr const char* definitions[] = {
     "SetGadgetShape gadget%,x%,y%,width%,height%",
     "SetGadgetLayout gadget%,left%,right%,top%,bottom%",
     "SetGadgetIconStrip gadget%,icon_strip%",
-    "GadgetItemCount (gadget%)",
     "AddGadgetItem gadget%,text$[,select%][,icon%]",
     "InsertGadgetItem gadget%,index%,text$[,icon%]",
     "ModifyGadgetItem gadget%,index%,text$[,icon%]",
@@ -142,7 +140,6 @@ static constexpr const char* definitions[] = {
     // Events.
     "WaitEvent ([timeout%])",
     "PeekEvent ()",
-    "PollEvent ()",
     "FlushEvents [event%]",
     "EventID ()",
     "EventData ()",

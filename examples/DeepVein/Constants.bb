@@ -80,7 +80,7 @@ Const ReportEvery = 30
 Const MostLinesADay = 6		; the rest of a busy day is only counted
 
 Const FuelPerUnit# = .9		; tons of fuel for one unit of distance
-Const MinePerDay# = 9.		; tons that a captain without skill brings up in a day
+Const MinePerDay# = 6.		; tons that a captain without skill brings up in a day
 Const WageADay = 18
 Const DockFee = 40
 Const RepairPrice = 25		; for one point of hull

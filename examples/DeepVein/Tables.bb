@@ -10,8 +10,8 @@
 Data "iron", 14, 1.0, True, .02
 Data "nickel", 22, 1.0, True, .03
 Data "ice", 9, 1.0, True, .04
-Data "gold", 160, .5, True, .03
-Data "iridium", 340, .25, True, .06
+Data "gold", 80, .5, True, .03
+Data "iridium", 150, .25, True, .06
 Data "fuel", 16, .5, False, .03
 Data "food", 24, .8, False, .02
 Data "tools", 60, .5, False, .02
@@ -128,21 +128,21 @@ Data "hauler", 240, 32, 2.2, 80, 26000
 ; and flying, and nerve.
 
 .CompanyTable
-Data "Kessel & Daughters", 1, 4000, 3, 4
+Data "Kessel & Daughters", 1, 3000, 3, 4
 	Data "Stubborn Mule", 2, 1
 	Data "Agnes Kessel", 8, 4, 5, 7
 	Data "Deep Breath", 2, 1
 	Data "Tomas Wren", 6, 3, 6, 5
 	Data "Old Reliable", 3, 1
 	Data "Bea Kessel", 5, 6, 5, 4
-Data "Meridian Freight", 2, 6000, 3, 1
+Data "Meridian Freight", 2, 15000, 3, 1
 	Data "Fair Exchange", 3, 1
 	Data "Lucan Ferro", 2, 8, 6, 5
 	Data "Second Thought", 1, 1
 	Data "Ines Adeyemi", 3, 7, 9, 3
 	Data "Round Number", 3, 1
 	Data "Piet Halloran", 4, 6, 5, 6
-Data "The Tamsin Combine", 3, 5000, 3, 2
+Data "The Tamsin Combine", 3, 9000, 3, 2
 	Data "Common Ground", 2, 2
 	Data "Rosa Tamm", 6, 6, 6, 6
 	Data "Long Odds", 1, 1

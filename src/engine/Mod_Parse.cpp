@@ -204,6 +204,7 @@ int Parseline(int line, bool sequential) {
 }
 
 void ParseAllLines() {
+    const WaitCursor wait;
     ParsingFile = true;
     const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
     for (int line = 0; line <= last; ++line) Parseline(line, true);
@@ -217,7 +218,6 @@ void ParseFile() {
         CurrentTypeName.clear();
         FoldLevel = 0;
         IndentLevel = 0;
-        const WaitCursor wait;
         ParseAllLines();
     });
 }

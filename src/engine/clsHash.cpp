@@ -112,6 +112,21 @@ SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t 
     return slot == 0 ? nullptr : slotTable_[static_cast<std::size_t>(slot)].Value;
 }
 
+SymbolPointer clsHash::ItemDeclaredOn(std::string_view key, int line, std::intptr_t view) {
+    int candidates = 0;
+    int last = 0;
+    LastKey = UCase(key);
+    for (int slot = ChainOf(HashOfUpper(LastKey)); slot != 0;
+         slot = slotTable_[static_cast<std::size_t>(slot)].NextItem) {
+        const SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
+        if (entry.Key != LastKey || entry.Value->SciWndData != view) continue;
+        ++candidates;
+        last = slot;
+    }
+    if (candidates == 1) return slotTable_[static_cast<std::size_t>(last)].Value;
+    return candidates == 0 ? nullptr : ItemHandle(key, line, view);
+}
+
 int clsHash::TakeSlot() {
     if (slotTable_.empty()) {
         hashTbl_.assign(static_cast<std::size_t>(hashSize_), 0);

@@ -144,9 +144,12 @@ TEST(DataTree, SnippetsAreTextWithCrLf) {
 
 #ifdef BLITZCC_FILE
 
+std::string quoted(const fs::path& path) { return std::string(1, '"').append(path.string()).append(1, '"'); }
+
 // What the compiler prints, with the exit status in `status`.
 std::string outputOf(const std::string& arguments, int& status) {
-    const std::string command = "\"" BLITZCC_FILE "\" " + arguments + " < /dev/null";
+    std::string command = quoted(BLITZCC_FILE);
+    command.append(" ").append(arguments).append(" < /dev/null");
     std::FILE* pipe = popen(command.c_str(), "r");
     std::string output;
     char buffer[4096];
@@ -155,8 +158,6 @@ std::string outputOf(const std::string& arguments, int& status) {
     status = pclose(pipe);
     return output;
 }
-
-std::string quoted(const fs::path& path) { return "\"" + path.string() + "\""; }
 
 TEST(SampleProject, RunsToTheSameEndEveryTime) {
     int status = 0;

@@ -88,14 +88,16 @@ TEST(StyleFile, PutsKnownCellsAtKnownOffsets) {
     text = withLine(text, "picFunBackground", "picFunBackground #fefdfc");
     text = withLine(text, "picBackground", "picBackground #f0f1f2");
     const std::string bytes = styleFileBytes(readStyleTable(text));
-    const std::size_t fore = 2, back = fore + 41 * 4, fonts = back + 41 * 4;
-    const std::size_t bold = fonts + 41 * (2 + 16) + 41, italic = bold + 41 * 2, underline = italic + 41 * 2;
-    EXPECT_EQ(bytes.substr(fore + 2 * 4, 4), std::string("\x01\x02\x03\0", 4));
-    EXPECT_EQ(bytes.substr(fore + 29 * 4, 4), std::string("\xfe\xfd\xfc\0", 4));
-    EXPECT_EQ(bytes.substr(back + 29 * 4, 4), std::string("\xf0\xf1\xf2\0", 4));
-    EXPECT_EQ(bytes.substr(bold + 2 * 2, 2), "\xff\xff");
-    EXPECT_EQ(bytes.substr(italic + 2 * 2, 2), std::string(2, '\0'));
-    EXPECT_EQ(bytes.substr(underline + 2 * 2, 2), "\xff\xff");
+    const std::size_t slots = 41, four = 4;
+    const std::size_t fore = 2, back = fore + slots * 4, fonts = back + slots * 4;
+    const std::size_t bold = fonts + slots * (2 + 16) + 41, italic = bold + slots * 2,
+                      underline = italic + slots * 2;
+    EXPECT_EQ(bytes.substr(fore + 2 * four, 4), std::string("\x01\x02\x03\0", 4));
+    EXPECT_EQ(bytes.substr(fore + 29 * four, 4), std::string("\xfe\xfd\xfc\0", 4));
+    EXPECT_EQ(bytes.substr(back + 29 * four, 4), std::string("\xf0\xf1\xf2\0", 4));
+    EXPECT_EQ(bytes.substr(bold + four, 2), "\xff\xff");
+    EXPECT_EQ(bytes.substr(italic + four, 2), std::string(2, '\0'));
+    EXPECT_EQ(bytes.substr(underline + four, 2), "\xff\xff");
 }
 
 TEST(StyleContrast, MeasuresAsThePublishedFormulaDoes) {

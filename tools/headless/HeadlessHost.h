@@ -1,0 +1,53 @@
+// The program's floors without a window: real files, real edit controls on the offscreen platform, an empty
+// temporary settings store, and dialogs that answer themselves. Fills gHost for as long as it lives.
+#pragma once
+
+#include "HeadlessDock.h"
+#include "host/Dialogs.h"
+#include "host/qt/QtDesktop.h"
+#include "host/qt/QtEditorView.h"
+#include "host/qt/QtFiles.h"
+#include "host/qt/QtProcesses.h"
+#include "host/qt/QtSettingsStore.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <memory>
+#include <string>
+
+// Answers with the default button and tells on standard error what was shown.
+class QuietDialogs : public Dialogs {
+public:
+    MessageAnswer Show(const Message& message) override;
+    std::vector<std::string> OpenFiles(const FileQuestion&) override { return {}; }
+    std::string SaveFile(const FileQuestion&) override { return {}; }
+    std::string Folder(const std::string&, const std::string&) override { return {}; }
+    std::optional<std::string> Input(const std::string&, const std::string&, const std::string&) override {
+        return std::nullopt;
+    }
+};
+
+class HeadlessHost {
+public:
+    // Starts the toolkit on the offscreen platform. `appDir`: the program directory to use.
+    explicit HeadlessHost(const std::string& appDir);
+    ~HeadlessHost();
+    HeadlessHost(const HeadlessHost&) = delete;
+    HeadlessHost& operator=(const HeadlessHost&) = delete;
+
+    // Reads compilers, settings and the colour style, as the program does at its start. Settings that were
+    // saved before take effect here.
+    void Load();
+
+    HeadlessDock dock;
+
+private:
+    QTemporaryDir folder_;
+    QApplication application_;
+    QuietDialogs dialogs_;
+    QtFiles files_;
+    QtDesktop desktop_;
+    QtProcesses processes_;
+    QtEditorViews views_;
+    std::unique_ptr<QtSettingsStore> settings_;
+};
