@@ -14,6 +14,12 @@ Kind FakeDialogs::Take(const std::string& what, Kind otherwise) {
     return answer;
 }
 
+void FakeDialogs::WillAnswer(MessageAnswer answer) { script_.emplace_back(answer); }
+void FakeDialogs::WillOpen(std::vector<std::string> paths) { script_.emplace_back(Paths{std::move(paths)}); }
+void FakeDialogs::WillSave(std::string path) { script_.emplace_back(SavePath{std::move(path)}); }
+void FakeDialogs::WillChooseFolder(std::string path) { script_.emplace_back(FolderPath{std::move(path)}); }
+void FakeDialogs::WillType(std::optional<std::string> text) { script_.emplace_back(Line{std::move(text)}); }
+
 void FakeDialogs::ExpectUsedUp() const {
     EXPECT_TRUE(script_.empty()) << script_.size() << " scripted answers were not asked for";
 }

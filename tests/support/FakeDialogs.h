@@ -12,11 +12,11 @@
 class FakeDialogs : public Dialogs {
 public:
     // Scripted answers, in the order in which they will be needed.
-    void WillAnswer(MessageAnswer answer) { script_.push_back(answer); }
-    void WillOpen(std::vector<std::string> paths) { script_.push_back(Paths{std::move(paths)}); }
-    void WillSave(std::string path) { script_.push_back(SavePath{std::move(path)}); }
-    void WillChooseFolder(std::string path) { script_.push_back(FolderPath{std::move(path)}); }
-    void WillType(std::optional<std::string> text) { script_.push_back(Line{std::move(text)}); }
+    void WillAnswer(MessageAnswer answer);
+    void WillOpen(std::vector<std::string> paths);
+    void WillSave(std::string path);
+    void WillChooseFolder(std::string path);
+    void WillType(std::optional<std::string> text);
     // Fails the test when answers are left.
     void ExpectUsedUp() const;
 
