@@ -67,7 +67,11 @@ CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* par
     if (isEditable()) {
         lineEdit()->setPlaceholderText(command.PlainCaption());
         setCompleter(nullptr);
-        connect(lineEdit(), &QLineEdit::editingFinished, this, [this] { Changed(true); });
+        connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { Changed(true); });
+        // Leaving the box commits what was typed and not entered yet.
+        connect(lineEdit(), &QLineEdit::editingFinished, this, [this] {
+            if (uncommitted_) Changed(true);
+        });
     }
     connect(this, &QComboBox::activated, this, [this] { Changed(true); });
     connect(this, &QComboBox::editTextChanged, this, [this] { Changed(false); });
@@ -100,6 +104,7 @@ void CommandCombo::Changed(bool committed) {
     const std::string text = Typed(currentText());
     const bool differs = text != command_.Text();
     if (differs) command_.SetText(text);
+    uncommitted_ = !committed && (uncommitted_ || differs);
     if (!table_.events) return;
     if (differs) table_.events->DS_ComboTextChanged(command_);
     if (committed) table_.events->DS_ComboTextCommitted(command_);

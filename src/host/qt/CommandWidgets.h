@@ -20,7 +20,8 @@ private:
 
     QtCommand& command_;
     CommandTable& table_;
-    bool showing_ = false;
+    bool showing_ = false;     // the program sets the text
+    bool uncommitted_ = false; // the user typed and has not entered it
 };
 
 // The widget of a status command: a text, a progress bar or a clock.

@@ -87,7 +87,7 @@ void QtDocumentArea::Show(QtDocumentWindow& window) {
     if (!group) group = static_cast<TabGroup*>(splitter_->widget(0));
     {
         const QScopedValueRollback<bool> guard(arranging_, true);
-        group->insertTab(group->currentIndex() + 1, window.Page(), QString());
+        group->addTab(window.Page(), QString());
     }
     window.ShowCaption();
     ShowRightPage();

@@ -4,10 +4,9 @@
 
 #include "host/Failure.h"
 #include "host/qt/FileHandle.h"
-#include "host/qt/QtText.h"
 
-#include <QSaveFile>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -42,8 +41,8 @@ std::string FolderOf(const std::string& path) {
 }
 
 bool MustWriteInPlace(const std::string& path, const struct stat& status) {
-    return status.st_nlink > 1 || status.st_uid != geteuid() || HasAttributes(path) ||
-           access(FolderOf(RealPath(path)).c_str(), W_OK) != 0;
+    return status.st_nlink > 1 || status.st_uid != geteuid() || status.st_gid != getegid() ||
+           HasAttributes(path) || access(FolderOf(RealPath(path)).c_str(), W_OK) != 0;
 }
 
 void SyncOrFail(const FileHandle& file, const std::string& path) {
@@ -103,31 +102,51 @@ void WriteInPlace(const std::string& path, std::string_view bytes, off_t oldSize
     unlink(backup.c_str());
 }
 
-[[noreturn]] void FailSaving(QSaveFile& file, const std::string& path) {
-    const std::string text = path + ": " + Typed(file.errorString());
-    file.cancelWriting();
-    throw Failure(FailureFileAccess, text);
+// The mode that a new file gets, which only asking for it by changing it can tell.
+mode_t NewFileMode() {
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
 }
 
-// A commit alone would put a short file over the good one on a full disk, so each write is looked at.
-void WriteBeside(const std::string& path, std::string_view bytes) {
-    QSaveFile file(PathText(path));
-    if (!file.open(QIODevice::WriteOnly)) FailSaving(file, path);
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), size) != size || !file.flush()) FailSaving(file, path);
-    if (!file.commit()) FailSaving(file, path);
+// A new file beside the old one, complete and on the disk before it takes the old one's name.
+void WriteBeside(const std::string& path, std::string_view bytes, mode_t mode) {
+    const std::string target = RealPath(path);
+    std::string name = target + ".XXXXXX";
+    FileHandle file(mkostemp(name.data(), O_CLOEXEC));
+    if (!file) FailWith(errno, path);
+    try {
+        WriteAll(file, bytes, path);
+        if (fchmod(file.Get(), mode) != 0) FailWith(errno, path);
+        SyncOrFail(file, path);
+        if (const int error = file.Close()) FailWith(error, path);
+        if (rename(name.c_str(), target.c_str()) != 0) FailWith(errno, path);
+    } catch (const Failure&) {
+        unlink(name.c_str());
+        throw;
+    }
+}
+
+// A symbolic link to nothing: the file is made where the link points to.
+bool IsDanglingLink(const std::string& path) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 }
 
 void SafeWrite(const std::string& path, std::string_view bytes) {
     struct stat status {};
-    if (stat(path.c_str(), &status) != 0) return WriteBeside(path, bytes);
+    if (stat(path.c_str(), &status) != 0) {
+        if (!IsDanglingLink(path)) return WriteBeside(path, bytes, NewFileMode());
+        ::OpenFile(path, O_WRONLY | O_CREAT);
+        return SafeWrite(path, bytes);
+    }
     if (S_ISDIR(status.st_mode)) throw Failure(FailureFileAccess, path + ": is a folder");
     if (!S_ISREG(status.st_mode)) throw Failure(FailureFileAccess, path + ": is not a regular file");
     if (access(path.c_str(), W_OK) != 0) FailWith(errno, path);
     if (MustWriteInPlace(path, status))
         WriteInPlace(path, bytes, status.st_size);
     else
-        WriteBeside(path, bytes);
+        WriteBeside(path, bytes, status.st_mode & 07777);
 }

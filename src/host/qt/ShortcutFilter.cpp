@@ -2,7 +2,9 @@
 // widget, which the toolkit's own shortcuts cannot do.
 #include "host/qt/ShortcutFilter.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -11,8 +13,10 @@
 namespace {
 
 bool IsTextField(const QWidget* widget) {
-    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
-           qobject_cast<const QTextEdit*>(widget);
+    // An editable box has the focus itself and passes keys on to its field.
+    if (const auto* box = qobject_cast<const QComboBox*>(widget)) return box->isEditable();
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
+           qobject_cast<const QPlainTextEdit*>(widget) || qobject_cast<const QTextEdit*>(widget);
 }
 
 // Keys that move and end in a text field: they are its own however commands are bound.

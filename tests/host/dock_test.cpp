@@ -1,0 +1,197 @@
+// The frame of the main window: document windows, their events in order, and shortcuts.
+#include "host/Failure.h"
+#include "host/qt/EditorWidget.h"
+#include "host/qt/QtDockStudio.h"
+#include "support/FakeHost.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Page : public Form {
+public:
+    void* NativeWidget() override { return view_.NativeWidget(); }
+    QtEditorView& View() { return view_; }
+
+private:
+    QtEditorView view_;
+};
+
+struct Recorder : DockStudioEvents {
+    std::vector<std::string> events;
+    bool cancelHiding = false, cancelShortcut = false;
+    std::function<void(DocumentWindow&)> hidden;
+
+    void DS_CommandClick(DockCommand& command, int item) override {
+        events.push_back("click " + command.Name() + (item < 0 ? "" : " " + std::to_string(item)));
+    }
+    void DS_ComboTextChanged(DockCommand& command) override { events.push_back("text " + command.Text()); }
+    void DS_ComboTextCommitted(DockCommand& command) override {
+        events.push_back("commit " + command.Text());
+    }
+    void DS_DocumentWindowActivate(DocumentWindow& window, bool creating) override {
+        events.push_back((creating ? "create " : "activate ") + window.Key());
+    }
+    void DS_DocumentWindowDeactivate(DocumentWindow& window) override {
+        events.push_back("leave " + window.Key());
+    }
+    void DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) override {
+        events.push_back("hiding " + window.Key());
+        cancel = cancelHiding;
+    }
+    void DS_DocumentWindowHidden(DocumentWindow& window) override {
+        events.push_back("hidden " + window.Key());
+        if (hidden) hidden(window);
+    }
+    void DS_DocumentWindowContextClick(DocumentWindow&, int place, int, int, bool& cancel) override {
+        events.push_back("context " + std::to_string(place));
+        cancel = true;
+    }
+    void DS_DocumentWindowDoubleClick(DocumentWindow&, int) override {}
+    void DS_PaneShown(const std::string& pane, bool shown) override {
+        events.push_back("pane " + pane + (shown ? " on" : " off"));
+    }
+    void DS_ShortcutFiring(DockCommand&, bool& cancel) override { cancel = cancelShortcut; }
+    void DS_FilesDropped(const std::vector<std::string>&) override {}
+    void DS_QueryUnload(bool& cancel) override {
+        events.push_back("close?");
+        cancel = true;
+    }
+    void DS_Resize() override {}
+};
+
+struct DockTest : testing::Test {
+    FakeHost host;
+    Page a, b, c; // outlive the windows that show them
+    QtDockStudio dock;
+    Recorder recorder;
+    using Events = std::vector<std::string>;
+
+    void SetUp() override {
+        Layout layout;
+        layout.commands = {{.name = "Save", .caption = "&Save", .category = "Sci", .shortcuts = {"Ctrl+S"}},
+                           {.name = "New Line", .shortcuts = {"Return"}},
+                           {.name = "Copy", .shortcuts = {"Ctrl+C"}},
+                           {.name = "Box", .kind = CommandKind::EditCombo}};
+        layout.bars = {{.name = "Main", .caption = "Main", .entries = {{"Save"}, {"Box"}}}};
+        dock.LoadLayout(host.Put("Layout.mp", WriteLayout(layout)));
+        dock.SetEvents(&recorder);
+        dock.SetPlace({.width = 12000, .height = 9000});
+        dock.ShowWindow();
+        dock.Window().activateWindow();
+        QApplication::processEvents();
+    }
+    Events Take() { return std::exchange(recorder.events, {}); }
+};
+
+TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
+    DocumentWindow& first = dock.AddDocumentWindow("a", "a.bb", &a);
+    EXPECT_EQ(Take(), Events{"create a"});
+    first.SetVisible(true);
+    DocumentWindow& second = dock.AddDocumentWindow("b", "b.bb", &b);
+    second.SetVisible(true);
+    EXPECT_EQ(Take(), (Events{"activate a", "create b", "leave a", "activate b"}));
+    EXPECT_TRUE(second.InFront());
+    EXPECT_FALSE(first.InFront());
+    EXPECT_THROW(dock.AddDocumentWindow("A", "again", &c), Failure);
+
+    recorder.cancelHiding = true;
+    second.SetVisible(false);
+    EXPECT_TRUE(second.Visible());
+    EXPECT_EQ(Take(), Events{"hiding b"});
+
+    recorder.cancelHiding = false;
+    recorder.hidden = [&](DocumentWindow& window) { dock.DropDocumentWindow(window); };
+    second.SetVisible(false);
+    EXPECT_FALSE(second.Visible()); // the window may still be looked at
+    EXPECT_EQ(Take(), (Events{"hiding b", "leave b", "hidden b", "activate a"}));
+    EXPECT_EQ(dock.FindDocumentWindow("b"), nullptr);
+    EXPECT_EQ(dock.ActiveDocumentWindow(), &first);
+    first.SetVisible(false);
+    EXPECT_EQ(dock.ActiveDocumentWindow(), nullptr);
+}
+
+TEST_F(DockTest, GroupsHaveFrontsOfTheirOwnAndVanishWhenEmpty) {
+    DocumentWindow& first = dock.AddDocumentWindow("a", "a", &a);
+    DocumentWindow& second = dock.AddDocumentWindow("", "b", &b);
+    DocumentWindow& third = dock.AddDocumentWindow("c", "c", &c);
+    EXPECT_EQ(second.Key().size(), 38u);
+    first.Activate();
+    dock.NextTab(-1); // past the first comes the last
+    EXPECT_EQ(dock.ActiveDocumentWindow(), &third);
+    dock.NewTabGroup(true);
+    EXPECT_TRUE(third.InFront());
+    EXPECT_TRUE(first.InFront() != second.InFront());
+    first.Activate();
+    EXPECT_TRUE(third.InFront());
+    third.SetVisible(false);
+    second.Activate();
+    dock.NextTab(1);
+    EXPECT_EQ(dock.ActiveDocumentWindow(), &first);
+}
+
+TEST_F(DockTest, ACancelledShortcutGoesOnToTheFocusedWidget) {
+    dock.AddDocumentWindow("a", "a", &a).Activate();
+    auto* view = static_cast<EditorWidget*>(a.View().NativeWidget());
+    QApplication::processEvents();
+    ASSERT_EQ(QApplication::focusWidget(), view);
+    Take();
+    QTest::keyClick(view, Qt::Key_Return);
+    EXPECT_EQ(Take(), Events{"click New Line"});
+    EXPECT_EQ(view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH), 0);
+    recorder.cancelShortcut = true;
+    QTest::keyClick(view, Qt::Key_Return);
+    EXPECT_EQ(Take(), Events{});
+    EXPECT_GT(view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH), 0); // the view's own Enter
+}
+
+TEST_F(DockTest, DisabledCommandsDontFireAndHeldKeysRepeatOnlyWhereAllowed) {
+    dock.AddDocumentWindow("a", "a", &a).Activate();
+    QApplication::processEvents();
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr);
+    Take();
+    const auto hold = [&] {
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, QString(), true);
+        QApplication::sendEvent(focus, &repeat);
+    };
+    hold();
+    EXPECT_EQ(Take(), Events{});
+    dock.FindCommand("Save")->SetAutoRepeat(true);
+    hold();
+    EXPECT_EQ(Take(), Events{"click Save"});
+    dock.FindCommand("Save")->SetEnabled(false);
+    QTest::keyClick(focus, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Take(), Events{});
+}
+
+TEST_F(DockTest, ATextFieldKeepsItsOwnKeys) {
+    auto* field = dock.Window().findChild<QLineEdit*>();
+    ASSERT_NE(field, nullptr);
+    field->setFocus();
+    QApplication::processEvents();
+    QWidget* box = QApplication::focusWidget(); // who gets the keys that a person types
+    QTest::keyClicks(box, "-x 1");
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    Take();
+    QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(Take(), Events{});
+    QTest::keyClick(box, Qt::Key_S, Qt::ControlModifier); // not the field's own
+    EXPECT_EQ(Take(), Events{"click Save"});
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(Take(), Events{"commit -x 1"});
+    dock.FindCommand("Box")->SetText("from the program");
+    EXPECT_EQ(field->text(), "from the program");
+    EXPECT_EQ(Take(), Events{});
+}
+
+TEST_F(DockTest, ClosingTheWindowAsks) {
+    dock.CloseWindow();
+    EXPECT_EQ(Take(), Events{"close?"});
+    EXPECT_TRUE(dock.Window().isVisible());
+}
+
+}

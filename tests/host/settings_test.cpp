@@ -1,0 +1,68 @@
+// The settings store on disk.
+#include "host/qt/QtInstances.h"
+#include "host/qt/QtSettingsStore.h"
+#include "support/FakeHost.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+TEST(SettingsTest, ValuesComeBackInAnyCaseAndWithAnyBytes) {
+    const FakeHost host;
+    const std::string path = host.Path("Zolto.conf");
+    const std::string odd = "a, \"b\"; \\ = \xE9 \r\n @x";
+    {
+        QtSettingsStore store(path);
+        store.Save("OptionsEdit", "CursorWidth", "2");
+        store.Save("RecentFilenames", "1", odd);
+        store.Save("RecentFilenames", "2", "");
+    }
+    QtSettingsStore store(path);
+    EXPECT_EQ(store.Get("optionsedit", "cursorwidth", "1"), "2");
+    EXPECT_EQ(store.Get("RecentFilenames", "1", ""), odd);
+    EXPECT_EQ(store.Get("RecentFilenames", "2", "default"), "");
+    EXPECT_EQ(store.Get("RecentFilenames", "3", "default"), "default");
+    store.Delete("OPTIONSEDIT", "CURSORWIDTH");
+    EXPECT_EQ(store.Get("OptionsEdit", "CursorWidth", "1"), "1");
+}
+
+TEST(SettingsTest, ADamagedFileIsPutAsideWithOneNotice) {
+    FakeHost host;
+    const std::string damaged = "[Options\nno equals sign \x01\x02\nrubbish";
+    const std::string path = host.Put("Zolto.conf", damaged);
+    std::vector<std::string> notices;
+    {
+        QtSettingsStore store(path, [&](const std::string& text) { notices.push_back(text); });
+        store.Save("Options", "StartUp", "1");
+    }
+    ASSERT_EQ(notices.size(), 1u);
+    EXPECT_NE(notices[0].find(path + ".damaged-1"), std::string::npos);
+    EXPECT_EQ(host.files.Read(path + ".damaged-1"), damaged);
+    EXPECT_EQ(QtSettingsStore(path).Get("Options", "StartUp", ""), "1");
+}
+
+TEST(InstancesTest, TheFirstOwnsAndASecondDeliversItsText) {
+    const FakeHost host;
+    QtInstances first(QString::fromStdString(host.folder));
+    EXPECT_FALSE(first.AnotherRuns());
+    EXPECT_FALSE(first.AnotherRuns()); // asking again changes nothing
+    std::vector<std::string> received;
+    const std::string handle = first.Publish([&](const std::string& text) { received.push_back(text); });
+    EXPECT_NE(std::atoi(handle.c_str()), 0);
+    QtInstances second(QString::fromStdString(host.folder));
+    const std::string text = "/L:3 \"/tmp/a b.bb\" " + std::string(200000, 'x');
+    EXPECT_TRUE(second.Send(handle, text));
+    QElapsedTimer clock;
+    clock.start();
+    while (received.empty() && clock.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_EQ(received, std::vector<std::string>{text});
+    first.Withdraw();
+    EXPECT_FALSE(second.Send(handle, "Aktiviraj"));
+    EXPECT_FALSE(second.Send("0", "Aktiviraj"));
+}
+
+}

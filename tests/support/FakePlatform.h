@@ -1,0 +1,132 @@
+// Settings in memory, a clock that a test turns, processes from a script, and real files with a switch that
+// makes writing fail.
+#pragma once
+
+#include "host/Desktop.h"
+#include "host/Processes.h"
+#include "host/SettingsStore.h"
+#include "host/qt/QtEditorView.h"
+#include "host/qt/QtFiles.h"
+
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+class FakeSettings : public SettingsStore {
+public:
+    std::string Get(const std::string& section, const std::string& key,
+                    const std::string& byDefault) override;
+    void Save(const std::string& section, const std::string& key, const std::string& text) override;
+    void Delete(const std::string& section, const std::string& key) override;
+
+    std::map<std::string, std::string> values; // "section/key" in lower case
+};
+
+class FakeFiles : public QtFiles {
+public:
+    void Write(const std::string& path, std::string_view bytes) override;
+    void OpenWithDesktop(const std::string& path) override { openedWithDesktop.push_back(path); }
+
+    bool writesFail = false; // with the number FailureFileAccess and the text "No space left on device"
+    std::vector<std::string> openedWithDesktop;
+};
+
+class FakeDesktop : public Desktop {
+public:
+    void Pump() override;
+    void SetWaitCursor(bool on) override { waitCursor = on; }
+    void LockWindowUpdate(bool lock) override { locks += lock ? 1 : -1; }
+    void Beep() override { ++beeps; }
+    int SetTimer(int milliseconds, std::function<void()> tick) override;
+    void KillTimer(int id) override { timers_.erase(id); }
+    bool ShiftDown() override { return shift; }
+    bool ControlDown() override { return control; }
+    ScreenSize Screen() override { return {1920 * 15, 1080 * 15}; }
+    std::string FontFor(const std::string& name) override;
+    std::string Date() override { return "2001-02-03"; }
+    std::string Time() override { return "04:05:06"; }
+    std::string OsName() override { return "TestOS"; }
+    std::string OsVersion() override { return "1.2"; }
+    std::string OsBuild() override { return "3"; }
+    std::string UniqueId() override;
+    std::string ShortPath(const std::string& path) override;
+    // Fails the test: a test cannot go on behind the end of the process.
+    [[noreturn]] void EndProcess(int status) override;
+
+    // Lets time pass: every timer ticks as often as it would have.
+    void Advance(int milliseconds);
+    std::size_t Timers() const { return timers_.size(); }
+
+    bool shift = false, control = false, waitCursor = false;
+    int beeps = 0, locks = 0;
+
+private:
+    struct Timer {
+        int period;
+        int left;
+        std::function<void()> tick;
+    };
+    std::map<int, Timer> timers_;
+    int lastTimer_ = 0;
+    int lastId_ = 0;
+};
+
+// What one child will do: a chunk of each pipe a poll, then its end.
+struct ChildScript {
+    std::deque<std::string> output = {};
+    std::deque<std::string> errors = {};
+    bool ends = true;
+    bool pipeFails = false;
+    SystemError startError = {};
+    SystemError writeError = {};
+    int inputRoom = 1 << 20; // bytes that its input takes at once
+};
+
+class FakeProcesses : public Processes {
+public:
+    void WillStart(ChildScript script) { scripts_.push_back(std::move(script)); }
+    void ExpectUsedUp() const;
+
+    std::unique_ptr<ChildProcess> Start(const ProcessStart& start, bool& pipeFailed,
+                                        SystemError& error) override;
+    SystemError StartDetached(const std::string& command) override;
+    bool RunIntoFile(const std::string& command, const std::string& target, int milliseconds) override;
+    void SetEnvironment(const std::string& name, const std::string& value) override {
+        environment[name] = value;
+    }
+
+    std::vector<std::string> started, detached, redirected; // the command texts
+    std::map<std::string, std::string> environment;
+    std::string redirectedOutput; // what RunIntoFile writes
+    std::string input;            // what was written to all children
+    int killed = 0;
+
+private:
+    std::deque<ChildScript> scripts_;
+};
+
+class FakeInstances : public Instances {
+public:
+    bool AnotherRuns() override { return anotherRuns; }
+    std::string Publish(std::function<void(const std::string&)> received) override {
+        receive = std::move(received);
+        return "4711:channel";
+    }
+    bool Send(const std::string& handle, const std::string& text) override {
+        sent.push_back(handle + " " + text);
+        return true;
+    }
+    void Withdraw() override { receive = nullptr; }
+
+    bool anotherRuns = false;
+    std::vector<std::string> sent;
+    std::function<void(const std::string&)> receive;
+};
+
+// Real edit controls of a fixed size, shown to nobody.
+class FakeViews : public EditorViews {
+public:
+    std::unique_ptr<EditorView> Create() override;
+    bool fails = false;
+};
