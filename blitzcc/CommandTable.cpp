@@ -55,8 +55,9 @@ std::string vocabulary() {
     std::string text;
     for (const ReservedWord& word : reservedWords()) {
         text += word.name;
-        // The sign functions are reserved words, yet they read like commands.
+        // These are reserved words, yet they read like commands.
         if (word.token == Tok::KwAbs || word.token == Tok::KwSgn) text += " (value#)";
+        if (word.token == Tok::KwStr) text += "$ (value$)";
         text += "\r\n";
     }
     for (const Command& command : CommandTable::instance().commands()) {

@@ -8,6 +8,7 @@
 #include "Tokens.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace blitz {
 
@@ -39,9 +40,11 @@ void Machine::prepareNatives() {
     }
     for (const NativeTable& natives :
          {textNatives(), mathNatives(), systemNatives(), fileNatives(), folderNatives(), bankNatives()})
-        for (size_t i = 0; i < natives.count; ++i)
-            natives_[static_cast<size_t>(table.find(lowerText(natives.entries[i].name)))] =
-                natives.entries[i].function;
+        for (size_t i = 0; i < natives.count; ++i) {
+            const int command = table.find(lowerText(natives.entries[i].name));
+            assert(command >= 0 && "a routine without an entry in the command table");
+            if (command >= 0) natives_[static_cast<size_t>(command)] = natives.entries[i].function;
+        }
 }
 
 void Machine::run() {
