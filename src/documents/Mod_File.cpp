@@ -96,6 +96,8 @@ void LoadText(frmDoc& document, const std::string& bytes) {
     document.LfEnds = bytes.find('\n') != std::string::npos && bytes.find('\r') == std::string::npos;
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
+    Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,
+                    0); // nobody listens yet, and the library would count characters
     Mod_Sci::SendTo(view, SCI_SETUNDOCOLLECTION, 0);
     if (bytes.find('\0') == std::string::npos) {
         Mod_Sci::SendTo(view, SCI_SETTEXT, 0, Mod_Sci::Address(bytes.c_str()));

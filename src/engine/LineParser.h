@@ -63,7 +63,7 @@ private:
     bool indents_ = true;
     int handle_ = 0;
     int lineStart_ = 0;
-    std::string text_;
+    static std::string text_; // parses do not nest
     int index_ = 1;
     int count_ = 0;
     int opens_ = 0;     // levels that the line opens for the next

@@ -41,6 +41,9 @@ bool IsComment(const Token& token) {
 
 } // namespace
 
+// The line's text keeps its room from line to line: a file has tens of thousands.
+std::string LineParser::text_;
+
 LineParser::LineParser(int line, bool sequential) : line_(line), sequential_(sequential) {}
 
 int LineParser::Run() {
@@ -48,7 +51,8 @@ int LineParser::Run() {
     gActiveDoc->State.mOldStartLine = -100;
     handle_ = static_cast<int>(Mod_Sci::MarkerAdd(line_, MarkerParsed));
     lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
-    text_ = Mod_Sci::LineText(line_);
+    text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
+    if (!text_.empty()) Mod_Sci::GetLine(line_, text_.data());
     const int length = Mod_Lexer::FillLineBuffer(text_);
     count_ = Mod_Lexer::Tokenize(text_, length);
     gLineStyles.Begin(lineStart_ + 1, length, true);

@@ -7,12 +7,15 @@
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+
 Symbol* FoundItem = nullptr;
 
 namespace {
 
 constexpr std::size_t HashedCharacters = 22;
 constexpr int FailureInvalidKey = 1001;
+constexpr int MostInOneChain = 16;
 
 // The sum as Add takes it: characters outside 32 to 127 count nothing.
 int HashForAdd(std::string_view upperKey) {
@@ -49,23 +52,19 @@ void clsHash::SetSize(int hashSize, int listSize, int chunkSize) {
 
 int clsHash::ChainOf(int hash) const {
     if (hash < 0 || hash >= hashSize_) throw Failure(FailureOutOfRange, "Subscript out of range");
-    return hashTbl_.empty() ? 0 : hashTbl_[static_cast<std::size_t>(hash)];
+    return hashTbl_.empty() ? 0 : hashTbl_[hashTbl_.size() == 1 ? 0 : static_cast<std::size_t>(hash)];
 }
 
 int clsHash::FindInChain(std::string_view upperKey, int hash) const {
     int slot = ChainOf(hash);
-    while (slot != 0) {
-        const SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
-        if (entry.Key == upperKey) break;
-        slot = entry.NextItem;
-    }
+    while (slot != 0 && (Slot(slot).Hash != hash || Slot(slot).Key != upperKey)) slot = Slot(slot).NextItem;
     return slot;
 }
 
 bool clsHash::ExistsU(std::string_view upperKey, int hash) {
     const int slot = FindInChain(upperKey, hash);
     if (slot == 0) return false;
-    FoundItem = slotTable_[static_cast<std::size_t>(slot)].Value.get();
+    FoundItem = Slot(slot).Value.get();
     return true;
 }
 
@@ -89,7 +88,7 @@ int clsHash::FindWhere(std::string_view key, Match match) {
     LastKey = UCase(key);
     int slot = ChainOf(HashOfUpper(LastKey));
     while (slot != 0) {
-        const SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
+        const SlotType& entry = Slot(slot);
         if (entry.Key == LastKey && match(*entry.Value)) break;
         slot = entry.NextItem;
     }
@@ -104,38 +103,37 @@ bool clsHash::ExistsCodeExplorer(std::string_view key, int handle, std::intptr_t
 
 SymbolPointer clsHash::ItemHash(std::string_view key) {
     const int slot = FindWhere(key, [](const Symbol&) { return true; });
-    return slot == 0 ? nullptr : slotTable_[static_cast<std::size_t>(slot)].Value;
+    return slot == 0 ? nullptr : Slot(slot).Value;
 }
 
 SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t view) {
     const int slot = FindWhere(key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view); });
-    return slot == 0 ? nullptr : slotTable_[static_cast<std::size_t>(slot)].Value;
+    return slot == 0 ? nullptr : Slot(slot).Value;
 }
 
 SymbolPointer clsHash::ItemDeclaredOn(std::string_view key, int line, std::intptr_t view) {
     int candidates = 0;
     int last = 0;
     LastKey = UCase(key);
-    for (int slot = ChainOf(HashOfUpper(LastKey)); slot != 0;
-         slot = slotTable_[static_cast<std::size_t>(slot)].NextItem) {
-        const SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
+    for (int slot = ChainOf(HashOfUpper(LastKey)); slot != 0; slot = Slot(slot).NextItem) {
+        const SlotType& entry = Slot(slot);
         if (entry.Key != LastKey || entry.Value->SciWndData != view) continue;
         ++candidates;
         last = slot;
     }
-    if (candidates == 1) return slotTable_[static_cast<std::size_t>(last)].Value;
+    if (candidates == 1) return Slot(last).Value;
     return candidates == 0 ? nullptr : ItemHandle(key, line, view);
 }
 
 int clsHash::TakeSlot() {
     if (slotTable_.empty()) {
-        hashTbl_.assign(static_cast<std::size_t>(hashSize_), 0);
+        hashTbl_.assign(1, 0);
         slotTable_.emplace_back();
     }
-    ++count_;
+    if (++count_ > MostInOneChain && hashTbl_.size() == 1) Spread();
     if (freeHead_ != 0) {
         const int slot = freeHead_;
-        freeHead_ = slotTable_[static_cast<std::size_t>(slot)].NextItem;
+        freeHead_ = Slot(slot).NextItem;
         return slot;
     }
     // Slots that were never used follow one another, so the next one is simply the next.
@@ -145,24 +143,38 @@ int clsHash::TakeSlot() {
     return slot;
 }
 
+// Hooks a slot in at the end of its chain.
+void clsHash::Append(int slot) {
+    int& head = Head(Slot(slot).Hash);
+    Slot(slot).NextItem = 0;
+    if (head == 0)
+        head = slot;
+    else
+        Slot(Slot(head).ChainTail).NextItem = slot;
+    Slot(head).ChainTail = slot;
+}
+
+// Gives every hash a chain of its own.
+void clsHash::Spread() {
+    int slot = hashTbl_[0];
+    hashTbl_.assign(static_cast<std::size_t>(hashSize_), 0);
+    while (slot != 0) {
+        const int next = Slot(slot).NextItem;
+        Append(slot);
+        slot = next;
+    }
+}
+
 void clsHash::Add(std::string_view key, SymbolPointer record) {
     if (key.empty()) throw Failure(FailureInvalidKey, "Invalid key");
     std::string upper = UCase(key);
     const int hash = HashForAdd(IgnoreCase ? std::string_view(upper) : key);
-    ChainOf(hash);
-
+    ChainOf(hash); // refuses a hash outside the table
     const int slot = TakeSlot();
-    SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
-    entry.Key = std::move(upper);
-    entry.Value = std::move(record);
-    entry.NextItem = 0;
-    int& head = hashTbl_[static_cast<std::size_t>(hash)];
-    if (head == 0)
-        head = slot;
-    else
-        slotTable_[static_cast<std::size_t>(slotTable_[static_cast<std::size_t>(head)].ChainTail)].NextItem =
-            slot;
-    slotTable_[static_cast<std::size_t>(head)].ChainTail = slot;
+    Slot(slot).Key = std::move(upper);
+    Slot(slot).Value = std::move(record);
+    Slot(slot).Hash = hash;
+    Append(slot);
 }
 
 template <class Match>
@@ -173,22 +185,20 @@ void clsHash::Unlink(std::string_view key, const char* operation, Match match) {
         const int hash = HashOfUpper(upper);
         int previous = 0;
         int slot = ChainOf(hash);
-        while (slot != 0) {
-            SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
-            if (entry.Key == upper && match(*entry.Value)) break;
+        while (slot != 0 &&
+               (Slot(slot).Hash != hash || Slot(slot).Key != upper || !match(*Slot(slot).Value))) {
             previous = slot;
-            slot = entry.NextItem;
+            slot = Slot(slot).NextItem;
         }
         if (slot == 0) throw Failure(FailureMissingKey, "No such element");
-        SlotType& entry = slotTable_[static_cast<std::size_t>(slot)];
-        int& head = hashTbl_[static_cast<std::size_t>(hash)];
+        SlotType& entry = Slot(slot);
+        int& head = Head(hash);
         if (previous == 0) {
             head = entry.NextItem;
-            if (head != 0) slotTable_[static_cast<std::size_t>(head)].ChainTail = entry.ChainTail;
+            if (head != 0) Slot(head).ChainTail = entry.ChainTail;
         } else {
-            slotTable_[static_cast<std::size_t>(previous)].NextItem = entry.NextItem;
-            SlotType& first = slotTable_[static_cast<std::size_t>(head)];
-            if (first.ChainTail == slot) first.ChainTail = previous;
+            Slot(previous).NextItem = entry.NextItem;
+            if (Slot(head).ChainTail == slot) Slot(head).ChainTail = previous;
         }
         // The slot keeps its key and its record until it is taken again.
         entry.NextItem = freeHead_;
@@ -205,18 +215,26 @@ void clsHash::RemovePoHandle(std::string_view key, int handle) {
     Unlink(key, "RemovePoHandle", [&](const Symbol& symbol) { return symbol.Handle == handle; });
 }
 
+// The live slots by hash, namesakes oldest first.
+std::vector<int> clsHash::Ordered() const {
+    std::vector<int> slots;
+    slots.reserve(static_cast<std::size_t>(count_));
+    for (int slot : hashTbl_)
+        for (; slot != 0; slot = Slot(slot).NextItem) slots.push_back(slot);
+    if (hashTbl_.size() == 1)
+        std::stable_sort(slots.begin(), slots.end(),
+                         [this](int a, int b) { return Slot(a).Hash < Slot(b).Hash; });
+    return slots;
+}
+
 std::vector<std::string> clsHash::Keys() const {
     std::vector<std::string> keys;
-    for (int slot : hashTbl_)
-        for (; slot != 0; slot = slotTable_[static_cast<std::size_t>(slot)].NextItem)
-            keys.push_back(slotTable_[static_cast<std::size_t>(slot)].Key);
+    for (const int slot : Ordered()) keys.push_back(Slot(slot).Key);
     return keys;
 }
 
 std::vector<SymbolPointer> clsHash::Items() const {
     std::vector<SymbolPointer> items;
-    for (int slot : hashTbl_)
-        for (; slot != 0; slot = slotTable_[static_cast<std::size_t>(slot)].NextItem)
-            items.push_back(slotTable_[static_cast<std::size_t>(slot)].Value);
+    for (const int slot : Ordered()) items.push_back(Slot(slot).Value);
     return items;
 }

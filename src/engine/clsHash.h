@@ -69,10 +69,14 @@ private:
     struct SlotType {
         std::string Key; // always upper-case
         SymbolPointer Value;
+        int Hash = 0;
         int NextItem = 0;  // next of the chain or of the free list; slot 0 is never used
         int ChainTail = 0; // in a chain's head: its last entry
     };
 
+    const SlotType& Slot(int index) const { return slotTable_[static_cast<std::size_t>(index)]; }
+    SlotType& Slot(int index) { return slotTable_[static_cast<std::size_t>(index)]; }
+    int& Head(int hash) { return hashTbl_[hashTbl_.size() == 1 ? 0 : static_cast<std::size_t>(hash)]; }
     int ChainOf(int hash) const;
     int FindInChain(std::string_view upperKey, int hash) const;
     template <class Match>
@@ -80,8 +84,12 @@ private:
     template <class Match>
     void Unlink(std::string_view key, const char* operation, Match match);
     int TakeSlot();
+    void Append(int slot);
+    void Spread();
+    std::vector<int> Ordered() const;
 
-    // Heads and slots are made when the first entry comes: most functions' tables hold a handful.
+    // Heads of the chains. A small table has a single chain for all its entries: most functions and types
+    // hold a handful of names, and a full set of heads for each of them would cost more than the names.
     std::vector<int> hashTbl_;
     std::vector<SlotType> slotTable_;
     int freeHead_ = 0; // slots that were given back
