@@ -49,7 +49,8 @@ public:
     // Puts a form into the window; null takes out what was there.
     virtual void Attach(Form* form) = 0;
     virtual bool Visible() const = 0;
-    // Showing makes it the active window. Hiding asks DS_DocumentWindowHiding first; it stays visible where that was cancelled.
+    // Showing makes it the active window. Hiding asks DS_DocumentWindowHiding first; it stays visible where
+    // that was cancelled.
     virtual void SetVisible(bool visible) = 0;
     virtual void Activate() = 0;
     // Whether it is the front window of its tab group.
@@ -131,7 +132,8 @@ public:
     virtual void AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
                             Form& form, bool addNew) = 0;
     virtual void ShowPopup(const std::string& name) = 0; // at the mouse
-    virtual void FillPopup(const std::string& name, const std::vector<std::string>& commands) = 0; // "-" separates
+    virtual void FillPopup(const std::string& name,
+                           const std::vector<std::string>& commands) = 0; // "-" separates
 
     // An empty key gets a unique id of 38 characters. Fails with FailureDuplicateKey for a key in use.
     virtual DocumentWindow& AddDocumentWindow(const std::string& key, const std::string& caption,

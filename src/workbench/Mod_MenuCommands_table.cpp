@@ -7,6 +7,7 @@
 #include "engine/ClsProject.h"
 #include "engine/Mod_Folding.h"
 #include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
 #include "host/Dialogs.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -57,6 +58,15 @@ void ToggleFold(const Click&) {
     Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
+// The group stays open across the indentation that follows, so both are undone together.
+void NewLine(const Click&) {
+    if (!DocumentActive()) return;
+    Mod_Sci::AutoCCancel();
+    gUndoGroupOpen = true;
+    Mod_Sci::BeginUndoAction();
+    Mod_Sci::NewLine();
+}
+
 void NotAvailable(const Click&) {
     gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
                          .icon = MessageIcon::Information});
@@ -66,7 +76,7 @@ void NotAvailable(const Click&) {
 
 const std::vector<RoutedCommand>& Routes() {
     static const std::vector<RoutedCommand> table = {
-        {"New Line", [](const Click&) { Mod_Sci::NewLine(); }},
+        {"New Line", NewLine},
         {"Undo", [](const Click&) { Mod_Sci::Undo(); }, true},
         {"Redo", [](const Click&) { Mod_Sci::Redo(); }, true},
         {"Cut", [](const Click&) { Mod_Sci::Cut(); }},

@@ -3,6 +3,7 @@
 #include "workbench/frmError.h"
 
 #include "host/Dialogs.h"
+#include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Files.h"
 #include "host/Host.h"
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -93,8 +95,34 @@ void frmError::SendReport() {
     accept();
 }
 
-void frmError::ShowModal() {
+namespace {
+
+// A window that opens while another paints would paint into the middle of it.
+bool SomethingPaints() {
+    for (const QWidget* widget : QApplication::allWidgets())
+        if (widget->testAttribute(Qt::WA_WState_InPaintEvent)) return true;
+    return false;
+}
+
+void RunDialog() {
     QWidget* parent = QApplication::activeModalWidget();
     frmError dialog(parent ? parent : MainWindow());
     dialog.exec();
+}
+
+}
+
+void frmError::ShowModal() {
+    static bool waiting = false;
+    if (waiting) return;
+    if (!SomethingPaints()) return RunDialog();
+    waiting = true;
+    QTimer::singleShot(0, qApp, [] {
+        waiting = false;
+        // The reporter has come back meanwhile, so the flag is held here.
+        if (gInErrorReport) return;
+        gInErrorReport = true;
+        RunDialog();
+        gInErrorReport = false;
+    });
 }

@@ -7,7 +7,8 @@ class frmError : public QDialog {
 public:
     explicit frmError(QWidget* parent);
 
-    // Shows the dialog and comes back when it was closed.
+    // Shows the dialog and comes back when it was closed. A failure during painting comes back at once, and
+    // the dialog follows when the painting is done.
     static void ShowModal();
 
 private:

@@ -145,6 +145,9 @@ TEST_F(DockTest, ACancelledShortcutGoesOnToTheFocusedWidget) {
     recorder.cancelShortcut = true;
     QTest::keyClick(view, Qt::Key_Return);
     EXPECT_EQ(Take(), Events{});
+    const long length = view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
+    QTest::keyClick(view, 'd', Qt::AltModifier); // a menu's key, not typing
+    EXPECT_EQ(view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH), length);
     EXPECT_GT(view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH), 0); // the view's own Enter
 }
 

@@ -143,6 +143,9 @@ void EditorWidget::dropEvent(QDropEvent* event) {
 
 void EditorWidget::keyPressEvent(QKeyEvent* event) {
     const QString text = event->text();
+    // A letter with Alt is a menu's key that no menu has; it is not typing.
+    const bool menuKey = event->modifiers() & Qt::AltModifier && !(event->modifiers() & Qt::ControlModifier);
+    if (menuKey && !text.isEmpty() && text.front().isPrint()) return event->ignore();
     const bool beyondLatin1 =
         std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
     if (IsUtf8() || !beyondLatin1) return QsciScintillaBase::keyPressEvent(event);

@@ -84,6 +84,8 @@ void QtDockStudio::SetPlace(const WindowPlace& place) {
 }
 
 void QtDockStudio::ShowWindow() {
+    // Otherwise the first box of a tool bar would have the focus of a window without documents.
+    if (!area_->Active()) area_->setFocus(Qt::OtherFocusReason);
     switch (wantedState_) {
     case Maximised: return window_.showMaximized();
     case Minimised: return window_.showMinimized();

@@ -19,6 +19,7 @@ constexpr int OnTab = 3;
 }
 
 QtDocumentArea::QtDocumentArea(QWidget* parent) : QStackedWidget(parent), splitter_(new QSplitter) {
+    setFocusPolicy(Qt::ClickFocus);
     splitter_->setChildrenCollapsible(false);
     addWidget(splitter_);
     NewGroup(0);

@@ -15,7 +15,8 @@ constexpr QSize CloseButton(18, 18);
 TabGroup::TabGroup(QWidget* parent) : QTabWidget(parent) {
     setDocumentMode(true);
     setMovable(true);
-    setElideMode(Qt::ElideMiddle);
+    // A bar that is full scrolls: cut names would all look alike.
+    setElideMode(Qt::ElideNone);
     setUsesScrollButtons(true);
     tabBar()->setExpanding(false);
     tabBar()->setAccessibleName(tr("Open documents"));
