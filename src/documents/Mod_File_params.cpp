@@ -11,6 +11,7 @@
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
 #include <charconv>
 #include <functional>
 #include <optional>
@@ -148,6 +149,12 @@ void CheckFileParameters() {
                ApplyLine(Mod_Sci::LineText(line)))
             ++line;
         const auto end = line >= lines ? Mod_Sci::GetLength() : Mod_Sci::GetLineEndPosition(line - 1);
+        // A line that goes would leave its markers to the line before it, which has its own.
+        const auto headerLine = Mod_Sci::LineFromPosition(header);
+        const bool wholeLine = Mod_Sci::PositionFromLine(headerLine) == header;
+        for (auto gone = wholeLine ? std::max<std::intptr_t>(1, headerLine) : headerLine + 1; gone < line;
+             ++gone)
+            Mod_Sci::MarkerDelete(gone, -1);
         // The two bytes in front of the header are the line end that was written with it.
         Mod_Sci::ReplaceRange(std::max<std::intptr_t>(0, header - 2), end, "");
     });
