@@ -116,7 +116,10 @@ Levels CountLevels(int count) {
         const ClsBBFunkcija* keyword = KeywordAt(i);
         if (keyword == nullptr) continue;
         if (keyword->IsStartScope) levels.opens += keyword->word == Word::Select ? 2 : 1;
-        if (keyword->IsEndScope) CountEndScope(levels, keyword->word, i, count);
+        if (!keyword->IsEndScope) continue;
+        CountEndScope(levels, keyword->word, i, count);
+        // "End Function" is one closing word, and opens nothing.
+        if (keyword->word == Word::End && LightTokens[static_cast<std::size_t>(i) + 1].Kind == TOK_IDENT) ++i;
     }
     return levels;
 }
