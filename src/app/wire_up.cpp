@@ -4,6 +4,8 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "editor/EditorCalls.h"
+#include "editor/SciOptions.h"
+#include "editor/frmDoc.h"
 #include "engine/EngineCalls.h"
 #include "host/Desktop.h"
 #include "host/DockStudio.h"
@@ -21,7 +23,10 @@
 namespace {
 
 void WireEditor() {
-    gEngineCalls.WaitCursor = [](bool on) { gHost.desktop->SetWaitCursor(on); };
+    gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
+    gEngineCalls.DocumentChanged = [] {
+        if (frmDoc* document = ActiveForm()) document->SetDirty(true);
+    };
     gEditorCalls.SetPositionText = [](const std::string& text) { frmMain::Instance().SetPositionText(text); };
     gEditorCalls.SetFunctionText = [](const std::string& text) { frmMain::Instance().SetFunctionText(text); };
     gEditorCalls.UpdateSciCommandUI = [] { frmMain::Instance().UpdateSciCommandUI(); };

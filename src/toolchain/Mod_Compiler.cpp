@@ -82,7 +82,6 @@ bool FindCompiler(std::string& shortPath) {
 std::string AskForTarget(const std::string& path) {
     FileQuestion question{"Create Executable", "Executables (*.exe)|*.exe", path, {}, false};
     question.fileName.resize(question.fileName.size() - std::min<std::size_t>(3, question.fileName.size()));
-    if (question.fileName.ends_with('.')) question.fileName.pop_back();
     question.fileName += ".exe";
     return gHost.dialogs->SaveFile(question);
 }
