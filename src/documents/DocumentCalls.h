@@ -9,6 +9,7 @@ struct DocumentCalls {
     std::function<void()> UpdateCommandUI;     // commands enable by the active document
     std::function<void()> RefreshCodeExplorer; // its list of files or its current project changed
     std::function<void()> UnloadFind;
+    std::function<void(const std::string& path)> OpenBrowser;
     std::function<void(const std::string& text)> SplashStatus; // shows a line on the splash window
     std::function<void()> CreateMainWindow;                    // its Form_Load runs
     std::function<void()> ShowMainWindow;
