@@ -7,27 +7,12 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace Mod_Parse {
 
-// The lines of a whole text from first to last, divided as the edit control divides them. Asking the control
-// for each line of a file costs as much as parsing it.
-class WholeText {
-public:
-    explicit WholeText(std::string text) : text_(std::move(text)) {}
-    // Moves the next line, with its line end, to `line`; answers the position where it starts.
-    int Next(std::string& line);
-
-private:
-    std::string text_;
-    std::size_t at_ = 0;
-};
-
 class LineParser {
 public:
-    // `source`: where the line's text comes from while a fresh document is parsed; null asks the control.
-    LineParser(int line, bool sequential, WholeText* source = nullptr);
+    LineParser(int line, bool sequential);
     int Run();
 
 private:
@@ -73,11 +58,8 @@ private:
     void Fill(Symbol& record, const std::string& name, int handle) const;
     void FillTail(Symbol& record, const NameTail& tail, bool isVariable) const;
 
-    void ReadLine();
-
     int line_;
     bool sequential_;
-    WholeText* source_;
     bool indents_ = true;
     int handle_ = 0;
     int lineStart_ = 0;

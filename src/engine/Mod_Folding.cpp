@@ -41,7 +41,7 @@ void MarkMainProgram(int line) {
 
 } // namespace
 
-void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential, bool fresh) {
+void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
     const bool derived = !sequential || FoldLevel == 0;
     if (derived) FoldLevel = DeriveLevel(line);
     if (foldDelta > 0) {
@@ -52,8 +52,8 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential, b
         Mod_Sci::SetFoldLevel(line, FunctionLevel);
         FoldLevel = TopLevel;
     } else {
-        if (!fresh && !Mod_Sci::GetLineVisible(line + 1)) Mod_Sci::EnsureVisible(line + 1);
-        if (!fresh || FoldLevel != TopLevel) Mod_Sci::SetFoldLevel(line, FoldLevel);
+        if (!Mod_Sci::GetLineVisible(line + 1)) Mod_Sci::EnsureVisible(line + 1);
+        Mod_Sci::SetFoldLevel(line, FoldLevel);
         if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
     }
     if (derived && LevelOf(line + 1) != FoldLevel && HasMarker(line + 1, MarkerParsed))

@@ -7,9 +7,8 @@ constexpr int TopLevel = 1024;
 constexpr int FunctionLevel = 1025;
 
 // Sets the fold level of a line that was just parsed, and FoldLevel for the next. `foldDelta`: blocks that
-// the line opens less those that it closes; `functionLine`: it has marker 0; `sequential`: FoldLevel holds;
-// `fresh`: the document is being parsed for the first time, all its lines are visible and at the top level.
-void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential, bool fresh);
+// the line opens less those that it closes; `functionLine`: it has marker 0; `sequential`: FoldLevel holds.
+void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential);
 // Rewrites the levels, and the marks of the main program, from the line behind `line` to the next line with
 // marker 0. `level`: that of the first of them.
 void CheckFold(int line, int level);

@@ -44,36 +44,18 @@ bool IsComment(const Token& token) {
 // The line's text keeps its room from line to line: a file has tens of thousands.
 std::string LineParser::text_;
 
-LineParser::LineParser(int line, bool sequential, WholeText* source)
-    : line_(line), sequential_(sequential), source_(source) {}
-
-int WholeText::Next(std::string& line) {
-    const std::size_t start = at_;
-    at_ = std::min(text_.find_first_of("\r\n", start), text_.size());
-    if (at_ < text_.size()) at_ += text_.compare(at_, 2, "\r\n") == 0 ? 2 : 1;
-    line.assign(text_, start, at_ - start);
-    return static_cast<int>(start);
-}
-
-void LineParser::ReadLine() {
-    if (source_ != nullptr) {
-        lineStart_ = source_->Next(text_) - 1;
-        return;
-    }
-    lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
-    text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
-    if (!text_.empty()) Mod_Sci::GetLine(line_, text_.data());
-}
+LineParser::LineParser(int line, bool sequential) : line_(line), sequential_(sequential) {}
 
 int LineParser::Run() {
     gSymbolsChanged = true;
     gActiveDoc->State.mOldStartLine = -100;
     handle_ = static_cast<int>(Mod_Sci::MarkerAdd(line_, MarkerParsed));
-    ReadLine();
+    lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
+    text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
+    if (!text_.empty()) Mod_Sci::GetLine(line_, text_.data());
     const int length = Mod_Lexer::FillLineBuffer(text_);
     count_ = Mod_Lexer::Tokenize(text_, length);
-    // A fresh document has style 0 throughout, so only what differs is sent.
-    gLineStyles.Begin(lineStart_ + 1, length, source_ == nullptr);
+    gLineStyles.Begin(lineStart_ + 1, length, true);
 
     if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
     if (CurrentFunctionName == MainProgram) AddMarker(MarkerMainProgram);
@@ -83,7 +65,7 @@ int LineParser::Run() {
 
     while (index_ <= count_) One();
     gLineStyles.Flush();
-    Mod_Folding::SetLineLevel(line_, foldDelta_, functionLine_, sequential_, source_ != nullptr);
+    Mod_Folding::SetLineLevel(line_, foldDelta_, functionLine_, sequential_);
     if (indents_) Indent();
     return handle_;
 }
@@ -229,14 +211,7 @@ void ParseAllLines() {
     const WaitCursor wait;
     ParsingFile = true;
     const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
-    if (OptionsEdit::AutoIndentOnLoad) {
-        for (int line = 0; line <= last; ++line) Parseline(line, true);
-    } else {
-        // Nothing changes the length of a line here, so the text can be taken once.
-        WholeText source(Mod_Sci::GetText());
-        for (int line = 0; line <= last; ++line)
-            Guarded("Parseline", "Mod_Parse", [&] { LineParser(line, true, &source).Run(); });
-    }
+    for (int line = 0; line <= last; ++line) Parseline(line, true);
     ParsingFile = false;
 }
 
