@@ -3,6 +3,7 @@
 
 #include "engine/ClsCompiler.h"
 #include "engine/Mod_Lexer.h"
+#include "engine/Mod_Parse_walk.h"
 #include "engine/Symbols.h"
 
 #include <memory>
@@ -18,14 +19,6 @@ public:
 private:
     using Word = ClsBBFunkcija::Word;
 
-    // What a declared name carries behind itself.
-    struct NameTail {
-        std::uint8_t tip = TipInteger;
-        std::string tajp;
-        int bracket = 0; // index of the opening bracket's token, 0 for none
-        bool closed = false;
-    };
-
     Token& At(int index) const;
     bool NextIsName() const;
     int AddMarker(int marker);
@@ -33,7 +26,6 @@ private:
 
     void One();
     void Identifier();
-    void Comment();
     void Block(const std::string& word, int foldMarker, int delta);
     void EndScope(Word word);
     void General();
@@ -51,10 +43,6 @@ private:
     void Declarations(Word word);
     void OpenDeclarations(Word word);
     void Place(Word word, std::shared_ptr<Symbol> record);
-    NameTail GetVarTipColor();
-    NameTail GetArrayVarTipColor();
-    void SuffixTail(NameTail& tail);
-    void TakeBounds(NameTail& tail, char close);
     void Fill(Symbol& record, const std::string& name, int handle) const;
     void FillTail(Symbol& record, const NameTail& tail, bool isVariable) const;
 

@@ -64,7 +64,12 @@ int LineParser::Run() {
     if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
 
     while (index_ <= count_) One();
-    gLineStyles.Flush();
+    // While a file is loaded nobody sees the line yet: the pass that shows it gives it all its styles.
+    if (!ParsingFile) {
+        gLineStyles.Begin(lineStart_ + 1, length, true);
+        StyleLiterals(count_, lineStart_);
+        gLineStyles.Flush();
+    }
     Mod_Folding::SetLineLevel(line_, foldDelta_, functionLine_, sequential_);
     if (indents_) Indent();
     return handle_;
@@ -86,32 +91,17 @@ void LineParser::Rewrite(int index, const std::string& spelling) {
 
 // Takes the token at the index, and moves on to the next one that is not taken yet.
 void LineParser::One() {
-    const Token& token = At(index_);
-    switch (token.Kind) {
+    switch (At(index_).Kind) {
     case TOK_IDENT: Identifier(); return;
-    case ',':
-    case ':': gLineStyles.SetToEnd(lineStart_ + token.StartPos, STYLE_Separator); break;
-    case TOK_COMMENT: Comment(); break;
+    case TOK_COMMENT: startsWithComment_ = startsWithComment_ || index_ == 1; break;
     case TOK_BLOCK_START: Block("Block", MarkerFoldOpens, +1); break;
     case TOK_BLOCK_END: Block("End", MarkerFoldCloses, -1); break;
-    case TOK_NUMBER: Style(lineStart_, token, token.EndPos - token.StartPos, STYLE_Number); break;
-    case TOK_STRING: Style(lineStart_, token, token.EndPos - token.StartPos + 1, STYLE_String); break;
     case '.':
         if (index_ == 1 && NextIsName()) Label();
         break;
-    case TOK_NONE: Style(lineStart_, token, token.EndPos - token.StartPos, BadStyle); break;
-    default:
-        if (IsOperator[token.Kind]) Style(lineStart_, token, 1, STYLE_Operator);
+    default: break;
     }
     ++index_;
-}
-
-void LineParser::Comment() {
-    Token& token = At(index_);
-    if (index_ == 1) startsWithComment_ = true;
-    const bool second = token.EndPos == SecondCommentStyle;
-    gLineStyles.SetToEnd(lineStart_ + token.StartPos, second ? STYLE_Comment2 : STYLE_Comment);
-    if (second) token.EndPos = 0;
 }
 
 void LineParser::Block(const std::string& word, int foldMarker, int delta) {
@@ -121,7 +111,6 @@ void LineParser::Block(const std::string& word, int foldMarker, int delta) {
         const std::intptr_t start = lineStart_ + token.StartPos + 2;
         Mod_Sci::ReplaceRange(start, start + static_cast<std::intptr_t>(word.size()), word);
     }
-    gLineStyles.SetToEnd(lineStart_ + token.StartPos, STYLE_Block);
     AddMarker(MarkerBlock);
     AddMarker(foldMarker);
     foldDelta_ += delta;
@@ -136,7 +125,6 @@ void LineParser::Identifier() {
     Rewrite(index_, keyword->Ime);
     if (keyword->IsStartScope) opens_ += keyword->word == Word::Select ? 2 : 1;
     if (OptionsEdit::AutoIndentType == 2 && keyword->IsEndScope) EndScope(keyword->word);
-    Style(lineStart_, At(index_), static_cast<std::intptr_t>(keyword->Ime.size()), STYLE_Keyword);
 
     if (NextIsName()) {
         Dispatch(keyword->word);

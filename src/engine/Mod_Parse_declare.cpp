@@ -89,8 +89,7 @@ void LineParser::Function() {
 
 // Reads the header from the name on. Answers the column where the parameter list starts.
 int LineParser::BuildFunction(ClsFunkcija& function) {
-    NameTail tail;
-    SuffixTail(tail);
+    const NameTail tail = SuffixTail(index_, count_);
     function.Tip = tail.tip == TipUnnamedType ? static_cast<std::uint8_t>(TipInteger) : tail.tip;
     function.Tajp = tail.tajp;
     if (index_ > count_ || At(index_).Kind != '(') return 0;
@@ -99,11 +98,10 @@ int LineParser::BuildFunction(ClsFunkcija& function) {
         ++index_;
         auto parameter = std::make_shared<ClsLocalVar>();
         Fill(*parameter, At(index_).Text, function.Handle);
-        FillTail(*parameter, GetVarTipColor(), true);
+        FillTail(*parameter, GetVarTipColor(index_, count_, lineStart_), true);
         function.Locals->Add(parameter->Ime, parameter);
         ++function.VlezNum;
         if (index_ > count_ || At(index_).Kind != ',') break;
-        Style(lineStart_, At(index_), 1, STYLE_Separator);
     }
     return listStart;
 }
@@ -124,7 +122,6 @@ void LineParser::End() {
     } else {
         return; // an End alone: the word behind it is taken in its turn
     }
-    Style(lineStart_, At(index_), static_cast<std::intptr_t>(word.size()), STYLE_Keyword);
     ++index_;
 }
 
@@ -166,7 +163,6 @@ void LineParser::Type() {
     gCurrentProject->TypesDirty = true;
     auto type = std::make_shared<ClsType>();
     ++index_;
-    Style(lineStart_, At(index_), static_cast<std::intptr_t>(At(index_).Text.size()), STYLE_Type);
     const bool known = sequential_ && !CurrentTypeName.empty();
     if (!known) CurrentTypeName = CurrentType(line_ - 1);
     Fill(*type, At(index_).Text, AddMarker(MarkerType));
@@ -234,59 +230,15 @@ void LineParser::Declarations(Word word) {
         ++index_;
         auto record = make();
         Fill(*record, At(index_).Text, AddMarker(word == Word::Local ? MarkerLocal : MarkerDeclares));
-        FillTail(*record, word == Word::Dim ? GetArrayVarTipColor() : GetVarTipColor(), word != Word::Dim);
+        const bool array = word == Word::Dim;
+        FillTail(*record,
+                 array ? GetArrayVarTipColor(index_, count_, lineStart_)
+                       : GetVarTipColor(index_, count_, lineStart_),
+                 !array);
         Place(word, std::move(record));
         if (index_ > count_ || At(index_).Kind != ',') return;
-        gLineStyles.SetToEnd(lineStart_ + At(index_).StartPos, STYLE_Separator);
     }
     ++index_; // the comma that no name followed
-}
-
-// The suffix or the type name behind a declared name; the index stands on the name.
-void LineParser::SuffixTail(NameTail& tail) {
-    ++index_;
-    if (index_ > count_) return;
-    const std::uint8_t kind = At(index_).Kind;
-    if (kind == '.') {
-        tail.tip = TipUnnamedType;
-        ++index_;
-        if (index_ > count_ || At(index_).Kind != TOK_IDENT) return;
-        tail.tip = TipCustom;
-        tail.tajp = At(index_).Text;
-        ++index_;
-    } else if (SuffixTip[kind] != 0) {
-        tail.tip = SuffixTip[kind];
-        ++index_;
-    }
-}
-
-LineParser::NameTail LineParser::GetVarTipColor() {
-    NameTail tail;
-    SuffixTail(tail);
-    if (index_ > count_) return tail;
-    if (At(index_).Kind == '=') {
-        Style(lineStart_, At(index_), 1, STYLE_Operator);
-        ++index_;
-        ColorExprDoZapirka(index_, count_, lineStart_);
-    } else if (At(index_).Kind == '[') {
-        TakeBounds(tail, ']');
-    }
-    return tail;
-}
-
-LineParser::NameTail LineParser::GetArrayVarTipColor() {
-    NameTail tail;
-    SuffixTail(tail);
-    if (index_ <= count_ && At(index_).Kind == '(') TakeBounds(tail, ')');
-    return tail;
-}
-
-void LineParser::TakeBounds(NameTail& tail, char close) {
-    tail.bracket = index_;
-    ++index_;
-    while (index_ <= count_ && At(index_).Kind != close) ColorToken(index_++, lineStart_);
-    tail.closed = index_ <= count_;
-    if (tail.closed) ++index_;
 }
 
 void LineParser::FillTail(Symbol& record, const NameTail& tail, bool isVariable) const {

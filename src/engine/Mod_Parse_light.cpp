@@ -1,5 +1,5 @@
-// Colouring of the lines that the caret is not on. Literals, comments and operators keep what the parser
-// gave them; names are coloured by what they mean here.
+// Colouring of the lines that the caret is not on: first what depends on no table, over it the names by what
+// they mean here.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClsCompiler.h"
@@ -227,8 +227,10 @@ void ColorLineLight(int line, bool sequential) {
         const int length = Mod_Lexer::FillLineBuffer(text);
         if (length > LongestLine) return; // the parser has reported it
         const int lineStart = static_cast<int>(Mod_Sci::PositionFromLine(line)) - 1;
-        gLineStyles.Begin(lineStart + 1, length, false);
-        LightPass(line, sequential, Mod_Lexer::Tokenize(text, length, true), lineStart).Run();
+        const int count = Mod_Lexer::Tokenize(text, length, true);
+        gLineStyles.Begin(lineStart + 1, length, true);
+        StyleLiterals(count, lineStart);
+        LightPass(line, sequential, count, lineStart).Run();
         StyleOpenBrackets();
         gLineStyles.Flush();
     });

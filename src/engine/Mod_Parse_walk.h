@@ -45,6 +45,24 @@ void FixVariableCase(const std::string& spelling, int index, int lineStart);
 
 // A literal, keyword, separator or operator inside an initialiser or bounds, without symbol look-up.
 void ColorToken(int index, int lineStart);
+// What a declared name carries behind itself.
+struct NameTail {
+    std::uint8_t tip = TipInteger;
+    std::string tajp;
+    int bracket = 0; // index of the opening bracket's token, 0 for none
+    bool closed = false;
+};
+
+// Read and colour what follows a declared name: its suffix or type name; an initialiser or [...] of a
+// variable; the (...) of an array. The index stands on the name and ends on the token behind it all.
+NameTail SuffixTail(int& index, int count);
+NameTail GetVarTipColor(int& index, int count, int lineStart);
+NameTail GetArrayVarTipColor(int& index, int count, int lineStart);
+
+// Gives the tokens of a line the styles that depend on no symbol table: keywords, literals, comments,
+// separators and operators.
+void StyleLiterals(int count, int lineStart);
+
 // An initialiser up to the next comma or colon at depth 0. The line's last token is left to the caller.
 void ColorExprDoZapirka(int& index, int count, int lineStart);
 
