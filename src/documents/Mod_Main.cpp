@@ -57,10 +57,12 @@ bool Main(const std::string& commandLine) {
     return Guarded("Main", "Mod_Main", true, [&] {
         if (HandedOver(commandLine)) return false;
         Start();
+        // Painting stays frozen until the first document is there: an empty window is painted for nothing.
         if (!commandLine.empty())
             Mod_File::OpenFilesFromCommand(commandLine);
         else if (Options::gStartUp == StartUpNewFile)
             Mod_File::NewFile();
+        gHost.desktop->LockWindowUpdate(false);
         return true;
     });
 }
@@ -88,7 +90,6 @@ void Start() {
         gHost.desktop->Pump();
         const bool strict = gDocumentCalls.StrictModeChecked && gDocumentCalls.StrictModeChecked();
         BadStyle = strict ? StrictBadStyle : 0;
-        gHost.desktop->LockWindowUpdate(false);
     });
 }
 

@@ -10,7 +10,7 @@ namespace Mod_Main {
 // Process entry with the raw command line. False when this process must end at once because another
 // instance took over.
 bool Main(const std::string& commandLine);
-// The load sequence that the splash window shows.
+// The load sequence that the splash window shows. Leaves the painting of the main window frozen; Main thaws it.
 void Start();
 
 // Fills gCompilers and DefaultCompiler from Conf\compilers.dat; a missing file ends the process.
