@@ -90,10 +90,15 @@ bool ForeignFile(const std::string& path) {
     }
 }
 
-// Puts a file's bytes into a view as they are.
+bool OnlyLf(std::string_view text) {
+    return text.find('\n') != std::string_view::npos && text.find('\r') == std::string_view::npos;
+}
+
+// Puts a file's bytes into a view as they are. The block at the end has CR LF in every file, so it does not
+// tell how the source's own lines end.
 void LoadText(frmDoc& document, const std::string& bytes) {
     const std::intptr_t view = document.SciEdi_WndData;
-    document.LfEnds = bytes.find('\n') != std::string::npos && bytes.find('\r') == std::string::npos;
+    document.LfEnds = OnlyLf(std::string_view(bytes).substr(0, bytes.find("\r\n;~Zolto Editor Parameters:")));
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
     Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,
