@@ -51,6 +51,20 @@ DocumentWindow* WindowOfFile(const std::string& path) {
     return nullptr;
 }
 
+void TellUnloadable(const std::string& path) {
+    gHost.dialogs->Show(
+        {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+}
+
+bool CanBeRead(const std::string& path) {
+    try {
+        gHost.files->Read(path);
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
 // An open file comes to the front; with changes the user may have it loaded anew. True when the call is done.
 bool AlreadyOpen(const std::string& path) {
     DocumentWindow* window = WindowOfFile(path);
@@ -65,6 +79,10 @@ bool AlreadyOpen(const std::string& path) {
              " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
          MessageIcon::Exclamation, "Warning", MessageButtons::YesNo, MessageAnswer::No});
     if (answer != MessageAnswer::Yes) return true;
+    if (!CanBeRead(path)) { // the text in the window is all that is left of it
+        TellUnloadable(path);
+        return true;
+    }
     window->Attach(nullptr);
     UnloadDocument(document);
     gHost.dock->DropDocumentWindow(*window);
@@ -174,8 +192,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
         document = ReadDocument(path, reason);
     }
     if (!document) {
-        gHost.dialogs->Show(
-            {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+        TellUnloadable(path);
         return false;
     }
     const auto project = AddSingleProject(path, document);
