@@ -61,6 +61,18 @@ TEST_F(OpenTest, AChangedFileIsLoadedAnewOnlyWhenTheUserSaysSo) {
     EXPECT_EQ(gProjects.Count(), 1);
 }
 
+TEST_F(OpenTest, AChangedFileThatIsGoneStaysInItsWindow) {
+    const std::string path = session.Open("a.bb", "a=1\r\n").FullFilename;
+    session.Type("typed = 1\r\n");
+    session.host.files.Remove(path);
+    session.host.dialogs.WillAnswer(MessageAnswer::Yes);
+    session.host.dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_File::OpenFile(path));
+    EXPECT_EQ(session.LastMessage(), "Could not load file:\r\n" + path);
+    ASSERT_EQ(Documents(), 1u);
+    EXPECT_EQ(Mod_Sci::GetText().find("typed"), 0u);
+}
+
 TEST_F(OpenTest, WhatIsNoSourceGoesToTheDesktop) {
     const std::string text = session.host.Put("readme.txt", "text");
     EXPECT_FALSE(Mod_File::OpenFile(text));
