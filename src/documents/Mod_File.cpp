@@ -51,6 +51,20 @@ DocumentWindow* WindowOfFile(const std::string& path) {
     return nullptr;
 }
 
+void TellUnloadable(const std::string& path) {
+    gHost.dialogs->Show(
+        {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+}
+
+bool CanBeRead(const std::string& path) {
+    try {
+        gHost.files->Read(path);
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
 // An open file comes to the front; with changes the user may have it loaded anew. True when the call is done.
 bool AlreadyOpen(const std::string& path) {
     DocumentWindow* window = WindowOfFile(path);
@@ -65,6 +79,10 @@ bool AlreadyOpen(const std::string& path) {
              " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
          MessageIcon::Exclamation, "Warning", MessageButtons::YesNo, MessageAnswer::No});
     if (answer != MessageAnswer::Yes) return true;
+    if (!CanBeRead(path)) { // the text in the window is all that is left of it
+        TellUnloadable(path);
+        return true;
+    }
     window->Attach(nullptr);
     UnloadDocument(document);
     gHost.dock->DropDocumentWindow(*window);
@@ -90,10 +108,15 @@ bool ForeignFile(const std::string& path) {
     }
 }
 
-// Puts a file's bytes into a view as they are.
+bool OnlyLf(std::string_view text) {
+    return text.find('\n') != std::string_view::npos && text.find('\r') == std::string_view::npos;
+}
+
+// Puts a file's bytes into a view as they are. The block at the end has CR LF in every file, so it does not
+// tell how the source's own lines end.
 void LoadText(frmDoc& document, const std::string& bytes) {
     const std::intptr_t view = document.SciEdi_WndData;
-    document.LfEnds = bytes.find('\n') != std::string::npos && bytes.find('\r') == std::string::npos;
+    document.LfEnds = OnlyLf(std::string_view(bytes).substr(0, bytes.find("\r\n;~Zolto Editor Parameters:")));
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
     Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,
@@ -169,8 +192,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
         document = ReadDocument(path, reason);
     }
     if (!document) {
-        gHost.dialogs->Show(
-            {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+        TellUnloadable(path);
         return false;
     }
     const auto project = AddSingleProject(path, document);

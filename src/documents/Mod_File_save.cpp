@@ -74,6 +74,17 @@ bool AllowedInProject(const ClsProject& project, const std::string& path) {
     return true;
 }
 
+// Two documents of one path could not be told apart: closing one would take the other's project away.
+bool OpenElsewhere(const frmDoc& document, const std::string& path) {
+    for (const auto& project : gProjects) {
+        const auto other = project.record->Sources.Find(path);
+        if (!other || other.get() == &document) continue;
+        Critical("File named " + GetFileName(path) + " is already open", "Invalid name");
+        return true;
+    }
+    return false;
+}
+
 void RenameSingle(frmDoc& document, const std::shared_ptr<ClsProject>& project, const std::string& path) {
     const std::string oldKey = project->FullPath;
     project->FullPath = path;
@@ -150,6 +161,7 @@ bool SaveFileAs(frmDoc* document) {
         const std::string path = gHost.dialogs->SaveFile(question);
         if (path.empty()) return false;
         if (!document->SingleFile && !AllowedInProject(project, path)) return false;
+        if (OpenElsewhere(*document, path)) return false;
         if (!WriteActive(path, GetFileParameters())) return false;
         Rebind(*document, path);
         return true;

@@ -270,6 +270,8 @@ bool CloseProject(std::shared_ptr<ClsProject> project) {
         for (const auto& source : project->Sources) windows.push_back(source.record->m_strDocumentWindowID);
         for (const std::string& key : windows)
             if (DocumentWindow* window = gHost.dock->FindDocumentWindow(key)) window->SetVisible(false);
+        // What could not be saved is still open, and needs its project.
+        if (project->Sources.Count() > 0) return false;
         if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
         if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
         if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();

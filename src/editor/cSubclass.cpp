@@ -60,6 +60,11 @@ void cSubclass::OnNotify(const SciNotification& notification) {
     Guarded("WindowProc", "cSubclass", [&] { Dispatch(notification); });
 }
 
+void cSubclass::DeactivateCheck() {
+    const ActiveSwap swap(mFrmDoc);
+    ParseWaiting();
+}
+
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
     case SCN_STYLENEEDED: StyleNeeded(); break;

@@ -9,12 +9,16 @@
 class frmDoc;
 struct PipelineState;
 
-// An undo action is open and is closed at the next SCN_UPDATEUI. A user's edit happened since the last one.
-// A long change put up the wait cursor. All written by the pipeline alone; the activation of a document
-// clears the first.
+// An undo action is open; written by OpenUndoGroup and CloseUndoGroup. A user's edit happened since the last
+// SCN_UPDATEUI. A long change put up the wait cursor. Both written by the pipeline.
 extern bool gUndoGroupOpen;
 extern bool gUserEdited;
 extern bool gWaitCursor;
+
+// Begins an undo action in the active view. It ends at that view's next SCN_UPDATEUI, when its document is
+// left, or when another view begins one: ending it in a view that has none open would end the program.
+void OpenUndoGroup();
+void CloseUndoGroup(std::intptr_t view);
 
 class cSubclass : public EditorViewEvents {
 public:
@@ -26,7 +30,8 @@ public:
     void OnKillFocus() override;
     void OnDropFiles(const std::vector<std::string>& paths) override;
 
-    // Parses what waits without a caret move: before a project is loaded, before leaving a document.
+    // Parses what waits without a caret move, and ends an open undo group: before a project is loaded, before
+    // leaving a document. Another document may be the active one already.
     void DeactivateCheck();
 
 private:
@@ -47,6 +52,7 @@ private:
     void TakeBackEditedLine(bool queue);
     void GroupTyping(const SciNotification& notification);
     void ParseQueue();
+    void ParseWaiting();
     void JoinLines();
     void ShowLine(int line);
 

@@ -33,12 +33,23 @@ void BeginLongChange() {
     gWaitCursor = true;
 }
 
-void OpenUndoGroup() {
-    Mod_Sci::BeginUndoAction();
-    gUndoGroupOpen = true;
-}
+std::intptr_t undoGroupView = 0; // where the open undo action was begun
 
 } // namespace
+
+void OpenUndoGroup() {
+    if (gUndoGroupOpen && undoGroupView == SciWndData) return;
+    CloseUndoGroup(undoGroupView);
+    Mod_Sci::BeginUndoAction();
+    gUndoGroupOpen = true;
+    undoGroupView = SciWndData;
+}
+
+void CloseUndoGroup(std::intptr_t view) {
+    if (!gUndoGroupOpen || undoGroupView != view) return;
+    gUndoGroupOpen = false;
+    Mod_Sci::SendTo(view, SCI_ENDUNDOACTION);
+}
 
 void cSubclass::Snapshot(int line) {
     State().UnparsedText = Mod_Sci::LineText(line);
@@ -129,7 +140,7 @@ void cSubclass::GroupTyping(const SciNotification& notification) {
 void cSubclass::BeforeInsert(const SciNotification& notification, int start, int end) {
     if (!State().mLastOperationUndoRedo) {
         GroupTyping(notification);
-        if (end > start && !gUndoGroupOpen) OpenUndoGroup();
+        if (end > start) OpenUndoGroup();
     }
     if (State().UnparsedLine >= 0 && State().UnparsedLine != start) TakeBackEditedLine(true);
     if (State().UnparsedLine < 0 && HasMarker(start, MarkerParsed)) Snapshot(start);
@@ -198,8 +209,7 @@ void cSubclass::UpdateUi() {
     if (!State().ParseNeeded.empty()) ParseQueue();
     if (gWaitCursor) EndWaitCursor();
     gWaitCursor = false;
-    if (gUndoGroupOpen) Mod_Sci::EndUndoAction();
-    gUndoGroupOpen = false;
+    CloseUndoGroup(mFrmDoc.SciEdi_WndData);
     if (line != mFrmDoc.Callback_OldLine) {
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));
@@ -210,7 +220,8 @@ void cSubclass::UpdateUi() {
     if (gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
 }
 
-void cSubclass::DeactivateCheck() {
+void cSubclass::ParseWaiting() {
+    CloseUndoGroup(mFrmDoc.SciEdi_WndData);
     const ColoringScope own;
     if (State().UnparsedLine >= 0) {
         if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);

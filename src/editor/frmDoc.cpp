@@ -19,6 +19,7 @@ frmDoc::frmDoc() {
 
 frmDoc::~frmDoc() {
     View->SetEvents(nullptr);
+    CloseUndoGroup(SciEdi_WndData);
     if (gActiveDoc == this) MakeActive(nullptr);
 }
 

@@ -1,0 +1,113 @@
+// Closing documents and the program: what is asked, what Cancel keeps, and what is remembered.
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "documents/Mod_Main.h"
+#include "documents/Session.h"
+#include "engine/ClsProject.h"
+#include "sci/Mod_Sci.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct CloseTest : testing::Test {
+    Session session;
+    FakeDialogs& dialogs = session.host.dialogs;
+
+    void SetUp() override { SaveNothingExtra(); }
+    frmDoc& Dirty(const std::string& name) {
+        frmDoc& document = session.Open(name, "old\r\n");
+        session.Type("; new ");
+        return document;
+    }
+    bool Cancelled() {
+        session.host.dock.CloseWindow();
+        return !session.host.dock.closed;
+    }
+};
+
+TEST_F(CloseTest, ADirtyFileIsAskedFor) {
+    const std::string path = Dirty("a.bb").FullFilename;
+    dialogs.WillAnswer(MessageAnswer::Cancel);
+    session.Close(path);
+    const Message& asked = dialogs.messages.back();
+    EXPECT_EQ(asked.text,
+              "The text in the file 'a.bb' has changed.\r\n\r\nDo you want to save the changes ?");
+    EXPECT_EQ(asked.icon, MessageIcon::Question);
+    EXPECT_EQ(asked.buttons, MessageButtons::YesNoCancel);
+    ASSERT_EQ(session.WindowKeys().size(), 1u);
+    EXPECT_TRUE(ActiveForm()->Dirty);
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    session.Close(path);
+    EXPECT_TRUE(session.WindowKeys().empty());
+    EXPECT_EQ(session.Bytes(path), "; new old\r\n");
+    EXPECT_EQ(gProjects.Count(), 0);
+    EXPECT_EQ(gActiveDoc, nullptr);
+    EXPECT_EQ(SciWndData, 0);
+}
+
+TEST_F(CloseTest, NoThrowsTheChangesAwayAndAFailedSaveKeepsTheWindow) {
+    const std::string path = Dirty("a.bb").FullFilename;
+    session.host.files.writesFail = true;
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    session.Close(path);
+    ASSERT_EQ(session.WindowKeys().size(), 1u);
+    EXPECT_TRUE(ActiveForm()->Dirty);
+    dialogs.WillAnswer(MessageAnswer::No);
+    session.Close(path);
+    EXPECT_TRUE(session.WindowKeys().empty());
+    EXPECT_EQ(session.Bytes(path), "old\r\n");
+}
+
+TEST_F(CloseTest, CancelAtTheEndKeepsThisDocumentAndAllBehindIt) {
+    const std::string clean = session.Open("clean.bb", "").FullFilename;
+    const std::string first = Dirty("first.bb").FullFilename;
+    const std::string second = Dirty("second.bb").FullFilename;
+    session.host.settings.Save("Instance", "Handle", "5");
+    dialogs.WillAnswer(MessageAnswer::Cancel);
+    EXPECT_TRUE(Cancelled());
+    EXPECT_EQ(session.WindowKeys(), (std::vector<std::string>{first, second}));
+    EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0"); // stays so until the next start
+    EXPECT_TRUE(session.host.dock.savedLayouts.empty());
+    dialogs.WillAnswer(MessageAnswer::No);
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    EXPECT_FALSE(Cancelled());
+    EXPECT_TRUE(session.WindowKeys().empty());
+    EXPECT_EQ(session.Bytes(second), "; new old\r\n");
+    EXPECT_EQ(session.host.dock.savedLayouts,
+              std::vector<std::string>{session.host.Path("Layouts/Layout0.8_0.mp")});
+}
+
+TEST_F(CloseTest, TheStepsOfTheEndComeInTheirOrder) {
+    std::vector<std::string> steps;
+    session.Open("a.bb", "");
+    gDocumentCalls.UnloadFind = [&] {
+        EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0");
+        EXPECT_EQ(session.WindowKeys().size(), 1u); // nothing was closed yet
+        steps.push_back("find");
+    };
+    session.host.instances.receive = [&](const std::string&) {};
+    EXPECT_FALSE(Cancelled());
+    EXPECT_EQ(steps, std::vector<std::string>{"find"});
+    EXPECT_FALSE(session.host.instances.receive); // nobody can hand over any more
+}
+
+TEST_F(CloseTest, ThePlaceIsKeptAsFarAsTheWindowHadOne) {
+    auto& place = session.host.dock.place;
+    auto kept = [&](const char* key) { return session.host.settings.Get("Layout0.8_0", key, "none"); };
+    place = {.top = 10, .left = 20, .width = 30, .height = 40, .state = 1};
+    EXPECT_FALSE(Cancelled());
+    EXPECT_EQ(kept("MainTop"), "none"); // minimised: nothing is touched
+    EXPECT_EQ(kept("MainState"), "none");
+    EXPECT_TRUE(session.host.dock.savedLayouts.empty());
+    place.state = 0;
+    EXPECT_FALSE(Cancelled());
+    EXPECT_EQ(kept("MainTop") + kept("MainLeft") + kept("MainWidth") + kept("MainHeight"), "10203040");
+    place = {.top = 99, .left = 99, .width = 99, .height = 99, .state = 2};
+    EXPECT_FALSE(Cancelled());
+    EXPECT_EQ(kept("MainTop"), "10"); // the last place that it had in normal state
+    EXPECT_EQ(kept("MainState"), "2");
+}
+
+}

@@ -1,0 +1,164 @@
+// Projects as they are open: loading, members that are elsewhere, saving under other names, closing.
+#include "documents/Mod_File.h"
+#include "documents/Mod_Project.h"
+#include "documents/Session.h"
+#include "engine/ClsCompiler.h"
+#include "sci/Mod_Sci.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct OpenProjectTest : testing::Test {
+    Session session;
+    FakeDialogs& dialogs = session.host.dialogs;
+
+    void SetUp() override {
+        SaveNothingExtra();
+        session.host.Put("Game/Main.bb", "; main\r\nInclude \"Lib\\Maths.bb\"\r\nPrint Twice(4)\r\n");
+        session.host.Put("Game/Lib/Maths.bb",
+                         "; maths\r\nFunction Twice(n)\r\n\tReturn n * 2\r\nEnd Function\r\n");
+        session.host.Put(
+            "Game/Game.zpf",
+            "[Zolto Project file]\r\n<Settings>\r\n MainFile=\"Main.bb\"\r\n</Settings>\r\n<Folders>\r\n"
+            "</Folders>\r\n<Files>\r\n AbsPath=\"main.BB\" PrjFolder=\"\"\r\n AbsPath=\"lib\\maths.bb\"\r\n"
+            "</Files>\r\n");
+    }
+    std::string Zpf() { return session.host.Path("Game/Game.zpf"); }
+    std::string Main() { return session.host.Path("Game/Main.bb"); }
+    std::string Maths() { return session.host.Path("Game/Lib/Maths.bb"); }
+    std::shared_ptr<ClsProject> Load() {
+        EXPECT_TRUE(Mod_Project::LoadProject(Zpf()));
+        return gProjects.Find(Zpf());
+    }
+    frmDoc& Member(const std::string& path) {
+        session.host.dock.FindDocumentWindow(path)->Activate();
+        return *ActiveForm();
+    }
+};
+
+TEST_F(OpenProjectTest, EveryMemberOpensAndSharesTheTables) {
+    const auto project = Load();
+    ASSERT_NE(project, nullptr);
+    EXPECT_EQ(project->Compiler, DefaultCompiler);
+    EXPECT_EQ(session.WindowKeys(), (std::vector<std::string>{Main(), Maths()}));
+    EXPECT_NE(project->Funkcii.ItemHash("Twice"), nullptr);
+    frmDoc& document = Member(Maths());
+    EXPECT_EQ(gCurrentProject, project);
+    EXPECT_FALSE(document.SingleFile);
+    EXPECT_EQ(document.PrjName, "Game");
+    EXPECT_EQ(document.PrjFullPath, Zpf());
+    EXPECT_FALSE(document.CanUndo());
+    session.Type("Function Thrice(n)\r\nEnd Function\r\n");
+    document.m_oSubclass->DeactivateCheck();
+    EXPECT_NE(project->Funkcii.ItemHash("Thrice"), nullptr); // its pipeline runs
+    dialogs.WillAnswer(MessageAnswer::No);
+    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_EQ(dialogs.messages.back().buttons, MessageButtons::YesNo);
+    EXPECT_EQ(gProjects.Count(), 0);
+    EXPECT_TRUE(session.WindowKeys().empty());
+}
+
+TEST_F(OpenProjectTest, OpeningByExtensionLoadsAProject) {
+    EXPECT_FALSE(Mod_File::OpenFile(Zpf())); // no document of its own
+    EXPECT_NE(gProjects.Find(Zpf()), nullptr);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_Project::LoadProject(Zpf()));
+    EXPECT_EQ(session.LastMessage(), "Project is already loaded");
+    EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Exclamation);
+    EXPECT_EQ(session.WindowKeys().size(), 2u);
+}
+
+TEST_F(OpenProjectTest, AMemberThatIsOpenElsewhereStopsTheLoad) {
+    session.Reopen(Maths());
+    const frmDoc* active = ActiveForm();
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_Project::LoadProject(Zpf()));
+    EXPECT_EQ(dialogs.messages.back().title, "Project loading aborted...");
+    EXPECT_EQ(
+        session.LastMessage(),
+        "Some of the files in this project are already opened in Zolto as single file or as part of another "
+        "project:\r\n" +
+            Maths() + "\r\nSorry, in this release you can't have same file opened multiple times");
+    EXPECT_EQ(gProjects.Count(), 1);
+    EXPECT_EQ(session.WindowKeys().size(), 1u);
+    EXPECT_EQ(ActiveForm(), active);
+    EXPECT_EQ(gCurrentProject, gProjects.Find(Maths()));
+}
+
+TEST_F(OpenProjectTest, ProjectsThatCannotBeHad) {
+    dialogs.WillOpen({});
+    EXPECT_FALSE(Mod_Project::LoadProject(""));
+    EXPECT_EQ(dialogs.questions.back().filter, "Zolto project files (*.zpf)|*.zpf");
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_Project::LoadProject(session.host.Put("x.zpf", "no project")));
+    EXPECT_EQ(session.LastMessage(), "Not a valid project file !");
+    session.host.Put("gone/Gone.zpf", "[Zolto Project file]\r\n<Files>\r\n AbsPath=\"a.bb\"\r\n</Files>\r\n");
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_TRUE(Mod_Project::LoadProject(session.host.Path("gone/Gone.zpf")));
+    EXPECT_EQ(gProjects.Item(0)->Files.Count(), 0);
+    EXPECT_TRUE(session.WindowKeys().empty());
+}
+
+TEST_F(OpenProjectTest, AMemberStaysInTheFolderAndItsNameIsItsOwn) {
+    const auto project = Load();
+    frmDoc& document = Member(Maths());
+    const auto refused = [&](const std::string& path, const char* text, const char* title) {
+        dialogs.WillSave(path);
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        EXPECT_FALSE(Mod_File::SaveFileAs(&document));
+        EXPECT_EQ(session.LastMessage(), text);
+        EXPECT_EQ(dialogs.messages.back().title, title);
+        EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Critical);
+        EXPECT_EQ(session.host.files.Kind(path) == PathKind::File, path == Main());
+    };
+    refused(session.host.Path("Outside.bb"), "Project Files must be saved in the project's (sub)folder !",
+            "File Not Saved !");
+    refused(session.host.Path("Game/Lib/MAIN.bb"), "File named MAIN.bb already exists in this project",
+            "Invalid name");
+    EXPECT_EQ(dialogs.questions.back().folder, session.host.Path("Game/"));
+    EXPECT_FALSE(project->Dirty);
+
+    dialogs.WillSave(session.host.Path("Game/Lib/Algebra.bb"));
+    ASSERT_TRUE(Mod_File::SaveFileAs(&document));
+    EXPECT_TRUE(project->Dirty);
+    EXPECT_EQ(project->Files.Key(0), "Algebra.bb"); // sorted anew
+    EXPECT_EQ(project->Files.Item(0)->AbsPath, "Lib\\Algebra.bb");
+    EXPECT_NE(project->Sources.Find(session.host.Path("Game/Lib/Algebra.bb")), nullptr);
+    EXPECT_EQ(project->Funkcii.ItemHash("Twice")->File, "Algebra.bb");
+    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_NE(session.Bytes(Zpf()).find("AbsPath=\"Lib\\Algebra.bb\""), std::string::npos); // saved unasked
+}
+
+TEST_F(OpenProjectTest, SaveProjectFilesSavesOnlyThisProject) {
+    const std::string single = session.Open("single.bb", "s=1\r\n").FullFilename;
+    session.Type("s=2\r\n");
+    Load();
+    Member(Main());
+    session.Type("; changed\r\n");
+    frmDoc& document = Member(Maths());
+    EXPECT_TRUE(Mod_File::SaveProjectFiles());
+    EXPECT_EQ(session.Bytes(Main()).find("; changed\r\n"), 0u);
+    EXPECT_EQ(session.Bytes(single), "s=1\r\n");
+    EXPECT_EQ(ActiveForm(), &document);
+}
+
+// What could not be saved stays open, and so does the project that it belongs to.
+TEST_F(OpenProjectTest, AFailedSaveWhileClosingKeepsTheProject) {
+    const auto project = Load();
+    frmDoc& document = Member(Maths());
+    session.Type("; changed\r\n");
+    session.host.files.writesFail = true;
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_Project::CloseProject(project));
+    EXPECT_NE(gProjects.Find(Zpf()), nullptr);
+    ASSERT_NE(session.host.dock.FindDocumentWindow(Maths()), nullptr);
+    session.host.files.writesFail = false;
+    EXPECT_TRUE(Mod_File::SaveFile(&document));
+    EXPECT_EQ(session.Bytes(Maths()).find("; changed\r\n"), 0u);
+    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_EQ(gProjects.Count(), 0);
+}
+
+}

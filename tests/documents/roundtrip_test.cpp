@@ -1,0 +1,101 @@
+// A source that is opened and saved comes back byte for byte, whatever its line ends and its code page.
+#include "documents/Mod_File.h"
+#include "documents/Session.h"
+#include "engine/OptionsEdit.h"
+#include "sci/Mod_Sci.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr const char* Names[] = {"broken.bb",     "crlf.bb",       "empty.bb",       "lf.bb",
+                                 "line_33000.bb", "long_line.bb",  "mixed.bb",       "no_final_eol.bb",
+                                 "nul.bb",        "tabs.bb",       "tokens_2100.bb", "utf8.bb",
+                                 "utf8_bom.bb",   "windows1252.bb"};
+
+// Keywords and names are spelled as they were declared, so letters are compared without their case.
+void ExpectSameBytes(const std::string& is, const std::string& expected, const std::string& name) {
+    ASSERT_EQ(is.size(), expected.size()) << name;
+    for (std::size_t i = 0; i < is.size(); ++i)
+        ASSERT_EQ(LCase(is.substr(i, 1)), LCase(expected.substr(i, 1))) << name << ", byte " << i;
+}
+
+class RoundTripTest : public testing::TestWithParam<const char*> {
+protected:
+    Session session;
+    // A line with too many tokens is reported, and is kept all the same.
+    void SetUp() override {
+        if (TestData(GetParam()).size() > 2000) session.host.ExpectErrorLog();
+    }
+};
+
+TEST_P(RoundTripTest, NothingIsLostAndNothingAdded) {
+    SaveNothingExtra();
+    const std::string before = TestData(GetParam());
+    frmDoc& document = session.Open("a.bb", before);
+    EXPECT_FALSE(document.Dirty);
+    EXPECT_FALSE(document.CanUndo()); // the load itself cannot be undone
+    ASSERT_TRUE(Mod_File::SaveFile(&document));
+    ExpectSameBytes(session.Bytes(document.FullFilename), before, GetParam());
+}
+
+TEST_P(RoundTripTest, ASecondSaveWritesTheSameFile) {
+    const std::string path = session.Open("a.bb", TestData(GetParam())).FullFilename;
+    if (Mod_Sci::GetLength() > 0) Mod_Sci::MarkerAdd(0, 4);
+    ASSERT_TRUE(Mod_File::SaveFile(ActiveForm()));
+    const std::string first = session.Bytes(path);
+    session.Close(path);
+    ASSERT_TRUE(Mod_File::SaveFile(&session.Reopen(path)));
+    EXPECT_EQ(session.Bytes(path), first);
+    ExpectSameBytes(first.substr(0, TestData(GetParam()).size()), TestData(GetParam()), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, RoundTripTest, testing::ValuesIn(Names), [](const auto& file) {
+    const std::string name = file.param;
+    return name.substr(0, name.find('.'));
+});
+
+struct EncodingTest : testing::Test {
+    Session session;
+    std::intptr_t CodePage() { return Mod_Sci::Send(SCI_GETCODEPAGE); }
+};
+
+TEST_F(EncodingTest, Utf8IsShownAsSuchAndEverythingElseAsSingleBytes) {
+    session.Open("u.bb", "Print \"\xC3\xA9\"\r\n");
+    EXPECT_EQ(CodePage(), SC_CP_UTF8);
+    session.Open("w.bb", "Print \"\xE9\"\r\n");
+    EXPECT_EQ(CodePage(), 0);
+    session.Open("a.bb", "Print \"e\"\r\n");
+    EXPECT_EQ(CodePage(), 0);
+    session.Open("cut.bb", "Print \"\xC3\xA9\" ; \xC3"); // a sequence that ends too early
+    EXPECT_EQ(CodePage(), 0);
+}
+
+TEST_F(EncodingTest, ANewLineIsOfTheFilesOwnKind) {
+    for (const char* ends : {"\n", "\r\n"}) {
+        const std::string source = std::string("a=1") + ends + "b=2" + ends;
+        frmDoc& document = session.Open("a.bb", source);
+        EXPECT_EQ(document.LfEnds, std::string(ends) == "\n");
+        Mod_Sci::GotoPos(0);
+        Mod_Sci::NewLine();
+        EXPECT_EQ(LCase(Mod_Sci::GetText()), ends + source);
+        session.host.dialogs.WillAnswer(MessageAnswer::No);
+        session.Close(document.FullFilename);
+    }
+}
+
+// The block behind a source is written with CR LF, and must not turn the source's own line ends.
+TEST_F(EncodingTest, AFileWithLfStaysSoAfterItWasSavedWithABlock) {
+    const std::string path = session.Open("a.bb", "a=1\nb=2\n").FullFilename;
+    ASSERT_TRUE(Mod_File::SaveFile(ActiveForm()));
+    EXPECT_EQ(session.Bytes(path), "a=1\nb=2\n\r\n;~Zolto Editor Parameters:\r\n;~C#ZoltoBasic");
+    session.Close(path);
+    EXPECT_TRUE(session.Reopen(path).LfEnds);
+    EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), SC_EOL_LF);
+    OptionsEdit::KeepLineEnds = 0;
+    session.Close(path);
+    session.Reopen(path);
+    EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), SC_EOL_CRLF);
+}
+
+}

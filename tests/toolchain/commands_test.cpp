@@ -1,0 +1,200 @@
+// What the compiler is called with, and what stops a call.
+#include "documents/Mod_File.h"
+#include "documents/Mod_Project.h"
+#include "documents/Options.h"
+#include "host/Host.h"
+#include "toolchain/Driver.h"
+
+namespace {
+
+using namespace Mod_Compiler;
+
+struct CommandsTest : Driver {
+    std::string Message() { return dialogs.messages.back().text; }
+};
+
+TEST_F(CommandsTest, EachJobHasItsCommand) {
+    const std::string path = session.Open("a.bb", "a=1\r\n").FullFilename;
+    const std::string start = Quoted(compiler) + " ";
+    EXPECT_EQ(Command([&] { Compile(path, false); }), start + Quoted(path));
+    EXPECT_EQ(Command([&] { Compile(path, true); }), start + "-d " + Quoted(path));
+    gCurrentProject->CommandLine = "-level  3 \"two   words\"";
+    EXPECT_EQ(Command([&] { Compile(path, false); }), start + Quoted(path) + " -level 3 \"two  words\"");
+    EXPECT_EQ(Command([&] { CheckForErrors(path); }), start + "-c " + Quoted(path));
+    dialogs.WillSave("/tmp/game.exe");
+    EXPECT_EQ(Command([&] { CreateExe(path); }), start + "-o \"/tmp/game.exe\" " + Quoted(path));
+    EXPECT_EQ(dialogs.questions.back().title, "Create Executable");
+    EXPECT_EQ(dialogs.questions.back().filter, "Executables (*.exe)|*.exe");
+    EXPECT_EQ(dialogs.questions.back().fileName, session.host.Path("a.exe"));
+    EXPECT_EQ(processes.environment["BLITZPATH"], session.host.Path("Compilers/ZoltoBasic"));
+    EXPECT_EQ(labels, (std::vector<std::string>{"Compiling program...", "Compiling program...",
+                                                "Compiling program...", "Checking for errors...",
+                                                "Creating executable..."}));
+    EXPECT_EQ(cleared, 5);
+    dialogs.WillSave("");
+    CreateExe(path);
+    EXPECT_EQ(processes.started.size(), 5u);
+}
+
+TEST_F(CommandsTest, ADirtyFileIsSavedFirstAndAFailedSaveStopsTheJob) {
+    frmDoc& document = session.Open("a.bb", "a=1\r\n");
+    session.Type("; changed\r\n");
+    session.host.files.writesFail = true;
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Compile(document.FullFilename, false);
+    EXPECT_TRUE(processes.started.empty());
+    session.host.files.writesFail = false;
+    Command([&] { Compile("", false); });
+    EXPECT_FALSE(document.Dirty);
+    EXPECT_EQ(session.Bytes(document.FullFilename).find("; changed\r\n"), 0u);
+}
+
+TEST_F(CommandsTest, AnUnsavedDocumentIsCompiledFromAScratchCopy) {
+    Mod_File::NewFile();
+    session.Type("Print 1\r\n");
+    const std::string scratch = session.host.Path("Temp/New.bb");
+    EXPECT_EQ(Command([&] { Compile("New", false); }), Quoted(compiler) + " " + Quoted(scratch));
+    EXPECT_EQ(session.Bytes(scratch), "Print 1\r\n");
+    EXPECT_TRUE(ActiveForm()->Dirty);
+    EXPECT_TRUE(ActiveForm()->NewFile);
+    EXPECT_EQ(Command([&] { CheckForErrors("New"); }), Quoted(compiler) + " -c " + Quoted(scratch));
+    // An executable is built from a file of its own: it is asked for, and Cancel stops.
+    dialogs.WillSave("");
+    CreateExe("New");
+    EXPECT_EQ(processes.started.size(), 2u);
+}
+
+TEST_F(CommandsTest, AProjectIsCompiledFromItsMainFile) {
+    session.host.Put("Game/Main.bb", "Include \"lib.bb\"\r\n");
+    const std::string lib = session.host.Put("Game/Lib.bb", "a=1\r\n");
+    const std::string other = session.Open("other.bb", "o=1\r\n").FullFilename;
+    session.Type("; other\r\n");
+    session.host.Put("Game/Game.zpf",
+                     "[Zolto Project file]\r\n<Settings>\r\n CommandLine=\"-x\"\r\n</Settings>\r\n"
+                     "<Files>\r\n AbsPath=\"Main.bb\"\r\n AbsPath=\"Lib.bb\"\r\n</Files>\r\n");
+    ASSERT_TRUE(Mod_Project::LoadProject(session.host.Path("Game/Game.zpf")));
+    session.host.dock.FindDocumentWindow(lib)->Activate();
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Compile(lib, false);
+    EXPECT_EQ(Message(), "Please Set the 'Main File' for this project first...");
+    EXPECT_EQ(dialogs.messages.back().title, "Operation aborted");
+    EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Exclamation);
+    gCurrentProject->MainFile = "main.bb";
+    session.Type("; changed\r\n");
+    EXPECT_EQ(Command([&] { Compile(lib, false); }),
+              Quoted(compiler) + " " + Quoted(session.host.Path("Game/Main.bb")) + " -x");
+    EXPECT_EQ(session.Bytes(lib).find("; changed\r\n"), 0u);
+    EXPECT_EQ(session.Bytes(other), "o=1\r\n"); // belongs to nobody here
+    Options::gOnCompileSave = 0;
+    Command([&] { CheckForErrors(lib); });
+    EXPECT_EQ(session.Bytes(other).find("; other\r\n"), 0u);
+}
+
+TEST_F(CommandsTest, AMissingCompilerIsToldWithItsPlace) {
+    const std::string path = session.Open("a.bb", "").FullFilename;
+    session.host.files.Remove(compiler);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Compile(path, false);
+    EXPECT_EQ(Message(), "Specified compiler not found on location :\r" + compiler +
+                             ".exe\rPlease check your compiler settings !");
+    EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Exclamation);
+    EXPECT_TRUE(labels.empty());
+}
+
+TEST_F(CommandsTest, ARealConsoleIsStartedUncaptured) {
+    const std::string path = session.Open("a.bb", "").FullFilename;
+    gActiveCompiler->RealConsole = true;
+    Compile(path, false);
+    EXPECT_EQ(processes.detached, std::vector<std::string>{Quoted(compiler) + " " + Quoted(path)});
+    EXPECT_TRUE(processes.started.empty());
+    EXPECT_TRUE(labels.empty());
+    EXPECT_EQ(Command([&] { CheckForErrors(path); }), Quoted(compiler) + " -c " + Quoted(path));
+}
+
+TEST_F(CommandsTest, CompileAndRunLastGoesBackToItsDocument) {
+    const std::string first = session.Open("first.bb", "").FullFilename;
+    Command([&] { Compile(first, false); });
+    session.Open("second.bb", "");
+    EXPECT_EQ(Command([] { CompileLast(); }), Quoted(compiler) + " " + Quoted(first));
+    EXPECT_EQ(ActiveForm()->FullFilename, first);
+}
+
+TEST_F(CommandsTest, TheLastExecutableIsRememberedWhenItsBuildEnds) {
+    const std::string path = session.Open("a.bb", "").FullFilename;
+    const std::string exe = session.host.Put("a.exe", "");
+    dialogs.WillSave(exe);
+    Command([&] { CreateExe(path); });
+    EXPECT_EQ(session.host.settings.Get("Options", "gLastCreatedExe", ""), exe);
+    RunLastCreated();
+    EXPECT_EQ(processes.detached, std::vector<std::string>{Quoted(exe)});
+    Command([&] { CheckForErrors(path); });
+    EXPECT_EQ(Options::gLastCreatedExe, exe);
+    session.host.files.Remove(exe);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    RunLastCreated();
+    EXPECT_EQ(Message(), "File " + exe + " not found !");
+    Options::gLastCreatedExe.clear();
+    RunLastCreated();
+    EXPECT_EQ(processes.detached.size(), 1u);
+}
+
+TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
+    Compile("", false);
+    StopRunning();
+    const std::string path = session.Open("a.bb", "").FullFilename;
+    processes.WillStart({.ends = false});
+    Compile(path, false);
+    ASSERT_TRUE(ActiveForm()->ShellClass->Running());
+    Compile(path, false); // one at a time, and nobody is told
+    EXPECT_EQ(processes.started.size(), 1u);
+    StopRunning();
+    session.host.desktop.Advance(200);
+    EXPECT_EQ(processes.killed, 1);
+    EXPECT_FALSE(ActiveForm()->ShellClass->Running());
+}
+
+struct DefinitionsTest : CommandsTest {
+    std::string folder = session.host.Path("Compilers/ZoltoBasic");
+    std::string keywords = session.host.Path("Conf/ZoltoBasic.lng");
+    std::string good = session.Bytes(keywords);
+
+    void Refresh(const std::string& printed) {
+        processes.redirectedOutput = printed;
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        RefreshDefinitions("ZoltoBasic", folder);
+    }
+};
+
+TEST_F(DefinitionsTest, AGoodListIsLoaded) {
+    session.host.files.Remove(keywords);
+    Refresh(good + "Shine x#,[y#]\r\n");
+    EXPECT_EQ(processes.redirected, std::vector<std::string>{Quoted(compiler) + " +k"});
+    EXPECT_EQ(processes.environment["BLITZPATH"], folder);
+    EXPECT_EQ(Message(), "Keyword definitions for this compiler successfully created !");
+    EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Information);
+    ASSERT_NE(FindKeyword("SHINE"), nullptr);
+    EXPECT_EQ(FindKeyword("SHINE")->VlezNum, 2);
+    EXPECT_FALSE(session.host.desktop.waitCursor);
+}
+
+TEST_F(DefinitionsTest, AListBelow3000BytesCountsAsFailure) {
+    Refresh(std::string(2999, 'x'));
+    EXPECT_EQ(Message(),
+              " Error while creating keyword definitions file !\r\n\r\n See " + keywords + " for details");
+    EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Critical);
+    EXPECT_NE(FindKeyword("PRINT"), nullptr);
+}
+
+TEST_F(DefinitionsTest, WithoutACompilerNoFileIsTouched) {
+    session.host.files.Remove(compiler);
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    RefreshDefinitions("ZoltoBasic", folder);
+    EXPECT_EQ(Message(), "Could not find compiler (blitzcc.exe) on specified location: \r" + folder +
+                             "\r Make sure you have selected correct Blitz Path and at least v1.78 of Blitz "
+                             "installed !");
+    EXPECT_EQ(dialogs.messages.back().title, "Error");
+    EXPECT_EQ(session.Bytes(keywords), good);
+    EXPECT_TRUE(processes.redirected.empty());
+}
+
+}
