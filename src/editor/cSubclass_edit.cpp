@@ -149,6 +149,8 @@ void cSubclass::AfterInsert(const SciNotification& notification) {
     if (last == line) return;
     if (State().UnparsedLine >= 0) {
         if (State().UnparsedLine != line) SetStopErrorLog(StopNotTheEditedLine);
+        // What is inserted at a line's start pushes that line down, and its markers go with it.
+        if (Mod_Sci::PositionFromLine(line) == notification.position) State().UnparsedLine = last;
         TakeBackEditedLine(false);
     }
     for (int at = line; at <= last; ++at) {
