@@ -32,13 +32,6 @@ int DeriveLevel(int line) {
     return level;
 }
 
-void MarkMainProgram(int line) {
-    if (!CurrentFunctionName.empty() && !InMainProgram())
-        Mod_Sci::MarkerDelete(line, MarkerMainProgram);
-    else if (!HasMarker(line, MarkerMainProgram))
-        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
-}
-
 } // namespace
 
 void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {

@@ -58,7 +58,7 @@ int LineParser::Run() {
     gLineStyles.Begin(lineStart_ + 1, length, true);
 
     if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
-    if (CurrentFunctionName == MainProgram) AddMarker(MarkerMainProgram);
+    MarkMainProgram(line_);
     // On loading, nothing indents unless the option says so, and nobody asks for the level.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);

@@ -83,7 +83,7 @@ void LineParser::Function() {
     gCurrentProject->Funkcii.Add(function->Ime, function);
     CurrentFunctionName = function->Ime;
     CurrentLocals = function->Locals;
-    Mod_Sci::MarkerDelete(line_, MarkerMainProgram);
+    DeleteEvery(line_, MarkerMainProgram);
     // What stands behind the header is the walk's: its bracket means nothing there, a comment does.
 }
 

@@ -29,20 +29,16 @@ public:
         count_ = Mod_Lexer::Tokenize(text, length, true);
         for (const int marker :
              {MarkerMainProgram, MarkerFoldOpens, MarkerFoldCloses, MarkerBlock, MarkerBreakpoint})
-            DeleteEvery(marker);
+            DeleteEvery(line_, marker);
         for (index_ = 1; index_ < count_;) One();
-        DeleteEvery(MarkerParsed);
-        DeleteEvery(MarkerDeclares);
-        if (dropFunction_) DeleteEvery(MarkerFunction);
-        if (dropType_) DeleteEvery(MarkerType);
-        if (dropLocal_) DeleteEvery(MarkerLocal);
+        DeleteEvery(line_, MarkerParsed);
+        DeleteEvery(line_, MarkerDeclares);
+        if (dropFunction_) DeleteEvery(line_, MarkerFunction);
+        if (dropType_) DeleteEvery(line_, MarkerType);
+        if (dropLocal_) DeleteEvery(line_, MarkerLocal);
     }
 
 private:
-    // A line may hold one such marker a symbol, and a call takes one of them.
-    void DeleteEvery(int marker) {
-        while (HasMarker(line_, marker)) Mod_Sci::MarkerDelete(line_, marker);
-    }
     bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
 
     void One() {

@@ -125,6 +125,17 @@ Levels CountLevels(int count) {
 
 bool HasMarker(int line, int marker) { return (Mod_Sci::MarkerGet(line) & MaskOf(marker)) != 0; }
 
+void DeleteEvery(int line, int marker) {
+    while (HasMarker(line, marker)) Mod_Sci::MarkerDelete(line, marker);
+}
+
+void MarkMainProgram(int line) {
+    if (!CurrentFunctionName.empty() && CurrentFunctionName != MainProgram)
+        DeleteEvery(line, MarkerMainProgram);
+    else if (!HasMarker(line, MarkerMainProgram))
+        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
+}
+
 std::string CurrentFunction(int line) {
     return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {
         ScopeFound found = FindScope(line, MarkerFunction, "Function", gCurrentProject->Funkcii);
