@@ -181,7 +181,10 @@ void cSubclass::ParseQueue() {
             continue;
         }
         const bool follows = line == ++expect;
-        if (follows && i + 1 == handles.size()) FoldLevel = 0;
+        // The last of a run derives its level, which has the lines below it checked.
+        const bool runEnds =
+            i + 1 == handles.size() || Mod_Sci::MarkerLineFromHandle(handles[i + 1]) != line + 1;
+        if (follows && runEnds) FoldLevel = 0;
         Parseline(line, follows);
         expect = line;
         Mod_Sci::MarkerDelete(line, MarkerQueued);

@@ -49,7 +49,10 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
         Mod_Sci::SetFoldLevel(line, FoldLevel);
         if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
     }
-    if (derived && LevelOf(line + 1) != FoldLevel && HasMarker(line + 1, MarkerParsed))
+    // Below an unchanged level the function may be another one all the same.
+    const bool outside = CurrentFunctionName.empty() || InMainProgram();
+    if (derived && HasMarker(line + 1, MarkerParsed) &&
+        (LevelOf(line + 1) != FoldLevel || HasMarker(line + 1, MarkerMainProgram) != outside))
         CheckFold(line, FoldLevel);
 }
 
