@@ -61,6 +61,7 @@ int LineParser::Run() {
     // The type is asked for where it matters; what a paint left here must not reach the lines that follow.
     if (!sequential_) CurrentTypeName.clear();
     MarkMainProgram(line_);
+    startsOutside_ = CurrentFunctionName == MainProgram;
     // On loading, nothing indents unless the option says so, and nobody asks for the level.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
