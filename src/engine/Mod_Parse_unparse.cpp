@@ -91,7 +91,18 @@ private:
         }
         gCurrentProject->Funkcii.Remove(name, line_, SciWndData);
         dropFunction_ = true;
-        ++index_;
+        SkipHeader();
+    }
+
+    // A parameter may have a keyword's name; the parser took none of them for one.
+    void SkipHeader() {
+        SkipSuffix();
+        if (index_ > count_ || At(index_).Kind != '(') return;
+        while (NextIsName()) {
+            ++index_;
+            SkipTail('[');
+            if (index_ > count_ || At(index_).Kind != ',') return;
+        }
     }
 
     void End() {
@@ -190,14 +201,7 @@ private:
 
     // Steps over what hangs on a declared name, as the parser walked it.
     void SkipTail(char open) {
-        ++index_;
-        if (index_ > count_) return;
-        if (At(index_).Kind == '.') {
-            ++index_;
-            if (index_ <= count_ && At(index_).Kind == TOK_IDENT) ++index_;
-        } else if (SuffixTip[At(index_).Kind] != 0) {
-            ++index_;
-        }
+        SkipSuffix();
         if (index_ > count_) return;
         if (At(index_).Kind == '=' && open == '[') {
             ++index_;
@@ -206,6 +210,17 @@ private:
             const char close = open == '(' ? ')' : ']';
             while (index_ <= count_ && At(index_).Kind != close) ++index_;
             if (index_ <= count_) ++index_;
+        }
+    }
+
+    void SkipSuffix() {
+        ++index_;
+        if (index_ > count_) return;
+        if (At(index_).Kind == '.') {
+            ++index_;
+            if (index_ <= count_ && At(index_).Kind == TOK_IDENT) ++index_;
+        } else if (SuffixTip[At(index_).Kind] != 0) {
+            ++index_;
         }
     }
 
