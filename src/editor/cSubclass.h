@@ -46,6 +46,7 @@ private:
     void Queue(int line);
     void TakeBackEditedLine(bool queue);
     void GroupTyping(const SciNotification& notification);
+    std::vector<int> TakeQueue();
     void ParseQueue();
     void JoinLines();
     void ShowLine(int line);

@@ -13,6 +13,8 @@
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+
 namespace {
 
 using namespace Mod_Parse;
@@ -169,22 +171,30 @@ void cSubclass::JoinLines() {
     Mod_Sci::ReplaceRange(start, end, "");
 }
 
-void cSubclass::ParseQueue() {
-    const std::vector<int> handles = std::move(State().ParseNeeded);
+// Empties the queue; answers its lines from the top of the document down, because a line's scope is read off
+// the lines above it.
+std::vector<int> cSubclass::TakeQueue() {
+    std::vector<int> lines;
+    for (const int handle : State().ParseNeeded)
+        if (const auto line = Mod_Sci::MarkerLineFromHandle(handle); line >= 0)
+            lines.push_back(static_cast<int>(line));
     State().ParseNeeded.clear();
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+void cSubclass::ParseQueue() {
+    const std::vector<int> lines = TakeQueue();
     int expect = -100;
-    for (std::size_t i = 0; i < handles.size(); ++i) {
-        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handles[i]));
-        if (line < 0) continue;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const int line = lines[i];
         if (HasMarker(line, MarkerParsed)) {
             SetStopErrorLog(StopParsedLineQueued);
             continue;
         }
         const bool follows = line == ++expect;
         // The last of a run derives its level, which has the lines below it checked.
-        const bool runEnds =
-            i + 1 == handles.size() || Mod_Sci::MarkerLineFromHandle(handles[i + 1]) != line + 1;
-        if (follows && runEnds) FoldLevel = 0;
+        if (follows && (i + 1 == lines.size() || lines[i + 1] != line + 1)) FoldLevel = 0;
         Parseline(line, follows);
         expect = line;
         Mod_Sci::MarkerDelete(line, MarkerQueued);
@@ -221,11 +231,7 @@ void cSubclass::DeactivateCheck() {
         if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);
         TakeBackEditedLine(true);
     }
-    const std::vector<int> handles = std::move(State().ParseNeeded);
-    State().ParseNeeded.clear();
-    for (const int handle : handles) {
-        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handle));
-        if (line < 0) continue;
+    for (const int line : TakeQueue()) {
         if (HasMarker(line, MarkerParsed)) {
             SetStopErrorLog(StopParsedLineFlush);
             continue;
