@@ -79,13 +79,21 @@ const ClsBBFunkcija* KeywordAt(int index) {
     return token.Kind == TOK_IDENT ? FindKeyword(UCase(token.Text)) : nullptr;
 }
 
-void CountEndScope(Levels& levels, Word word, int index, int count) {
+// The second word of an end, which opens nothing itself.
+bool EndsWith(const std::string& word) {
+    return EqualNoCase(word, "If") || EqualNoCase(word, "Select") || EqualNoCase(word, "Function") ||
+           EqualNoCase(word, "Type");
+}
+
+// The index steps over a word that belongs to the one it stands on.
+void CountEndScope(Levels& levels, Word word, int& index, int count) {
     const Token& next = LightTokens[static_cast<std::size_t>(index) + 1];
     const bool last = index == count;
     switch (word) {
     case Word::End:
         if (next.Kind == TOK_IDENT && EqualNoCase(next.Text, "Select")) ++levels.closes;
         levels.General();
+        if (next.Kind == TOK_IDENT && EndsWith(next.Text)) ++index;
         break;
     case Word::Then:
         if (!last && next.Kind != TOK_COMMENT) levels.General();
