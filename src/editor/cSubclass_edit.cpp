@@ -88,8 +88,9 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
     if (edited >= 0 && edited != start) TakeBackEditedLine(edited < start || edited > end);
     if (State().UnparsedLine < 0) {
         if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
-            UnparseLine(start, false);
-            Queue(start);
+            // An undo of several changes may come to a line that waits already.
+            if (HasMarker(start, MarkerParsed)) UnparseLine(start, false);
+            if (!HasMarker(start, MarkerQueued)) Queue(start);
             State().mForceColor = true;
         } else if (HasMarker(start, MarkerParsed)) {
             Snapshot(start);
