@@ -186,8 +186,8 @@ int GetNextIndent(int line) {
         for (;; --line) {
             if (line < 0) return 1;
             level = static_cast<int>(std::nearbyint(static_cast<double>(Mod_Sci::GetLineIndentation(line)) /
-                                                    std::max(1, OptionsEdit::TabValue))) +
-                    1;
+                                                        std::max(1, OptionsEdit::TabValue) +
+                                                    1));
             if (Mod_Sci::LineLength(line) == 0) return level;
             count = ScanLight(Mod_Sci::LineText(line));
             if (count > 0) break;

@@ -42,7 +42,8 @@ TEST_F(ParseTest, ListsDeclareEachNameWithItsTypeAndBounds) {
         "Local of *Main Program* f @1 tip 5 type Thing array [4]\n"
         "Local of *Main Program* g @1 tip 1\n"
         "Local of *Main Program* h @2 tip 1\n");
-    EXPECT_EQ(Declared({"Dim a(10), b$(5, c(1)), d(", "Const x = 1, y# = 2 * (3, 4) : Global g.Thing, h., k[ : Const z",
+    EXPECT_EQ(Declared({"Dim a(10), b$(5, c(1)), d(",
+                        "Const x = 1, y# = 2 * (3, 4) : Global g.Thing, h., k[ : Const z",
                         "Const s$ = \"a,b\", t"}),
               "Const s @2 tip 3\nConst t @2 tip 1\n"
               "Const x @1 tip 1\nConst y @1 tip 2\n"
