@@ -50,7 +50,8 @@ private:
             return;
         }
         const ClsBBFunkcija* keyword = token.Kind == TOK_IDENT ? KeywordOf(token) : nullptr;
-        if (keyword == nullptr || token.Text != keyword->Ime) {
+        // In any case: a function of that name may have given the word its own spelling since the parse.
+        if (keyword == nullptr) {
             ++index_;
             return;
         }
