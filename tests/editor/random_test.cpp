@@ -191,7 +191,8 @@ private:
     static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
         std::string changed = Mod_Sci::GetText();
         changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
-        static const std::regex twice(R"(\b(function|type)\b[^\r\n]*\b(function|type)\b)", std::regex::icase);
+        static const std::regex twice(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))",
+                                      std::regex::icase);
         return !std::regex_search(changed, twice);
     }
 
