@@ -51,6 +51,7 @@ private:
     void Queue(int line);
     void TakeBackEditedLine(bool queue);
     void GroupTyping(const SciNotification& notification);
+    std::vector<int> TakeQueue();
     void ParseQueue();
     void ParseWaiting();
     void JoinLines();

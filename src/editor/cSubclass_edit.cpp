@@ -13,6 +13,8 @@
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+
 namespace {
 
 using namespace Mod_Parse;
@@ -97,8 +99,9 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
     if (edited >= 0 && edited != start) TakeBackEditedLine(edited < start || edited > end);
     if (State().UnparsedLine < 0) {
         if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
-            UnparseLine(start, false);
-            Queue(start);
+            // An undo of several changes may come to a line that waits already.
+            if (HasMarker(start, MarkerParsed)) UnparseLine(start, false);
+            if (!HasMarker(start, MarkerQueued)) Queue(start);
             State().mForceColor = true;
         } else if (HasMarker(start, MarkerParsed)) {
             Snapshot(start);
@@ -160,6 +163,8 @@ void cSubclass::AfterInsert(const SciNotification& notification) {
     if (last == line) return;
     if (State().UnparsedLine >= 0) {
         if (State().UnparsedLine != line) SetStopErrorLog(StopNotTheEditedLine);
+        // What is inserted at a line's start pushes that line down, and its markers go with it.
+        if (Mod_Sci::PositionFromLine(line) == notification.position) State().UnparsedLine = last;
         TakeBackEditedLine(false);
     }
     for (int at = line; at <= last; ++at) {
@@ -178,19 +183,30 @@ void cSubclass::JoinLines() {
     Mod_Sci::ReplaceRange(start, end, "");
 }
 
-void cSubclass::ParseQueue() {
-    const std::vector<int> handles = std::move(State().ParseNeeded);
+// Empties the queue; answers its lines from the top of the document down, because a line's scope is read off
+// the lines above it.
+std::vector<int> cSubclass::TakeQueue() {
+    std::vector<int> lines;
+    for (const int handle : State().ParseNeeded)
+        if (const auto line = Mod_Sci::MarkerLineFromHandle(handle); line >= 0)
+            lines.push_back(static_cast<int>(line));
     State().ParseNeeded.clear();
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+void cSubclass::ParseQueue() {
+    const std::vector<int> lines = TakeQueue();
     int expect = -100;
-    for (std::size_t i = 0; i < handles.size(); ++i) {
-        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handles[i]));
-        if (line < 0) continue;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const int line = lines[i];
         if (HasMarker(line, MarkerParsed)) {
             SetStopErrorLog(StopParsedLineQueued);
             continue;
         }
         const bool follows = line == ++expect;
-        if (follows && i + 1 == handles.size()) FoldLevel = 0;
+        // The last of a run derives its level, which has the lines below it checked.
+        if (follows && (i + 1 == lines.size() || lines[i + 1] != line + 1)) FoldLevel = 0;
         Parseline(line, follows);
         expect = line;
         Mod_Sci::MarkerDelete(line, MarkerQueued);
@@ -227,11 +243,7 @@ void cSubclass::ParseWaiting() {
         if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);
         TakeBackEditedLine(true);
     }
-    const std::vector<int> handles = std::move(State().ParseNeeded);
-    State().ParseNeeded.clear();
-    for (const int handle : handles) {
-        const int line = static_cast<int>(Mod_Sci::MarkerLineFromHandle(handle));
-        if (line < 0) continue;
+    for (const int line : TakeQueue()) {
         if (HasMarker(line, MarkerParsed)) {
             SetStopErrorLog(StopParsedLineFlush);
             continue;

@@ -58,6 +58,7 @@ private:
     int closes_ = 0;    // levels that it closes before itself
     int foldDelta_ = 0; // fold blocks opened less those closed
     bool functionLine_ = false;
+    bool startsOutside_ = false; // of every function
     bool startsWithComment_ = false;
 };
 

@@ -27,16 +27,11 @@ int LevelOf(int line) { return static_cast<int>(Mod_Sci::GetFoldLevel(line)) & S
 int DeriveLevel(int line) {
     int level = LevelOf(line - 1);
     const auto markers = Mod_Sci::MarkerGet(line - 1);
+    // Behind the end of a function nothing is open, on whatever line it began.
+    if ((markers & MaskOf(MarkerFunction)) && (markers & MaskOf(MarkerFoldCloses))) return TopLevel;
     if (markers & MaskOf(MarkerFoldOpens)) ++level;
     if (markers & MaskOf(MarkerFoldCloses)) level = Lowered(level);
     return level;
-}
-
-void MarkMainProgram(int line) {
-    if (!CurrentFunctionName.empty() && !InMainProgram())
-        Mod_Sci::MarkerDelete(line, MarkerMainProgram);
-    else if (!HasMarker(line, MarkerMainProgram))
-        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
 }
 
 } // namespace
@@ -56,7 +51,10 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
         Mod_Sci::SetFoldLevel(line, FoldLevel);
         if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
     }
-    if (derived && LevelOf(line + 1) != FoldLevel && HasMarker(line + 1, MarkerParsed))
+    // Below an unchanged level the function may be another one all the same.
+    const bool outside = CurrentFunctionName.empty() || InMainProgram();
+    if (derived && HasMarker(line + 1, MarkerParsed) &&
+        (LevelOf(line + 1) != FoldLevel || HasMarker(line + 1, MarkerMainProgram) != outside))
         CheckFold(line, FoldLevel);
 }
 
@@ -66,13 +64,12 @@ void CheckFold(int line, int level) {
     if (!bounded) end = static_cast<int>(Mod_Sci::GetLineCount());
     for (int at = line + 1; at < end; ++at) {
         const auto markers = Mod_Sci::MarkerGet(at);
-        if (markers & MaskOf(MarkerFoldOpens)) {
-            Mod_Sci::SetFoldLevel(at, level | SC_FOLDLEVELHEADERFLAG);
-            ++level;
-        } else {
-            Mod_Sci::SetFoldLevel(at, level);
-            if (markers & MaskOf(MarkerFoldCloses)) level = Lowered(level);
-        }
+        const bool opens = (markers & MaskOf(MarkerFoldOpens)) != 0;
+        const bool closes = (markers & MaskOf(MarkerFoldCloses)) != 0;
+        // A line that opens and closes is no fold, as in a parse.
+        Mod_Sci::SetFoldLevel(at, opens && !closes ? level | SC_FOLDLEVELHEADERFLAG : level);
+        if (opens && !closes) ++level;
+        if (closes && !opens) level = Lowered(level);
         MarkMainProgram(at);
     }
     if (bounded && HasMarker(end, MarkerFoldCloses)) MarkMainProgram(end);

@@ -58,7 +58,10 @@ int LineParser::Run() {
     gLineStyles.Begin(lineStart_ + 1, length, true);
 
     if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
-    if (CurrentFunctionName == MainProgram) AddMarker(MarkerMainProgram);
+    // The type is asked for where it matters; what a paint left here must not reach the lines that follow.
+    if (!sequential_) CurrentTypeName.clear();
+    MarkMainProgram(line_);
+    startsOutside_ = CurrentFunctionName == MainProgram;
     // On loading, nothing indents unless the option says so, and nobody asks for the level.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
@@ -217,6 +220,8 @@ void ParseFile() {
 void UnParseFile() {
     Guarded("UnParseFile", "Mod_Parse", [&] {
         const WaitCursor wait;
+        CurrentFunctionName.clear();
+        CurrentTypeName.clear();
         const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
         for (int line = 0; line <= last; ++line) UnparseLine(line, true);
         if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();

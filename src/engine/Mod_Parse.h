@@ -29,6 +29,10 @@ enum : int {
 };
 constexpr int MaskOf(int marker) { return 1 << marker; }
 bool HasMarker(int line, int marker);
+// Takes a marker off a line as often as it is there: one call of the view takes one of several.
+void DeleteEvery(int line, int marker);
+// Gives a line marker 21 or takes it away, as CurrentFunctionName says; empty counts as outside.
+void MarkMainProgram(int line);
 
 // --- parsing ---------------------------------------------------------------------------------------
 

@@ -70,20 +70,21 @@ void LineParser::Function() {
     AddMarker(MarkerFoldOpens);
 
     if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
-    // While a whole file is parsed nothing below is in the tables yet, and nothing has to be looked for.
+    // While a whole file is parsed nothing below is in the tables yet, and nothing has to be looked for. What
+    // stands on this line in front of the word stays outside.
     if (!ParsingFile) {
         if (CurrentFunctionName == MainProgram) {
             const int nextEnd = NextLineWith(line_ + 1, MarkerFunction);
-            if (const int local = NextLineWith(line_, MarkerLocal); local != NoEnd && local <= nextEnd)
-                MoveSymbols(*CurrentLocals, *function->Locals, {line_, nextEnd});
+            if (const int local = NextLineWith(line_ + 1, MarkerLocal); local != NoEnd && local <= nextEnd)
+                MoveSymbols(*CurrentLocals, *function->Locals, {line_ + 1, nextEnd});
         } else {
-            MoveSymbols(*CurrentLocals, *function->Locals, {line_, NoEnd});
+            MoveSymbols(*CurrentLocals, *function->Locals, {line_ + 1, NoEnd});
         }
     }
     gCurrentProject->Funkcii.Add(function->Ime, function);
     CurrentFunctionName = function->Ime;
     CurrentLocals = function->Locals;
-    Mod_Sci::MarkerDelete(line_, MarkerMainProgram);
+    DeleteEvery(line_, MarkerMainProgram);
     // What stands behind the header is the walk's: its bracket means nothing there, a comment does.
 }
 
@@ -138,6 +139,8 @@ void LineParser::EndFunction() {
                 MoveSymbols(*CurrentLocals, *gCurrentProject->MainFunLocals, {line_ + 1, NoEnd});
         }
     }
+    // A function that begins and ends here leaves the line where it was.
+    if (functionLine_ && startsOutside_) AddMarker(MarkerMainProgram);
     functionLine_ = true;
     AddMarker(MarkerFunction);
     AddMarker(MarkerFoldCloses);
@@ -169,9 +172,9 @@ void LineParser::Type() {
     AddMarker(MarkerFoldOpens);
     if (CurrentTypeName.empty()) {
         if (!gActiveDoc->tmpFields.empty())
-            TakeLooseFields(*type->Fields, {line_, NextLineWith(line_ + 1, MarkerType)});
+            TakeLooseFields(*type->Fields, {line_ + 1, NextLineWith(line_ + 1, MarkerType)});
     } else if (!ParsingFile) {
-        MoveSymbols(*CurrentFields, *type->Fields, {line_, NoEnd});
+        MoveSymbols(*CurrentFields, *type->Fields, {line_ + 1, NoEnd});
     }
     gCurrentProject->Types.Add(type->Ime, type);
     CurrentTypeName = type->Ime;

@@ -29,20 +29,16 @@ public:
         count_ = Mod_Lexer::Tokenize(text, length, true);
         for (const int marker :
              {MarkerMainProgram, MarkerFoldOpens, MarkerFoldCloses, MarkerBlock, MarkerBreakpoint})
-            DeleteEvery(marker);
+            DeleteEvery(line_, marker);
         for (index_ = 1; index_ < count_;) One();
-        DeleteEvery(MarkerParsed);
-        DeleteEvery(MarkerDeclares);
-        if (dropFunction_) DeleteEvery(MarkerFunction);
-        if (dropType_) DeleteEvery(MarkerType);
-        if (dropLocal_) DeleteEvery(MarkerLocal);
+        DeleteEvery(line_, MarkerParsed);
+        DeleteEvery(line_, MarkerDeclares);
+        if (dropFunction_) DeleteEvery(line_, MarkerFunction);
+        if (dropType_) DeleteEvery(line_, MarkerType);
+        if (dropLocal_) DeleteEvery(line_, MarkerLocal);
     }
 
 private:
-    // A line may hold one such marker a symbol, and a call takes one of them.
-    void DeleteEvery(int marker) {
-        while (HasMarker(line_, marker)) Mod_Sci::MarkerDelete(line_, marker);
-    }
     bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
 
     void One() {
@@ -54,7 +50,8 @@ private:
             return;
         }
         const ClsBBFunkcija* keyword = token.Kind == TOK_IDENT ? KeywordOf(token) : nullptr;
-        if (keyword == nullptr || token.Text != keyword->Ime) {
+        // In any case: a function of that name may have given the word its own spelling since the parse.
+        if (keyword == nullptr) {
             ++index_;
             return;
         }
@@ -95,7 +92,18 @@ private:
         }
         gCurrentProject->Funkcii.Remove(name, line_, SciWndData);
         dropFunction_ = true;
-        ++index_;
+        SkipHeader();
+    }
+
+    // A parameter may have a keyword's name; the parser took none of them for one.
+    void SkipHeader() {
+        SkipSuffix();
+        if (index_ > count_ || At(index_).Kind != '(') return;
+        while (NextIsName()) {
+            ++index_;
+            SkipTail('[');
+            if (index_ > count_ || At(index_).Kind != ',') return;
+        }
     }
 
     void End() {
@@ -194,14 +202,7 @@ private:
 
     // Steps over what hangs on a declared name, as the parser walked it.
     void SkipTail(char open) {
-        ++index_;
-        if (index_ > count_) return;
-        if (At(index_).Kind == '.') {
-            ++index_;
-            if (index_ <= count_ && At(index_).Kind == TOK_IDENT) ++index_;
-        } else if (SuffixTip[At(index_).Kind] != 0) {
-            ++index_;
-        }
+        SkipSuffix();
         if (index_ > count_) return;
         if (At(index_).Kind == '=' && open == '[') {
             ++index_;
@@ -210,6 +211,17 @@ private:
             const char close = open == '(' ? ')' : ']';
             while (index_ <= count_ && At(index_).Kind != close) ++index_;
             if (index_ <= count_) ++index_;
+        }
+    }
+
+    void SkipSuffix() {
+        ++index_;
+        if (index_ > count_) return;
+        if (At(index_).Kind == '.') {
+            ++index_;
+            if (index_ <= count_ && At(index_).Kind == TOK_IDENT) ++index_;
+        } else if (SuffixTip[At(index_).Kind] != 0) {
+            ++index_;
         }
     }
 

@@ -79,13 +79,21 @@ const ClsBBFunkcija* KeywordAt(int index) {
     return token.Kind == TOK_IDENT ? FindKeyword(UCase(token.Text)) : nullptr;
 }
 
-void CountEndScope(Levels& levels, Word word, int index, int count) {
+// The second word of an end, which opens nothing itself.
+bool EndsWith(const std::string& word) {
+    return EqualNoCase(word, "If") || EqualNoCase(word, "Select") || EqualNoCase(word, "Function") ||
+           EqualNoCase(word, "Type");
+}
+
+// The index steps over a word that belongs to the one it stands on.
+void CountEndScope(Levels& levels, Word word, int& index, int count) {
     const Token& next = LightTokens[static_cast<std::size_t>(index) + 1];
     const bool last = index == count;
     switch (word) {
     case Word::End:
         if (next.Kind == TOK_IDENT && EqualNoCase(next.Text, "Select")) ++levels.closes;
         levels.General();
+        if (next.Kind == TOK_IDENT && EndsWith(next.Text)) ++index;
         break;
     case Word::Then:
         if (!last && next.Kind != TOK_COMMENT) levels.General();
@@ -127,6 +135,17 @@ Levels CountLevels(int count) {
 } // namespace
 
 bool HasMarker(int line, int marker) { return (Mod_Sci::MarkerGet(line) & MaskOf(marker)) != 0; }
+
+void DeleteEvery(int line, int marker) {
+    while (HasMarker(line, marker)) Mod_Sci::MarkerDelete(line, marker);
+}
+
+void MarkMainProgram(int line) {
+    if (!CurrentFunctionName.empty() && CurrentFunctionName != MainProgram)
+        DeleteEvery(line, MarkerMainProgram);
+    else if (!HasMarker(line, MarkerMainProgram))
+        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
+}
 
 std::string CurrentFunction(int line) {
     return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {
@@ -170,8 +189,8 @@ int GetNextIndent(int line) {
         for (;; --line) {
             if (line < 0) return 1;
             level = static_cast<int>(std::nearbyint(static_cast<double>(Mod_Sci::GetLineIndentation(line)) /
-                                                    std::max(1, OptionsEdit::TabValue))) +
-                    1;
+                                                        std::max(1, OptionsEdit::TabValue) +
+                                                    1));
             if (Mod_Sci::LineLength(line) == 0) return level;
             count = ScanLight(Mod_Sci::LineText(line));
             if (count > 0) break;

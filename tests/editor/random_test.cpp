@@ -1,0 +1,224 @@
+// The property that everything else rests on: whatever was edited, tables, markers and fold levels are those
+// of a fresh load of the same text. A series comes from a seed, and one that fails is shrunk before it is
+// told.
+#include "engine/fixture/SourceTest.h"
+
+#include <cstdlib>
+#include <random>
+#include <regex>
+
+namespace {
+
+const std::vector<std::string> Pieces{
+    "Function alpha(a, b#)",
+    "Function beta$()",
+    "End Function",
+    "End Function",
+    "Type Rock",
+    "Type Ship",
+    "End Type",
+    "Field x#, y#",
+    "Field link.Rock",
+    "Local n, m# = 1.5",
+    "Local s$",
+    "Global score",
+    "Const Most = 12",
+    "Dim grid(4, 4)",
+    ";[Block] part",
+    ";[End Block]",
+    ".start",
+    "Goto start ; comment",
+    "; comment only",
+    "Print \"open string",
+    "If n Then Stop",
+    "Stop",
+    "Include \"other.bb\"",
+    "score = score + 1 : Local inner",
+    "",
+};
+
+enum Kind {
+    InsertWhole,
+    Paste,
+    Delete,
+    DeleteWhole,
+    TypeText,
+    NewLine,
+    Back,
+    Undo,
+    Redo,
+    MoveAway,
+    Drain,
+    Kinds
+};
+constexpr const char* KindNames[] = {"insert line", "paste", "delete", "delete line", "type", "new line",
+                                     "backspace",   "undo",  "redo",   "move away",   "drain"};
+
+// Numbers are taken modulo what the text allows when the step is done, so that a series stays a series when
+// steps are taken out of it.
+struct Step {
+    Kind kind;
+    unsigned long line, column, lines, endColumn;
+    std::string text;
+};
+
+struct Series {
+    std::vector<std::string> text;
+    std::vector<Step> steps;
+};
+
+class RandomEdits : public SourceTest {
+protected:
+    static Series Make(unsigned seed, int steps) {
+        std::mt19937 random(seed);
+        const auto piece = [&] { return Pieces[random() % Pieces.size()]; };
+        Series series;
+        for (int i = 0; i < 10; ++i) series.text.push_back(piece());
+        for (int i = 0; i < steps; ++i) {
+            Step step{static_cast<Kind>(random() % Kinds), random(), 0, random() % 3, random(), piece()};
+            if (random() % 3 == 0) step.column = random();
+            if (step.kind == Paste) step.text += "\r\n" + piece();
+            series.steps.push_back(step);
+        }
+        return series;
+    }
+
+    // Does a series; answers what differs from a fresh load at the first check that fails, else nothing.
+    std::string Fails(const Series& series, std::string* told = nullptr) {
+        frmDoc& document = OpenLines(series.text);
+        std::string difference;
+        for (const Step& step : series.steps) {
+            Do(step, told);
+            if (step.kind == MoveAway || step.kind == Drain) difference = Difference();
+            if (!difference.empty()) break;
+        }
+        if (difference.empty()) {
+            document.m_oSubclass->DeactivateCheck();
+            difference = Difference();
+        }
+        if (told && !difference.empty()) *told += "Now the text is:\n" + Mod_Sci::GetText() + "\n";
+        Close(document);
+        const std::string late = TakeLog();
+        return difference.empty() ? late : difference;
+    }
+
+    std::string Shrunk(Series series) {
+        for (bool smaller = true; smaller;) {
+            smaller = Drop(series, series.steps) || Drop(series, series.text);
+        }
+        std::string told = "Series:\n";
+        for (const std::string& line : series.text) told += "  " + line + "\n";
+        const std::string difference = Fails(series, &told);
+        return told + difference;
+    }
+
+private:
+    // Takes out of a series what it fails without; answers whether that was anything.
+    template <class Part>
+    bool Drop(Series& series, std::vector<Part>& parts) {
+        bool dropped = false;
+        for (std::size_t i = parts.size(); i-- > 0;) {
+            const Part part = parts[i];
+            parts.erase(parts.begin() + static_cast<std::ptrdiff_t>(i));
+            if (Fails(series).empty())
+                parts.insert(parts.begin() + static_cast<std::ptrdiff_t>(i), part);
+            else
+                dropped = true;
+        }
+        return dropped;
+    }
+
+    std::string Difference() {
+        const std::string log = TakeLog();
+        return log.empty() ? UnlikeLoaded() : log;
+    }
+
+    std::string TakeLog() {
+        const std::string log = host.ErrorLog();
+        if (!log.empty()) host.files.Remove(host.Path("error.log"));
+        return log;
+    }
+
+    static void Do(const Step& step, std::string* told) {
+        const auto lines = static_cast<unsigned long>(Mod_Sci::GetLineCount());
+        const auto line = static_cast<int>(step.line % lines);
+        const bool whole = step.kind == InsertWhole || step.kind == DeleteWhole;
+        const auto column = whole ? 0 : static_cast<int>(step.column % (Text(line).size() + 1));
+        const auto start = Mod_Sci::PositionFromLine(line) + column;
+        auto end = start;
+        std::string text;
+        switch (step.kind) {
+        case InsertWhole: text = step.text + "\r\n"; break;
+        case Paste:
+        case TypeText: text = step.text; break;
+        case NewLine: text = "\r\n"; break;
+        case Delete: {
+            const auto last = static_cast<int>(std::min(line + step.lines, lines - 1));
+            end = Mod_Sci::PositionFromLine(last) +
+                  static_cast<std::intptr_t>(step.endColumn % (Text(last).size() + 1));
+            break;
+        }
+        case DeleteWhole: end = Mod_Sci::PositionFromLine(line) + Mod_Sci::LineLength(line); break;
+        default: break;
+        }
+        const auto from = step.kind != Back ? start
+                          : column > 0      ? start - 1
+                                            : std::max<std::intptr_t>(start - 2, 0);
+        if (end < start || !Meaningful(from, end, text)) return;
+        if (told)
+            *told += "- " + std::string(KindNames[step.kind]) + " " + std::to_string(start) + " to " +
+                     std::to_string(end) + " " + text + "\n";
+        switch (step.kind) {
+        case TypeText: TypeAt(start, text); break;
+        case NewLine: TypeAt(start, "\n"); break;
+        case Back: TypeAt(start, "\b"); break;
+        case Undo: Mod_Sci::Undo(); break;
+        case Redo: Mod_Sci::Redo(); break;
+        case MoveAway: {
+            const auto caret = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
+            Leave(caret == 0 ? 1 : caret - 1);
+            ActiveForm()->m_oSubclass->DeactivateCheck(); // a text of one line has no other
+            break;
+        }
+        case Drain: ActiveForm()->m_oSubclass->DeactivateCheck(); break;
+        default: Mod_Sci::SetSel(start, end); Mod_Sci::ReplaceSel(text.c_str());
+        }
+        Settle();
+    }
+
+    // Two words that open or close a scope on one line have no meaning that could be kept: such a change is
+    // left out.
+    static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
+        std::string changed = Mod_Sci::GetText();
+        changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
+        static const std::regex twice(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))",
+                                      std::regex::icase);
+        return !std::regex_search(changed, twice);
+    }
+
+    static void TypeAt(std::intptr_t position, const std::string& keys) {
+        Mod_Sci::GotoPos(position);
+        Settle();
+        Type(keys);
+    }
+};
+
+unsigned FromEnvironment(const char* name, unsigned otherwise) {
+    const char* text = std::getenv(name);
+    return text ? static_cast<unsigned>(std::atoi(text)) : otherwise;
+}
+
+// More than the few series of every run on demand: ZOLTO_TEST_SEED is the first, ZOLTO_TEST_SERIES the
+// number.
+TEST_F(RandomEdits, LeaveWhatAFreshLoadGives) {
+    const unsigned first = FromEnvironment("ZOLTO_TEST_SEED", 1);
+    const unsigned end = first + FromEnvironment("ZOLTO_TEST_SERIES", 15);
+    for (unsigned seed = first; seed < end; ++seed) {
+        const Series series = Make(seed, 40);
+        if (Fails(series).empty()) continue;
+        ADD_FAILURE() << "Seed " << seed << "\n" << Shrunk(series);
+        return;
+    }
+}
+
+} // namespace
