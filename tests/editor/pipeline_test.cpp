@@ -73,6 +73,18 @@ TEST_F(PipelineTest, TheEditedLineInsideADeletedRangeIsGone) {
     ExpectAsLoaded();
 }
 
+TEST_F(PipelineTest, AnEmptiedDocumentIsParsedAndGoesOn) {
+    OpenLines({"Global a"});
+    GoTo(0, 8);
+    Type("b");
+    Replace(0, 0, 0, 9, "");
+    EXPECT_EQ(Symbols(), "");
+    ExpectAsLoaded();
+    Type("Global c");
+    ActiveForm()->m_oSubclass->DeactivateCheck();
+    EXPECT_EQ(Symbols(), "Global c @0 tip 1\n");
+}
+
 TEST_F(PipelineTest, APastedFunctionIsParsedFoldedAndUndoneInOneStep) {
     const std::string behind = "; a comment line that is longer than all that is pasted above it, and by far";
     OpenLines({"Local a", "Local b", behind});
