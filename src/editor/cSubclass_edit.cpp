@@ -96,7 +96,10 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
     if (end - start > LongChange) BeginLongChange();
     const int edited = State().UnparsedLine;
     // A line being edited that lies inside the range is going away and is not queued.
-    if (edited >= 0 && edited != start) TakeBackEditedLine(edited < start || edited > end);
+    // With the whole text the view forgets every marker.
+    const bool whole = notification.length == Mod_Sci::GetLength();
+    if (edited >= 0 && (edited != start || whole))
+        TakeBackEditedLine(whole || edited < start || edited > end);
     if (State().UnparsedLine < 0) {
         if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
             // An undo of several changes may come to a line that waits already.
@@ -187,6 +190,9 @@ void cSubclass::JoinLines() {
 // the lines above it.
 std::vector<int> cSubclass::TakeQueue() {
     std::vector<int> lines;
+    // The line that is left when the whole text has gone waits without a marker.
+    if (State().UnparsedLine < 0 && !HasMarker(0, MarkerParsed) && !HasMarker(0, MarkerQueued))
+        lines.push_back(0);
     for (const int handle : State().ParseNeeded)
         if (const auto line = Mod_Sci::MarkerLineFromHandle(handle); line >= 0)
             lines.push_back(static_cast<int>(line));

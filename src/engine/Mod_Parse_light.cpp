@@ -140,7 +140,8 @@ private:
         ClsProject& project = *gCurrentProject;
         switch (keyword.word) {
         case Word::Function:
-            if (!EnterFunction(NextText(), line_)) SetStopErrorLog(StopUnknownFunction);
+            if (!EnterFunction(NextText(), line_) && HasMarker(line_, MarkerFunction))
+                SetStopErrorLog(StopUnknownFunction);
             break;
         case Word::End:
             if (NextText() == "Function") {
@@ -280,7 +281,8 @@ void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) 
             const ClsBBFunkcija* keyword = KeywordOf(At(i));
             if (keyword == nullptr) continue;
             if (keyword->word == Word::Function) {
-                if (!EnterFunction(At(i + 1).Text, line)) SetStopErrorLog(StopUnknownFunctionUnparsed);
+                if (!EnterFunction(At(i + 1).Text, line) && HasMarker(line, MarkerFunction))
+                    SetStopErrorLog(StopUnknownFunctionUnparsed);
             } else if (keyword->word == Word::End && EqualNoCase(At(i + 1).Text, "Function")) {
                 ++i;
                 CurrentFunctionName.clear();

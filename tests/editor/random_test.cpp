@@ -186,13 +186,13 @@ private:
         Settle();
     }
 
-    // Two words that open or close a scope on one line have no meaning that could be kept: such a change is
-    // left out.
+    // Two words that open or close a scope on one line have no meaning that could be kept, and a tab ends a
+    // string for one scanner and not for the other: such changes are left out.
     static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
         std::string changed = Mod_Sci::GetText();
         changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
-        static const std::regex twice(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))",
-                                      std::regex::icase);
+        static const std::regex twice(
+            R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[)|"[^\r\n]*\t)", std::regex::icase);
         return !std::regex_search(changed, twice);
     }
 

@@ -162,6 +162,14 @@ TEST_F(ColourTest, AFunctionThatTheTableLacksIsAnInternalStop) {
     EXPECT_FALSE(Coloring);
 }
 
+TEST_F(ColourTest, AWordThatTheParserTookForANameIsNoFunction) {
+    OpenLines({"Local a, Function f()", "Global Function g"});
+    ColourAll();
+    Mod_Parse::ColorUnparsedLineLight(0, true, "Local a, Function f()");
+    EXPECT_EQ(gCurrentProject->Funkcii.Count(), 1);
+    EXPECT_EQ(host.ErrorLog(), "");
+}
+
 TEST_F(ColourTest, ANewVocabularyTouchesItsKeywordsOnly) {
     OpenLines({"flip x : Print y", "Flip"});
     std::string text = TestVocabulary() + "Flip\r\n";
