@@ -1,5 +1,5 @@
 // The registry of compilers: reading compilers.dat, and making one the active one.
-#include "documents/Mod_Main.h"
+#include "documents/CompilerRegistry.h"
 
 #include "engine/ClsCompiler.h"
 #include "host/Desktop.h"

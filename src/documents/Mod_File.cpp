@@ -1,8 +1,8 @@
 // Opening and naming documents.
 #include "documents/Mod_File.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
-#include "documents/Mod_Main.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/SciOptions.h"
@@ -108,67 +108,6 @@ bool ForeignFile(const std::string& path) {
     }
 }
 
-bool OnlyLf(std::string_view text) {
-    return text.find('\n') != std::string_view::npos && text.find('\r') == std::string_view::npos;
-}
-
-// Puts a file's bytes into a view as they are. The block at the end has CR LF in every file, so it does not
-// tell how the source's own lines end.
-void LoadText(frmDoc& document, const std::string& bytes) {
-    const std::intptr_t view = document.SciEdi_WndData;
-    document.LfEnds = OnlyLf(std::string_view(bytes).substr(0, bytes.find("\r\n;~Zolto Editor Parameters:")));
-    const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
-    document.View->SetUtf8(wide && IsUtf8(bytes));
-    Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,
-                    0); // nobody listens yet, and the library would count characters
-    Mod_Sci::SendTo(view, SCI_SETUNDOCOLLECTION, 0);
-    if (bytes.find('\0') == std::string::npos) {
-        Mod_Sci::SendTo(view, SCI_SETTEXT, 0, Mod_Sci::Address(bytes.c_str()));
-    } else {
-        Mod_Sci::SendTo(view, SCI_SETTARGETSTART, 0);
-        Mod_Sci::SendTo(view, SCI_SETTARGETEND, 0);
-        Mod_Sci::SendTo(view, SCI_REPLACETARGET, static_cast<std::intptr_t>(bytes.size()),
-                        Mod_Sci::Address(bytes.data()));
-    }
-}
-
-// A new document with a file's text; null, after nothing but the failure's text, when it cannot be read.
-std::shared_ptr<frmDoc> ReadDocument(const std::string& path, std::string& reason) {
-    try {
-        const std::string bytes = gHost.files->Read(path);
-        auto document = std::make_shared<frmDoc>();
-        LoadText(*document, bytes);
-        return document;
-    } catch (const Failure& failure) {
-        reason = failure.description;
-        return nullptr;
-    }
-}
-
-void BindWindow(frmDoc& document, bool documentWindow) {
-    DocumentWindow* window = documentWindow ? gHost.dock->FindDocumentWindow(document.FullFilename) : nullptr;
-    if (window != nullptr)
-        window->Attach(&document);
-    else
-        window = &gHost.dock->AddDocumentWindow(document.FullFilename, document.Caption(), &document);
-    document.m_strDocumentWindowID = window->Key();
-    window->SetVisible(true);
-}
-
-// Parses the active document's lines with nothing listening, and then starts listening. No change of the
-// text enters the undo history.
-template <class Parse>
-void ParseUnheard(frmDoc& document, Parse parse) {
-    Mod_Sci::SetModEventMask(0);
-    Mod_Sci::SetUndoCollection(0);
-    parse();
-    CheckFileParameters();
-    Mod_Sci::SetUndoCollection(1);
-    Mod_Sci::SetModEventMask(EventMask);
-    Mod_Sci::SetSavePoint();
-    document.SubClass();
-}
-
 std::shared_ptr<ClsProject> AddSingleProject(const std::string& name,
                                              const std::shared_ptr<frmDoc>& document) {
     auto project = std::make_shared<ClsProject>();
@@ -238,35 +177,6 @@ bool OpenFile(const std::string& wanted, bool documentWindow, bool isSnippet) {
         path = gHost.files->Find(path);
         if (ForeignFile(path) || AlreadyOpen(path)) return false;
         return LoadDocument(path, documentWindow, isSnippet);
-    });
-}
-
-bool OpenProjectsFile(const std::string& path, bool documentWindow) {
-    return Guarded("OpenProjectsFile", "Mod_File", false, [&] {
-        const auto project = gCurrentProject;
-        std::string reason;
-        const std::shared_ptr<frmDoc> document = ReadDocument(path, reason);
-        if (!document) return false;
-        document->FullFilename = path;
-        document->PrjName = project->Name;
-        document->PrjFullPath = project->FullPath;
-        document->SingleFile = false;
-        document->CompilerUsed = project->Compiler;
-        project->Sources.Add(document, path);
-        MakeActive(document.get());
-        document->Initialise(GetFileName(path));
-        ParseUnheard(*document, [&] {
-            CurrentFunctionName = MainProgram;
-            CurrentLocals = project->MainFunLocals;
-            CurrentTypeName.clear();
-            FoldLevel = 0;
-            IndentLevel = 0;
-            Mod_Parse::ParseAllLines();
-        });
-        BindWindow(*document, documentWindow);
-        MakeActive(document.get());
-        Mod_Sci::EmptyUndoBuffer();
-        return true;
     });
 }
 

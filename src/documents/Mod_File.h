@@ -1,6 +1,9 @@
 // Text between disk and editor: opening, saving, naming, and the parameter block at a file's end.
 #pragma once
 
+#include "documents/DocumentLoading.h"
+#include "documents/Mod_File_params.h"
+
 #include <string>
 
 class frmDoc;
@@ -10,8 +13,6 @@ namespace Mod_File {
 // Opens a source file or a project; an empty path asks for files. True when a document was loaded.
 // `documentWindow`: its window came back with a layout. Writes gActiveDoc, gCurrentProject, SciWndData.
 bool OpenFile(const std::string& path, bool documentWindow = false, bool isSnippet = false);
-// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message.
-bool OpenProjectsFile(const std::string& path, bool documentWindow = false);
 // Makes a new, unnamed document and activates it.
 void NewFile();
 // Saves one document, which becomes the active one. False when nothing was written.
@@ -22,13 +23,6 @@ bool SaveProjectFiles(); // every dirty document of gCurrentProject
 // Writes the active editor's text without a parameter block.
 bool WriteTextFile(const std::string& path);
 bool CreateEmptyFile(const std::string& path);
-
-// The parameter block of the active editor, empty when there is nothing to remember.
-std::string GetFileParameters();
-// Applies and removes the block in the active editor.
-void CheckFileParameters();
-// The compiler that the last line of the active editor names, else DefaultCompiler.
-std::string CheckFileCompilerUsed();
 
 // Opens what a command line names: paths, quoted or not, and /L:<line> in front of one.
 void OpenFilesFromCommand(const std::string& commandLine);

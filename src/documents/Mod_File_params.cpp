@@ -1,5 +1,5 @@
 // The block of comment lines behind a saved source: folded lines, bookmarks, arguments, compiler.
-#include "documents/Mod_File.h"
+#include "documents/Mod_File_params.h"
 
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"

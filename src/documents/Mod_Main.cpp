@@ -1,6 +1,7 @@
 // Process entry, the load sequence, and what another instance sends.
 #include "documents/Mod_Main.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Options.h"

@@ -10,13 +10,9 @@ namespace Mod_Main {
 // Process entry with the raw command line. False when this process must end at once because another
 // instance took over.
 bool Main(const std::string& commandLine);
-// The load sequence that the splash window shows. Leaves the painting of the main window frozen; Main thaws it.
+// The load sequence that the splash window shows. Leaves the painting of the main window frozen; Main thaws
+// it.
 void Start();
-
-// Fills gCompilers and DefaultCompiler from Conf\compilers.dat; a missing file ends the process.
-void LoadCompilers();
-// Makes a compiler the active one and loads its keywords. False for an unknown name, which is reported.
-bool SetActiveCompiler(const std::string& name);
 
 // What another instance sent: "Aktiviraj", or a command line.
 void TextReceived(const std::string& text);

@@ -1,9 +1,9 @@
 // Project files: plain text, blocks found by whole lines, values between quotes without escaping.
 #include "documents/Mod_Project.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
-#include "documents/Mod_File.h"
-#include "documents/Mod_Main.h"
+#include "documents/DocumentLoading.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "host/Desktop.h"

@@ -52,6 +52,8 @@ std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std:
 
 } // namespace
 
+std::unique_ptr<Pipeline> MakePipeline(frmDoc& document) { return std::make_unique<cSubclass>(document); }
+
 PipelineState& cSubclass::State() { return mFrmDoc.State; }
 
 void cSubclass::OnNotify(const SciNotification& notification) {

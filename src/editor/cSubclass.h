@@ -1,7 +1,7 @@
 // The event pipeline of one document: the only place where the edit control speaks to the engine.
 #pragma once
 
-#include "host/EditorView.h"
+#include "editor/Pipeline.h"
 
 #include <string>
 #include <vector>
@@ -9,18 +9,7 @@
 class frmDoc;
 struct PipelineState;
 
-// An undo action is open; written by OpenUndoGroup and CloseUndoGroup. A user's edit happened since the last
-// SCN_UPDATEUI. A long change put up the wait cursor. Both written by the pipeline.
-extern bool gUndoGroupOpen;
-extern bool gUserEdited;
-extern bool gWaitCursor;
-
-// Begins an undo action in the active view. It ends at that view's next SCN_UPDATEUI, when its document is
-// left, or when another view begins one: ending it in a view that has none open would end the program.
-void OpenUndoGroup();
-void CloseUndoGroup(std::intptr_t view);
-
-class cSubclass : public EditorViewEvents {
+class cSubclass : public Pipeline {
 public:
     explicit cSubclass(frmDoc& document) : mFrmDoc(document) {}
 
@@ -30,9 +19,7 @@ public:
     void OnKillFocus() override;
     void OnDropFiles(const std::vector<std::string>& paths) override;
 
-    // Parses what waits without a caret move, and ends an open undo group: before a project is loaded, before
-    // leaving a document. Another document may be the active one already.
-    void DeactivateCheck();
+    void DeactivateCheck() override;
 
 private:
     void Dispatch(const SciNotification& notification);

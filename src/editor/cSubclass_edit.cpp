@@ -133,8 +133,9 @@ void cSubclass::GroupTyping(const SciNotification& notification) {
         State().mSpaceTyped = false;
         return;
     }
-    const auto byte =
-        notification.text == nullptr ? std::uint8_t{0} : static_cast<std::uint8_t>(*notification.text);
+    // Where the view does not tell what is typed, the library's own joining is left alone.
+    if (notification.text == nullptr) return;
+    const auto byte = static_cast<std::uint8_t>(*notification.text);
     const bool space = byte == ' ';
     const bool breaks = space ? !State().mSpaceTyped : !IsIdChar[byte];
     if (!space) State().mSpaceTyped = false;

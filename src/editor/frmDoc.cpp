@@ -13,7 +13,7 @@ frmDoc::frmDoc() {
     if (!View) throw Failure(FailureFileNotFound, "The edit control could not be made");
     SciEdi_WndData = View->DirectPointer();
     gSciDirect = View->DirectFunction();
-    m_oSubclass = std::make_unique<cSubclass>(*this);
+    m_oSubclass = MakePipeline(*this);
     ShellClass = std::make_unique<StdShell>();
 }
 

@@ -2,7 +2,7 @@
 // console runner.
 #pragma once
 
-#include "editor/cSubclass.h"
+#include "editor/Pipeline.h"
 #include "engine/DocumentRecord.h"
 #include "host/DockStudio.h"
 #include "host/EditorView.h"
@@ -35,7 +35,7 @@ public:
     std::string Caption() const;
 
     std::unique_ptr<EditorView> View;
-    std::unique_ptr<cSubclass> m_oSubclass;
+    std::unique_ptr<Pipeline> m_oSubclass;
     std::unique_ptr<StdShell> ShellClass;
 
 private:

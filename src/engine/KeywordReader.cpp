@@ -5,6 +5,7 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/Symbols.h"
 #include "host/Failure.h"
+#include "host/Paths.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Reads one definition line of a keyword file.
 #pragma once
 
-#include "engine/ClsCompiler.h"
+#include "engine/Keywords.h"
 
 #include <memory>
 #include <string_view>

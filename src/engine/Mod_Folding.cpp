@@ -3,7 +3,7 @@
 
 #include "engine/DocumentRecord.h"
 #include "engine/EngineCalls.h"
-#include "engine/Mod_Parse.h"
+#include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "sci/Mod_Sci.h"

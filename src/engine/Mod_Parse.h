@@ -2,37 +2,13 @@
 // document: gActiveDoc, SciWndData and gCurrentProject. Lines count from 0, token indices from 1.
 #pragma once
 
-#include "engine/Symbols.h"
+#include "engine/Markers.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 
 namespace Mod_Parse {
-
-// Marker numbers; the mask of a marker is 1 << number.
-enum : int {
-    MarkerFunction = 0,
-    MarkerQueued = 1,
-    MarkerType = 2,
-    MarkerParsed = 3,
-    MarkerBookmark = 4,
-    MarkerFoldOpens = 5,
-    MarkerFoldCloses = 7,
-    MarkerDeclares = 8,
-    MarkerInactiveCaret = 13,
-    MarkerLocal = 14,
-    MarkerPosition = 18,
-    MarkerMainProgram = 21,
-    MarkerBlock = 22,
-    MarkerBreakpoint = 23,
-};
-constexpr int MaskOf(int marker) { return 1 << marker; }
-bool HasMarker(int line, int marker);
-// Takes a marker off a line as often as it is there: one call of the view takes one of several.
-void DeleteEvery(int line, int marker);
-// Gives a line marker 21 or takes it away, as CurrentFunctionName says; empty counts as outside.
-void MarkMainProgram(int line);
 
 // --- parsing ---------------------------------------------------------------------------------------
 

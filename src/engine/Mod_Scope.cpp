@@ -124,28 +124,12 @@ Levels CountLevels(int count) {
         const ClsBBFunkcija* keyword = KeywordAt(i);
         if (keyword == nullptr) continue;
         if (keyword->IsStartScope) levels.opens += keyword->word == Word::Select ? 2 : 1;
-        if (!keyword->IsEndScope) continue;
-        CountEndScope(levels, keyword->word, i, count);
-        // "End Function" is one closing word, and opens nothing.
-        if (keyword->word == Word::End && LightTokens[static_cast<std::size_t>(i) + 1].Kind == TOK_IDENT) ++i;
+        if (keyword->IsEndScope) CountEndScope(levels, keyword->word, i, count);
     }
     return levels;
 }
 
 } // namespace
-
-bool HasMarker(int line, int marker) { return (Mod_Sci::MarkerGet(line) & MaskOf(marker)) != 0; }
-
-void DeleteEvery(int line, int marker) {
-    while (HasMarker(line, marker)) Mod_Sci::MarkerDelete(line, marker);
-}
-
-void MarkMainProgram(int line) {
-    if (!CurrentFunctionName.empty() && CurrentFunctionName != MainProgram)
-        DeleteEvery(line, MarkerMainProgram);
-    else if (!HasMarker(line, MarkerMainProgram))
-        Mod_Sci::MarkerAdd(line, MarkerMainProgram);
-}
 
 std::string CurrentFunction(int line) {
     return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {

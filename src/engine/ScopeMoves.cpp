@@ -2,7 +2,7 @@
 #include "engine/ScopeMoves.h"
 
 #include "engine/DocumentRecord.h"
-#include "engine/Mod_Parse.h"
+#include "engine/Markers.h"
 #include "sci/Mod_Sci.h"
 
 namespace Mod_Parse {

@@ -11,6 +11,9 @@
 
 Symbol* FoundItem = nullptr;
 
+ClsFunkcija::ClsFunkcija() : Locals(std::make_shared<clsHash>()) {}
+ClsType::ClsType() : Fields(std::make_shared<clsHash>()) {}
+
 namespace {
 
 constexpr std::size_t HashedCharacters = 22;

@@ -49,7 +49,8 @@ Result Guarded(std::string_view procName, std::string_view moduleName, Result fa
 }
 
 // The same for a body without a result.
-template <class Body> void Guarded(std::string_view procName, std::string_view moduleName, Body&& body) {
+template <class Body>
+void Guarded(std::string_view procName, std::string_view moduleName, Body&& body) {
     try {
         body();
     } catch (...) {

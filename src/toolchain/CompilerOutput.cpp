@@ -12,11 +12,13 @@
 #include "host/Host.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
-#include "toolchain/Mod_Compiler.h"
 #include "toolchain/ToolchainCalls.h"
 
 #include <array>
 #include <charconv>
+
+bool Mod_Compiler::gCreatingExe = false;
+std::string Mod_Compiler::gTargetExe;
 
 namespace {
 

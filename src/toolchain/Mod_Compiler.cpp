@@ -21,8 +21,6 @@ ToolchainCalls gToolchainCalls;
 namespace Mod_Compiler {
 
 std::string gLastCompiledFile;
-bool gCreatingExe = false;
-std::string gTargetExe;
 
 namespace {
 

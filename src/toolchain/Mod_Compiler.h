@@ -2,23 +2,19 @@
 // caret on its error.
 #pragma once
 
+#include "toolchain/CompilerOutput.h"
+
 #include <string>
 
 namespace Mod_Compiler {
 
-// The path argument of the last Compile; the executable being built and whether one is. Written by
-// Compile, CheckForErrors and CreateExe alone.
+// The path argument of the last Compile. Written by Compile alone.
 extern std::string gLastCompiledFile;
-extern bool gCreatingExe;
-extern std::string gTargetExe;
 
 // Each starts the compiler for the active document or project and answers false; output comes later.
 bool Compile(const std::string& path, bool debug);
 bool CheckForErrors(const std::string& path);
 bool CreateExe(const std::string& path);
-
-// Reads one error line of the compiler, opens its file, selects the place and shows the message.
-void ParseError(const std::string& line);
 
 // Has a compiler write its keyword file and loads it.
 void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath);

@@ -15,7 +15,6 @@
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/Mod_MenuCommands.h"
 #include "workbench/frmOutput.h"
 
 frmMain& frmMain::Instance() {
@@ -104,10 +103,6 @@ void frmMain::SetPositionText(const std::string& text) {
 
 void frmMain::SetFunctionText(const std::string& text) {
     if (functions_) functions_->SetText(text);
-}
-
-void frmMain::DS_CommandClick(DockCommand& command, int item) {
-    Guarded("DS_CommandClick", "frmMain", [&] { Mod_MenuCommands::Route(command, item); });
 }
 
 void frmMain::DS_ComboTextChanged(DockCommand&) {}

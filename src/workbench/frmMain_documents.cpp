@@ -1,10 +1,11 @@
-// What happens when a document window comes to the front, is clicked, or closes.
+// What happens when a document window comes to the front, is clicked, or closes, and when a command is
+// chosen.
 #include "workbench/frmMain.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
-#include "editor/cSubclass.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
@@ -118,4 +119,8 @@ void frmMain::DS_DocumentWindowContextClick(DocumentWindow& window, int place, i
             gHost.dock->ShowPopup("TabsContextMenu");
         }
     });
+}
+
+void frmMain::DS_CommandClick(DockCommand& command, int item) {
+    Guarded("DS_CommandClick", "frmMain", [&] { Mod_MenuCommands::Route(command, item); });
 }

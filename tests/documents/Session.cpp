@@ -1,4 +1,5 @@
 // The program up to its documents on a platform for tests.
+#include "documents/CompilerRegistry.h"
 #include "documents/Session.h"
 
 #include "documents/DocumentCalls.h"

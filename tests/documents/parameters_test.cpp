@@ -1,4 +1,5 @@
 // The block of comment lines behind a source: what is written, what is read, and what it must never touch.
+#include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Session.h"

@@ -1,4 +1,5 @@
 // The start: one instance, the load sequence, compilers, settings, and the place of the window.
+#include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"

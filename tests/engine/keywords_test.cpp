@@ -1,4 +1,5 @@
 // Reading a vocabulary: one definition, the flags of the structure words, and files that are refused.
+#include "engine/ClsCompiler.h"
 #include "engine/KeywordReader.h"
 #include "engine/fixture/SourceTest.h"
 #include "host/Failure.h"

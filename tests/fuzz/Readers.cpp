@@ -1,6 +1,7 @@
 // The readers of foreign bytes on one session that all inputs share.
 #include "Readers.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Mod_Project.h"

@@ -1,6 +1,7 @@
 // Setting up and taking down the floors without a window.
 #include "HeadlessHost.h"
 
+#include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"

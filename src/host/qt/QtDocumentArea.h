@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-class QtDocumentArea : public QStackedWidget {
+class QtDocumentArea : public QStackedWidget, public DocumentWindowOwner {
     Q_OBJECT
 
 public:
@@ -24,17 +24,14 @@ public:
 
     // Gives it a tab, without making it the active window.
     void Show(QtDocumentWindow& window);
-    // Asks first; the window may be gone when this returns.
-    void Hide(QtDocumentWindow& window);
-    void Activate(QtDocumentWindow& window);
+    void Hide(QtDocumentWindow& window) override;
+    void Activate(QtDocumentWindow& window) override;
     void NextTab(int step);
     void NewTabGroup(bool vertical);
 
-    TabGroup* GroupOf(QWidget* page) const;
+    TabGroup* GroupOf(QWidget* page) const override;
     void SetStartPage(QWidget* page);
-    void CaptionsChanged() { emit Changed(); }
-
-    DockStudioEvents* events = nullptr; // written by the frame alone
+    void CaptionsChanged() override { emit Changed(); }
 
 signals:
     // Windows came or went, or a caption is another.

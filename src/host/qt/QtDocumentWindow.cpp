@@ -2,7 +2,6 @@
 #include "host/qt/QtDocumentWindow.h"
 
 #include "host/Paths.h"
-#include "host/qt/QtDocumentArea.h"
 #include "host/qt/QtText.h"
 #include "host/qt/TabGroup.h"
 
@@ -14,7 +13,7 @@ namespace {
 constexpr int InsideDocument = 1;
 }
 
-QtDocumentWindow::QtDocumentWindow(QtDocumentArea& area, std::string key, std::string caption)
+QtDocumentWindow::QtDocumentWindow(DocumentWindowOwner& area, std::string key, std::string caption)
     : area_(area), key_(std::move(key)), caption_(std::move(caption)), page_(new QWidget) {
     auto* layout = new QVBoxLayout(page_);
     layout->setContentsMargins(0, 0, 0, 0);

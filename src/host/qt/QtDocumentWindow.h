@@ -6,12 +6,25 @@
 #include <QPointer>
 #include <QWidget>
 
-class QtDocumentArea;
+class QtDocumentWindow;
 class TabGroup;
+
+// The area that a document window stands in, as the window sees it.
+class DocumentWindowOwner {
+public:
+    virtual ~DocumentWindowOwner() = default;
+    virtual void Activate(QtDocumentWindow& window) = 0;
+    // Asks first; the window may be gone when this returns.
+    virtual void Hide(QtDocumentWindow& window) = 0;
+    virtual TabGroup* GroupOf(QWidget* page) const = 0;
+    virtual void CaptionsChanged() = 0;
+
+    DockStudioEvents* events = nullptr; // written by the frame alone
+};
 
 class QtDocumentWindow : public QObject, public DocumentWindow {
 public:
-    QtDocumentWindow(QtDocumentArea& area, std::string key, std::string caption);
+    QtDocumentWindow(DocumentWindowOwner& area, std::string key, std::string caption);
     ~QtDocumentWindow() override;
 
     std::string Key() const override { return key_; }
@@ -35,7 +48,7 @@ public:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    QtDocumentArea& area_;
+    DocumentWindowOwner& area_;
     std::string key_;
     std::string caption_;
     Form* form_ = nullptr;

@@ -1,0 +1,23 @@
+// From a file's bytes to a parsed document in a window: the steps that single files and members share.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class frmDoc;
+
+namespace Mod_File {
+
+// A new document with a file's text; null, with the reason, when it cannot be read.
+std::shared_ptr<frmDoc> ReadDocument(const std::string& path, std::string& reason);
+// Parses the active document's lines with nothing listening, and then starts listening. No change of the text
+// enters the undo history.
+void ParseUnheard(frmDoc& document, const std::function<void()>& parse);
+// Puts a document into its window, which a layout may have brought back (`documentWindow`), and shows it.
+void BindWindow(frmDoc& document, bool documentWindow);
+
+// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message.
+bool OpenProjectsFile(const std::string& path, bool documentWindow = false);
+
+} // namespace Mod_File

@@ -1,0 +1,29 @@
+// The event pipeline as its document sees it.
+#pragma once
+
+#include "host/EditorView.h"
+
+#include <memory>
+
+class frmDoc;
+
+// An undo action is open; written by OpenUndoGroup and CloseUndoGroup. A user's edit happened since the last
+// SCN_UPDATEUI. A long change put up the wait cursor. Both written by the pipeline.
+extern bool gUndoGroupOpen;
+extern bool gUserEdited;
+extern bool gWaitCursor;
+
+// Begins an undo action in the active view. It ends at that view's next SCN_UPDATEUI, when its document is
+// left, or when another view begins one: ending it in a view that has none open would end the program.
+void OpenUndoGroup();
+void CloseUndoGroup(std::intptr_t view);
+
+class Pipeline : public EditorViewEvents {
+public:
+    // Parses what waits without a caret move, and ends an open undo group: before a project is loaded, before
+    // leaving a document. Another document may be the active one already.
+    virtual void DeactivateCheck() = 0;
+};
+
+// The pipeline of a new document.
+std::unique_ptr<Pipeline> MakePipeline(frmDoc& document);
