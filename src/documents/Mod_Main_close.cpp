@@ -3,6 +3,7 @@
 
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_Project.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/Desktop.h"
@@ -101,6 +102,9 @@ void QueryUnload(bool& cancel) {
             cancel = true;
             return;
         }
+        // As on closing it: a project is saved without being asked for.
+        for (const auto& entry : gProjects)
+            if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
         const WindowPlace place = gHost.dock->Place();
         if (place.state != Minimised) {
             // The place is kept even where the arrangement cannot be written.

@@ -2,6 +2,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
+#include "documents/Mod_Project.h"
 #include "documents/Session.h"
 #include "engine/ClsProject.h"
 #include "sci/Mod_Sci.h"
@@ -91,6 +92,16 @@ TEST_F(CloseTest, TheStepsOfTheEndComeInTheirOrder) {
     EXPECT_FALSE(Cancelled());
     EXPECT_EQ(steps, std::vector<std::string>{"find"});
     EXPECT_FALSE(session.host.instances.receive); // nobody can hand over any more
+}
+
+TEST_F(CloseTest, AChangedProjectIsWrittenAtTheEnd) {
+    const std::string path =
+        session.host.Put("game.zpf", "[Zolto Project file]\r\n<Settings>\r\n</Settings>\r\n");
+    ASSERT_TRUE(Mod_Project::LoadProject(path));
+    gProjects.Item(path)->CommandLine = "-fast";
+    gProjects.Item(path)->Dirty = true;
+    EXPECT_FALSE(Cancelled());
+    EXPECT_NE(session.Bytes(path).find(" CommandLine=\"-fast\"\r\n"), std::string::npos);
 }
 
 TEST_F(CloseTest, ThePlaceIsKeptAsFarAsTheWindowHadOne) {
