@@ -2,6 +2,7 @@
 // goes wrong in it is told in a message.
 #include "workbench/frmError.h"
 
+#include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
@@ -105,6 +106,7 @@ bool SomethingPaints() {
 }
 
 void RunDialog() {
+    gHost.desktop->LockWindowUpdate(false); // it stands over a window that paints
     QWidget* parent = QApplication::activeModalWidget();
     frmError dialog(parent ? parent : MainWindow());
     dialog.exec();

@@ -13,7 +13,11 @@
 
 namespace {
 
+// The window that a question stands over. Whoever froze its painting gets on without: a question over a
+// window that shows nothing would frighten people.
 QWidget* Parent() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (!window->updatesEnabled()) window->setUpdatesEnabled(true);
     if (QWidget* active = QApplication::activeModalWidget()) return active;
     return QApplication::activeWindow();
 }
