@@ -30,6 +30,7 @@ bool OnlyLf(std::string_view text) {
 void LoadText(frmDoc& document, const std::string& bytes) {
     const std::intptr_t view = document.SciEdi_WndData;
     document.LfEnds = OnlyLf(std::string_view(bytes).substr(0, bytes.find("\r\n;~Zolto Editor Parameters:")));
+    document.MayHaveParameters = bytes.find(";~") != std::string::npos;
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
     Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,

@@ -137,7 +137,7 @@ std::string GetFileParameters() {
 
 void CheckFileParameters() {
     Guarded("CheckFileParameters", "Mod_File", [&] {
-        const auto header = FindHeader();
+        const auto header = gActiveDoc->MayHaveParameters ? FindHeader() : -1;
         if (header < 0) {
             Coloring = false;
             return;

@@ -40,7 +40,8 @@ struct DocumentRecord {
     std::string CompilerUsed;
     bool NewFile = false;
     bool IsSnippet = false;
-    bool LfEnds = false; // the file that was read had only LF line ends
+    bool LfEnds = false;           // the file that was read had only LF line ends
+    bool MayHaveParameters = true; // false when the file that was read surely had no parameter block
     std::string m_strDocumentWindowID;
     PipelineState State;
 };
