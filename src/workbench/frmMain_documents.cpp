@@ -9,6 +9,9 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "engine/Mod_Parse.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
@@ -60,12 +63,21 @@ void frmMain::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
 
 void frmMain::ActivateDocument(frmDoc& document) {
     MakeActive(&document);
+    // What the last document left behind says nothing of this one.
+    Coloring = false;
+    ACForced = false;
+    CurrentFunctionName.clear();
+    CurrentTypeName.clear();
     document.State.mOldStartLine = -100;
     document.State.mJustActivated = true;
     if (gCurrentProject) {
         TakeCompilerOf(document, *gCurrentProject);
         SetBox("cboCompilers", gCurrentProject->Compiler);
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
+    }
+    if (OptionsEdit::ShowCurrentFunction) {
+        const auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
+        SetFunctionText(Mod_Parse::CurrentFunctionForDisplay(static_cast<int>(line)));
     }
     ShowProgressPane(false);
     UpdateCommandUI();

@@ -113,7 +113,9 @@ long long QtFiles::Size(const std::string& path) {
 }
 
 void QtFiles::OpenWithDesktop(const std::string& path) {
-    if (!Exists(path)) FailWith(ENOENT, path);
+    constexpr int NoAssociation = static_cast<int>(0x80040418) + 31;
+    constexpr const char* Source = "zolto.GShell";
+    if (!Exists(path)) throw Failure(FailureFileNotFound, "File not found", Source);
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(PathText(path))))
-        throw Failure(FailureFileAccess, path + ": the desktop has no program that opens it");
+        throw Failure(NoAssociation, "No application is associated with this file type.", Source);
 }
