@@ -2,6 +2,7 @@
 // all of them. What an edit does stands in cSubclass_edit.cpp.
 #include "editor/cSubclass.h"
 
+#include "editor/CharAdded.h"
 #include "editor/EditorCalls.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
@@ -75,6 +76,7 @@ void cSubclass::Dispatch(const SciNotification& notification) {
     case SCN_MARGINCLICK: MarginClick(notification); break;
     case SCN_MODIFIED: Modified(notification); break;
     case SCN_UPDATEUI: UpdateUi(); break;
+    case SCN_CHARADDED: CharAdded(notification.ch); break;
     default: break;
     }
 }

@@ -2,6 +2,7 @@
 // leaves it, and parsed again in the same turn. The order is always take back, change, parse.
 #include "editor/cSubclass.h"
 
+#include "editor/BraceHighlight.h"
 #include "editor/EditorCalls.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
@@ -240,6 +241,7 @@ void cSubclass::UpdateUi() {
         mFrmDoc.Callback_OldLine = line;
     }
     State().mForceColor = false;
+    if (OptionsEdit::HighlightMatchedBraces) HighlightBraces(Mod_Sci::GetCurrentPos());
     if (gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
 }
 

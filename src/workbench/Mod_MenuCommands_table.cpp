@@ -62,8 +62,7 @@ void ToggleFold(const Click&) {
 void NewLine(const Click&) {
     if (!DocumentActive()) return;
     Mod_Sci::AutoCCancel();
-    gUndoGroupOpen = true;
-    Mod_Sci::BeginUndoAction();
+    OpenUndoGroup();
     Mod_Sci::NewLine();
 }
 

@@ -1,0 +1,110 @@
+// The new line's indentation where only the line above gives it, and "name++" written out.
+#include "editor/CharAdded.h"
+
+#include "engine/DocumentRecord.h"
+#include "engine/LineStyles.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/Mod_Parse_walk.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "sci/Mod_Sci.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace {
+
+using Mod_Parse::ColoringScope;
+
+constexpr int LikeLineAbove = 1; // AutoIndentType
+
+std::uint8_t CharAt(std::intptr_t position) {
+    return static_cast<std::uint8_t>(Mod_Sci::GetCharAt(position));
+}
+
+bool IsName(std::uint8_t ch) { return IsIdChar[ch] || IsNameSuffix[ch]; }
+
+// A place that no value can be added to.
+bool IsNoVariable(std::intptr_t position) {
+    static constexpr std::array styles{STYLE_Comment,  STYLE_Keyword,  STYLE_Number,   STYLE_String,
+                                       STYLE_Comment2, STYLE_Function, STYLE_Constant, STYLE_Label};
+    return std::find(styles.begin(), styles.end(), Mod_Sci::GetStyleAt(position)) != styles.end();
+}
+
+// Stands on a closing bracket; answers the place in front of its partner, or `lineStart` - 1 without one.
+std::intptr_t InFrontOfBrackets(std::intptr_t close, std::intptr_t lineStart) {
+    int depth = 0;
+    for (auto at = close; at >= lineStart; --at) {
+        const std::uint8_t ch = CharAt(at);
+        if (ch == ')' || ch == ']') ++depth;
+        if ((ch == '(' || ch == '[') && --depth == 0) return at - 1;
+    }
+    return lineStart - 1;
+}
+
+// The place in front of what the signs at `scan` + 1 change; -1 when that is no statement of its own.
+std::intptr_t InFrontOfTarget(std::intptr_t scan, std::intptr_t lineStart) {
+    for (;;) {
+        if (scan < lineStart || IsNoVariable(scan)) return -1;
+        while (scan >= lineStart && IsName(CharAt(scan))) --scan;
+        if (scan < lineStart) return scan;
+        if (CharAt(scan) != ')' && CharAt(scan) != ']') break;
+        scan = InFrontOfBrackets(scan, lineStart);
+        if (scan >= lineStart && IsBlank[CharAt(scan)]) --scan;
+        if (scan < lineStart || !IsName(CharAt(scan))) return -1;
+    }
+    return IsOperator[CharAt(scan)] ? -1 : scan;
+}
+
+void LikeAbove() {
+    const auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
+    if (line == 0) return;
+    const auto indent = Mod_Sci::GetLineIndentation(line - 1);
+    if (indent <= 0) return;
+    const ColoringScope own;
+    Mod_Sci::SetLineIndentation(line, indent);
+    Mod_Sci::GotoPos(Mod_Sci::GetLineIndentPosition(line));
+}
+
+// Turns "name++" into "name=name+1". `pos`: the second sign.
+void ExpandPlusPlus(std::intptr_t pos, char ch) {
+    const auto lineStart = Mod_Sci::PositionFromLine(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
+    auto targetEnd = pos - 1;
+    auto scan = pos - 2;
+    if (scan >= lineStart && IsBlank[CharAt(scan)]) targetEnd = scan--;
+    const auto front = InFrontOfTarget(scan, lineStart);
+    if (front < 0 && lineStart > 0) return;
+    if (front < lineStart - 1) return;
+    const std::string target = Mod_Sci::GetTextRange(front + 1, targetEnd);
+    if (target.empty()) return;
+    Mod_Sci::ReplaceRange(targetEnd, pos + 1, "=" + target + ch + "1");
+    Mod_Sci::GotoPos(pos + static_cast<std::intptr_t>(target.size()) + 2);
+}
+
+// The one character of a line end that stands for it: the CR, or an LF that has none.
+bool EndsLine(int ch) { return ch == '\r' || (ch == '\n' && CharAt(Mod_Sci::GetCurrentPos() - 2) != '\r'); }
+
+} // namespace
+
+void CharAdded(int ch) {
+    PipelineState& state = gActiveDoc->State;
+    ACForced = true;
+    const auto byte = static_cast<std::uint8_t>(ch);
+    if (IsIdChar[byte]) {
+        state.mSpaceTyped = false;
+        return;
+    }
+    if (EndsLine(ch)) {
+        if (OptionsEdit::AutoIndentType == LikeLineAbove) LikeAbove();
+    } else if (ch == ' ') {
+        state.mShowCallTip = true;
+        state.mSpaceTyped = true;
+    } else if (ch == '(' || ch == ',') {
+        state.mShowCallTip = true;
+    } else if ((ch == '+' || ch == '-') && OptionsEdit::ReplaceVarPlusPlus) {
+        const auto pos = Mod_Sci::GetCurrentPos() - 1;
+        if (pos > 0 && CharAt(pos - 1) == byte) ExpandPlusPlus(pos, static_cast<char>(ch));
+    }
+}
