@@ -36,6 +36,14 @@ void BeginLongChange() {
     gWaitCursor = true;
 }
 
+// Whether the text that comes in is told and ends a line: behind it, near the document's end, there need be
+// no other line to see that by.
+bool HasLineEnd(const SciNotification& notification) {
+    if (notification.text == nullptr) return false;
+    const std::string_view text(notification.text, static_cast<std::size_t>(notification.length));
+    return text.find_first_of("\r\n") != std::string_view::npos;
+}
+
 std::intptr_t undoGroupView = 0; // where the open undo action was begun
 
 } // namespace
@@ -148,7 +156,7 @@ void cSubclass::GroupTyping(const SciNotification& notification) {
 void cSubclass::BeforeInsert(const SciNotification& notification, int start, int end) {
     if (!State().mLastOperationUndoRedo) {
         GroupTyping(notification);
-        if (end > start) OpenUndoGroup();
+        if (end > start || HasLineEnd(notification)) OpenUndoGroup();
     }
     if (State().UnparsedLine >= 0 && State().UnparsedLine != start) TakeBackEditedLine(true);
     if (State().UnparsedLine < 0 && HasMarker(start, MarkerParsed)) Snapshot(start);

@@ -21,10 +21,11 @@ QAccessibleInterface* PlainObject(const QString&, QObject* object) {
 class DropPlainObjects : public QAccessible::ActivationObserver {
 public:
     void accessibilityActiveChanged(bool active) override {
-        if (!active) return;
         for (QWidget* widget : QApplication::allWidgets()) {
             auto* view = qobject_cast<EditorWidget*>(widget);
             if (!view) continue;
+            view->AccessibilityChanged();
+            if (!active) continue;
             if (QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(view))
                 QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(plain));
         }

@@ -1,6 +1,7 @@
 // The edit control as this program uses it.
 #include "host/qt/EditorWidget.h"
 
+#include "host/qt/NotificationCodes.h"
 #include "host/qt/QtText.h"
 
 #include <QApplication>
@@ -9,22 +10,6 @@
 #include <QMimeData>
 
 namespace {
-
-// The notification codes of the edit control, by which the pipeline knows them.
-enum : int {
-    StyleNeeded = 2000,
-    CharAdded = 2001,
-    SavePointReached = 2002,
-    SavePointLeft = 2003,
-    DoubleClick = 2006,
-    UpdateUi = 2007,
-    Modified = 2008,
-    MarginClick = 2010,
-    NeedShown = 2011,
-    Painted = 2013,
-    AutoCSelection = 2022,
-    AutoCCancelled = 2025,
-};
 
 constexpr int Utf8CodePage = 65001;
 
@@ -37,7 +22,10 @@ std::vector<std::string> LocalFiles(const QMimeData* dropped) {
 
 }
 
-EditorWidget::EditorWidget(QWidget* parent) : QsciScintillaBase(parent) {
+EditorWidget::EditorWidget(QWidget* parent)
+    : QsciScintillaBase(parent), changes_(*this, [this](const SciNotification& notification) {
+          if (events_) events_->OnNotify(notification);
+      }) {
     setAccessibleName(tr("Source text"));
     setFrameShape(QFrame::NoFrame);
     SendScintilla(SCI_SETCODEPAGE, 0UL);
@@ -50,8 +38,10 @@ EditorWidget::EditorWidget(QWidget* parent) : QsciScintillaBase(parent) {
 
 bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf8CodePage; }
 
-void EditorWidget::Notify(const SciNotification& notification) {
-    if (events_) events_->OnNotify(notification);
+void EditorWidget::Notify(const SciNotification& notification) { changes_.Take(notification); }
+
+QByteArray EditorWidget::InDocument(const QString& text) const {
+    return IsUtf8() ? text.toUtf8() : text.toLatin1();
 }
 
 void EditorWidget::ConnectNotifications() {
@@ -78,8 +68,6 @@ void EditorWidget::ConnectNotifications() {
                 Notify({.code = AutoCSelection, .position = position, .ch = ch, .text = text});
             });
     connect(this, &Base::SCN_AUTOCCANCELLED, this, [this] { Notify({.code = AutoCCancelled}); });
-    // The after-change notifications come this way too. Their library's own work for screen readers hangs
-    // on the modification mask, and a view that narrows the mask hands those two on from here as well.
     connect(this, &Base::SCN_MODIFIED, this,
             [this](int position, int type, const char* text, int length, int linesAdded, int line,
                    int foldNow, int foldBefore, int, int) {
@@ -105,10 +93,14 @@ bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return
 
 QByteArray EditorWidget::fromMimeData(const QMimeData* source, bool& rectangular) const {
     QByteArray bytes = QsciScintillaBase::fromMimeData(source, rectangular);
-    if (IsUtf8() || !source->hasText()) return bytes;
     std::string single;
     // The library writes "?" for what its narrower code page lacks.
-    if (FromUtf8ToSingleBytes(Typed(source->text()), single)) return QByteArray::fromStdString(single);
+    if (!IsUtf8() && source->hasText() && FromUtf8ToSingleBytes(Typed(source->text()), single))
+        bytes = QByteArray::fromStdString(single);
+    // The line ends that the library would make of the pasted ones.
+    bytes.replace("\r\n", "\n").replace('\r', '\n');
+    if (SendScintilla(SCI_GETEOLMODE) == SC_EOL_CRLF) bytes.replace("\n", "\r\n");
+    changes_.Insert(bytes);
     return bytes;
 }
 
@@ -148,12 +140,23 @@ void EditorWidget::keyPressEvent(QKeyEvent* event) {
     if (menuKey && !text.isEmpty() && text.front().isPrint()) return event->ignore();
     const bool beyondLatin1 =
         std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
-    if (IsUtf8() || !beyondLatin1) return QsciScintillaBase::keyPressEvent(event);
+    if (IsUtf8() || !beyondLatin1) {
+        const ChangeEvents::Inserting typed(changes_, InDocument(text));
+        return QsciScintillaBase::keyPressEvent(event);
+    }
     std::string bytes;
     // A question mark in place of what was typed would be a silent loss.
     if (!FromUtf8ToSingleBytes(Typed(text), bytes)) return QApplication::beep();
-    SendScintilla(SCI_REPLACESEL, bytes.c_str());
+    {
+        const ChangeEvents::Inserting typed(changes_, QByteArray::fromStdString(bytes));
+        SendScintilla(SCI_REPLACESEL, bytes.c_str());
+    }
     for (const char c : bytes) Notify({.code = CharAdded, .ch = static_cast<unsigned char>(c)});
+}
+
+void EditorWidget::inputMethodEvent(QInputMethodEvent* event) {
+    const ChangeEvents::Inserting typed(changes_, InDocument(event->commitString()));
+    QsciScintillaBase::inputMethodEvent(event);
 }
 
 #include "moc_EditorWidget.cpp"

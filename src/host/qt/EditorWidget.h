@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/EditorView.h"
+#include "host/qt/ChangeEvents.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -14,6 +15,8 @@ public:
 
     void SetEvents(EditorViewEvents* events) { events_ = events; }
     bool IsUtf8() const;
+    // Assistive technology began or ended.
+    void AccessibilityChanged() { changes_.ApplyMask(); }
 
 protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -24,10 +27,14 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
     void ConnectNotifications();
     void Notify(const SciNotification& notification);
 
+    QByteArray InDocument(const QString& text) const;
+
     EditorViewEvents* events_ = nullptr;
+    mutable ChangeEvents changes_;
 };

@@ -25,8 +25,8 @@ std::intptr_t QtEditorView::DirectPointer() {
 }
 
 SciDirectFunction QtEditorView::DirectFunction() {
-    return reinterpret_cast<SciDirectFunction>(
-        widget_->SendScintilla(QsciScintillaBase::SCI_GETDIRECTFUNCTION));
+    return ChangeEvents::DirectFunction(reinterpret_cast<SciDirectFunction>(
+        widget_->SendScintilla(QsciScintillaBase::SCI_GETDIRECTFUNCTION)));
 }
 
 void QtEditorView::SetEvents(EditorViewEvents* events) { widget_->SetEvents(events); }
