@@ -13,7 +13,10 @@ constexpr std::intptr_t SCLEX_BLITZBASIC_ = 66;
 
 } // namespace
 
-BareView::BareView() : view_(gHost.views->Create()) { Send(SCI_SETLEXER_, SCLEX_BLITZBASIC_); }
+BareView::BareView() : view_(gHost.views->Create()) {
+    Send(SCI_SETMODEVENTMASK, 0);
+    Send(SCI_SETLEXER_, SCLEX_BLITZBASIC_);
+}
 
 std::intptr_t BareView::Send(unsigned message, std::intptr_t wParam, std::intptr_t lParam) {
     return view_->DirectFunction()(view_->DirectPointer(), message, static_cast<std::uintptr_t>(wParam),

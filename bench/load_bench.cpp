@@ -1,7 +1,6 @@
 // Loading: from bytes on disk to a parsed document with its first screen coloured.
 #include "Floor.h"
-#include "HeadlessHost.h"
-#include "SourceGenerator.h"
+#include "Source.h"
 #include "documents/Mod_File.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -18,26 +17,11 @@ namespace {
 
 constexpr int ScreenLines = 60;
 
-std::string Source(int lines) {
-    generator::GeneratorOptions options;
-    options.lines = lines;
-    return generator::generate(options);
-}
-
-std::string FileOf(int lines) {
-    const std::string path =
-        (std::filesystem::temp_directory_path() / ("zolto_bench_" + std::to_string(lines) + ".bb")).string();
-    gHost.files->Write(path, Source(lines));
-    return path;
-}
-
 void ColourScreen(int first) {
     CurrentFunctionName.clear();
     CurrentTypeName.clear();
     for (int line = first; line < first + ScreenLines; ++line) Mod_Parse::ColorLineLight(line, true);
 }
-
-void CloseActive() { gHost.dock->FindDocumentWindow(gActiveDoc->m_strDocumentWindowID)->SetVisible(false); }
 
 void Floor_Load(benchmark::State& state) {
     const std::string text = Source(static_cast<int>(state.range(0)));
@@ -81,11 +65,3 @@ BENCHMARK(Floor_Screen)->Arg(52000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Screen)->Arg(52000)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    HeadlessHost host(ZOLTO_APPDIR);
-    host.Load();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -6,6 +6,7 @@
 #include <memory>
 
 class frmDoc;
+struct DocumentRecord;
 
 // An undo action is open; written by OpenUndoGroup and CloseUndoGroup. A user's edit happened since the last
 // SCN_UPDATEUI. A long change put up the wait cursor. Both written by the pipeline.
@@ -16,7 +17,7 @@ extern bool gWaitCursor;
 // Begins an undo action in the active view. It ends at that view's next SCN_UPDATEUI, when its document is
 // left, or when another view begins one: ending it in a view that has none open would end the program.
 void OpenUndoGroup();
-void CloseUndoGroup(std::intptr_t view);
+void CloseUndoGroup(DocumentRecord* document);
 
 class Pipeline : public EditorViewEvents {
 public:

@@ -45,4 +45,7 @@ private:
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
+    // All lines that wait lie between these two.
+    int queuedFrom_ = 0;
+    int queuedTo_ = -1;
 };

@@ -44,22 +44,24 @@ bool HasLineEnd(const SciNotification& notification) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
-std::intptr_t undoGroupView = 0; // where the open undo action was begun
+DocumentRecord* undoGroupDocument = nullptr; // where the open undo action was begun
 
 } // namespace
 
 void OpenUndoGroup() {
-    if (gUndoGroupOpen && undoGroupView == SciWndData) return;
-    CloseUndoGroup(undoGroupView);
+    if (gUndoGroupOpen && undoGroupDocument == gActiveDoc) return;
+    CloseUndoGroup(undoGroupDocument);
     Mod_Sci::BeginUndoAction();
     gUndoGroupOpen = true;
-    undoGroupView = SciWndData;
+    gActiveDoc->State.UndoGroup = true;
+    undoGroupDocument = gActiveDoc;
 }
 
-void CloseUndoGroup(std::intptr_t view) {
-    if (!gUndoGroupOpen || undoGroupView != view) return;
+void CloseUndoGroup(DocumentRecord* document) {
+    if (!gUndoGroupOpen || undoGroupDocument != document) return;
     gUndoGroupOpen = false;
-    Mod_Sci::SendTo(view, SCI_ENDUNDOACTION);
+    document->State.UndoGroup = false;
+    Mod_Sci::SendTo(document->SciEdi_WndData, SCI_ENDUNDOACTION);
 }
 
 void cSubclass::Snapshot(int line) {
@@ -69,6 +71,12 @@ void cSubclass::Snapshot(int line) {
 }
 
 void cSubclass::Queue(int line) {
+    if (State().ParseNeeded.empty()) {
+        queuedFrom_ = line;
+        queuedTo_ = line;
+    }
+    queuedFrom_ = std::min(queuedFrom_, line);
+    queuedTo_ = std::max(queuedTo_, line);
     State().ParseNeeded.push_back(static_cast<int>(Mod_Sci::MarkerAdd(line, MarkerQueued)));
 }
 
@@ -119,6 +127,8 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
             Snapshot(start);
         }
     }
+    // What waits below the lines that go moves up.
+    queuedFrom_ = std::min(queuedFrom_, start);
     for (int line = start + 1; line <= end; ++line) {
         if (HasMarker(line, MarkerParsed))
             UnparseLine(line, false);
@@ -166,6 +176,7 @@ void cSubclass::BeforeInsert(const SciNotification& notification, int start, int
 void cSubclass::AfterInsert(const SciNotification& notification) {
     const int line = LineOf(notification.position);
     if (notification.linesAdded > 0) {
+        queuedTo_ += static_cast<int>(notification.linesAdded);
         if (notification.linesAdded > LongChange) BeginLongChange();
         // Opens a fold into which a paste went.
         ShowLine(LineOf(notification.position - 1) + static_cast<int>(notification.linesAdded) + 1);
@@ -203,11 +214,15 @@ std::vector<int> cSubclass::TakeQueue() {
     // The line that is left when the whole text has gone waits without a marker.
     if (State().UnparsedLine < 0 && !HasMarker(0, MarkerParsed) && !HasMarker(0, MarkerQueued))
         lines.push_back(0);
-    for (const int handle : State().ParseNeeded)
-        if (const auto line = Mod_Sci::MarkerLineFromHandle(handle); line >= 0)
-            lines.push_back(static_cast<int>(line));
+    // By the marker and not by the handles: a handle is asked for with a walk over all lines. One whose line
+    // was deleted has none.
+    const auto waiting = State().ParseNeeded.size() + lines.size();
+    for (int line = queuedFrom_; lines.size() < waiting && line <= queuedTo_; ++line) {
+        line = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(MarkerQueued)));
+        if (line < 0) break;
+        lines.push_back(line);
+    }
     State().ParseNeeded.clear();
-    std::sort(lines.begin(), lines.end());
     return lines;
 }
 
@@ -241,7 +256,7 @@ void cSubclass::UpdateUi() {
     if (!State().ParseNeeded.empty()) ParseQueue();
     if (gWaitCursor) EndWaitCursor();
     gWaitCursor = false;
-    CloseUndoGroup(mFrmDoc.SciEdi_WndData);
+    CloseUndoGroup(&mFrmDoc);
     if (line != mFrmDoc.Callback_OldLine) {
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));
@@ -254,7 +269,7 @@ void cSubclass::UpdateUi() {
 }
 
 void cSubclass::ParseWaiting() {
-    CloseUndoGroup(mFrmDoc.SciEdi_WndData);
+    CloseUndoGroup(&mFrmDoc);
     const ColoringScope own;
     if (State().UnparsedLine >= 0) {
         if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);

@@ -19,7 +19,7 @@ frmDoc::frmDoc() {
 
 frmDoc::~frmDoc() {
     View->SetEvents(nullptr);
-    CloseUndoGroup(SciEdi_WndData);
+    CloseUndoGroup(this);
     if (gActiveDoc == this) MakeActive(nullptr);
 }
 

@@ -23,6 +23,7 @@ struct PipelineState {
     bool mJoinPending = false;
     bool mSpaceTyped = false;
     bool mForceColor = false;
+    bool UndoGroup = false; // an undo action is open in the view
 };
 
 struct DocumentRecord {

@@ -76,9 +76,9 @@ void LineParser::Function() {
         if (CurrentFunctionName == MainProgram) {
             const int nextEnd = NextLineWith(line_ + 1, MarkerFunction);
             if (const int local = NextLineWith(line_ + 1, MarkerLocal); local != NoEnd && local <= nextEnd)
-                MoveSymbols(*CurrentLocals, *function->Locals, {line_ + 1, nextEnd});
+                MoveLocals(*CurrentLocals, *function->Locals, {line_ + 1, nextEnd});
         } else {
-            MoveSymbols(*CurrentLocals, *function->Locals, {line_ + 1, NoEnd});
+            MoveLocals(*CurrentLocals, *function->Locals, {line_ + 1, NoEnd});
         }
     }
     gCurrentProject->Funkcii.Add(function->Ime, function);
@@ -136,7 +136,7 @@ void LineParser::EndFunction() {
         if (!ParsingFile) {
             const int nextEnd = NextLineWith(line_ + 1, MarkerFunction);
             if (const int local = NextLineWith(line_, MarkerLocal); local != NoEnd && local <= nextEnd)
-                MoveSymbols(*CurrentLocals, *gCurrentProject->MainFunLocals, {line_ + 1, NoEnd});
+                MoveLocals(*CurrentLocals, *gCurrentProject->MainFunLocals, {line_ + 1, NoEnd});
         }
     }
     // A function that begins and ends here leaves the line where it was.
@@ -174,7 +174,7 @@ void LineParser::Type() {
         if (!gActiveDoc->tmpFields.empty())
             TakeLooseFields(*type->Fields, {line_ + 1, NextLineWith(line_ + 1, MarkerType)});
     } else if (!ParsingFile) {
-        MoveSymbols(*CurrentFields, *type->Fields, {line_ + 1, NoEnd});
+        MoveFields(*CurrentFields, *type->Fields, {line_ + 1, NoEnd});
     }
     gCurrentProject->Types.Add(type->Ime, type);
     CurrentTypeName = type->Ime;

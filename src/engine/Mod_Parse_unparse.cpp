@@ -3,6 +3,7 @@
 
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "engine/DeclaredNames.h"
 #include "engine/DocumentRecord.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
@@ -10,15 +11,16 @@
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace Mod_Parse {
 
 namespace {
 
 using Word = ClsBBFunkcija::Word;
 
-const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
-
-class LineUndo {
+class LineUndo : DeclaredNames {
 public:
     LineUndo(int line, bool sequential) : line_(line), sequential_(sequential) {}
 
@@ -39,13 +41,11 @@ public:
     }
 
 private:
-    bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
-
     void One() {
         const Token& token = At(index_);
         if (token.Kind == '.' && index_ == 1 && NextIsName()) {
             gCurrentProject->LabelsDirty = true;
-            gCurrentProject->Labels.Remove(At(2).Text, line_, SciWndData);
+            Remove(gCurrentProject->Labels, At(2).Text);
             index_ += 2;
             return;
         }
@@ -57,7 +57,7 @@ private:
         }
         const Token& next = At(index_ + 1);
         if (keyword->word == Word::Include && next.Kind == TOK_STRING && !next.Text.empty()) {
-            gCurrentProject->Includes.Remove(next.Text, line_, SciWndData);
+            Remove(gCurrentProject->Includes, next.Text);
             gCurrentProject->IncludesDirty = true;
         } else if (next.Kind == TOK_IDENT) {
             Dispatch(keyword->word);
@@ -90,20 +90,9 @@ private:
             for (const SymbolPointer& local : static_cast<ClsFunkcija&>(*record).Locals->Items())
                 if (local->Handle != record->Handle) CurrentLocals->Add(local->Ime, local);
         }
-        gCurrentProject->Funkcii.Remove(name, line_, SciWndData);
+        Remove(gCurrentProject->Funkcii, name);
         dropFunction_ = true;
         SkipHeader();
-    }
-
-    // A parameter may have a keyword's name; the parser took none of them for one.
-    void SkipHeader() {
-        SkipSuffix();
-        if (index_ > count_ || At(index_).Kind != '(') return;
-        while (NextIsName()) {
-            ++index_;
-            SkipTail('[');
-            if (index_ > count_ || At(index_).Kind != ',') return;
-        }
     }
 
     void End() {
@@ -122,8 +111,8 @@ private:
         if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
         dropFunction_ = true;
         if (CurrentFunctionName == MainProgram) return;
-        MoveSymbols(*gCurrentProject->MainFunLocals, *CurrentLocals,
-                    {line_, NextLineWith(line_ + 1, MarkerFunction)});
+        MoveLocals(*gCurrentProject->MainFunLocals, *CurrentLocals,
+                   {line_, NextLineWith(line_ + 1, MarkerFunction)});
     }
 
     void EndType() {
@@ -146,7 +135,7 @@ private:
                     CurrentFields->Add(field->Ime, field);
             }
         }
-        gCurrentProject->Types.Remove(name, line_, SciWndData);
+        Remove(gCurrentProject->Types, name);
         dropType_ = true;
         ++index_;
     }
@@ -161,84 +150,48 @@ private:
             if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
             dropLocal_ = true;
         }
-        while (NextIsName()) {
-            ++index_;
-            RemoveOne(word, At(index_).Text);
-            SkipTail(word == Word::Dim ? '(' : '[');
-            if (index_ > count_ || At(index_).Kind != ',') return;
-        }
-        ++index_;
+        ForEachName(word == Word::Dim ? '(' : '[', [&](const std::string& name) { RemoveOne(word, name); });
     }
 
     void RemoveOne(Word word, const std::string& name) {
         ClsProject& project = *gCurrentProject;
         switch (word) {
         case Word::Field: RemoveField(name); break;
-        case Word::Local: CurrentLocals->Remove(name, line_, SciWndData); break;
+        case Word::Local: Remove(*CurrentLocals, name); break;
         case Word::Dim:
             project.ArraysDirty = true;
-            project.Arrays.Remove(name, line_, SciWndData);
+            Remove(project.Arrays, name);
             break;
         case Word::Global:
             project.GlobalsDirty = true;
-            project.Globals.Remove(name, line_, SciWndData);
+            Remove(project.Globals, name);
             break;
-        default: project.ConstantsDirty = true; project.Constants.Remove(name, line_, SciWndData);
+        default: project.ConstantsDirty = true; Remove(project.Constants, name);
         }
     }
 
     void RemoveField(const std::string& name) {
         if (!CurrentTypeName.empty()) {
-            CurrentFields->Remove(name, line_, SciWndData);
+            Remove(*CurrentFields, name);
             return;
         }
         auto& loose = gActiveDoc->tmpFields;
-        for (auto at = loose.begin(); at != loose.end(); ++at) {
-            if (at->second->Ime != name || Mod_Sci::MarkerLineFromHandle(at->first) != line_) continue;
+        const auto named = [&](const auto& entry) { return entry.second->Ime == name; };
+        const auto first = std::find_if(loose.begin(), loose.end(), named);
+        if (first == loose.end()) return;
+        // One that has no namesake need not be asked for its line.
+        const bool alone = std::find_if(std::next(first), loose.end(), named) == loose.end();
+        for (auto at = first; at != loose.end(); ++at) {
+            if (!named(*at) || (!alone && Mod_Sci::MarkerLineFromHandle(at->first) != line_)) continue;
             loose.erase(at);
             return;
         }
     }
 
-    // Steps over what hangs on a declared name, as the parser walked it.
-    void SkipTail(char open) {
-        SkipSuffix();
-        if (index_ > count_) return;
-        if (At(index_).Kind == '=' && open == '[') {
-            ++index_;
-            SkipInitialiser();
-        } else if (At(index_).Kind == open) {
-            const char close = open == '(' ? ')' : ']';
-            while (index_ <= count_ && At(index_).Kind != close) ++index_;
-            if (index_ <= count_) ++index_;
-        }
-    }
-
-    void SkipSuffix() {
-        ++index_;
-        if (index_ > count_) return;
-        if (At(index_).Kind == '.') {
-            ++index_;
-            if (index_ <= count_ && At(index_).Kind == TOK_IDENT) ++index_;
-        } else if (SuffixTip[At(index_).Kind] != 0) {
-            ++index_;
-        }
-    }
-
-    void SkipInitialiser() {
-        int depth = 0;
-        for (; index_ < count_; ++index_) {
-            const std::uint8_t kind = At(index_).Kind;
-            if (kind == '(') ++depth;
-            if (kind == ')' && --depth < 0) return;
-            if ((kind == ':' || kind == ',') && depth == 0) return;
-        }
-    }
+    void Remove(clsHash& table, const std::string& name) { table.RemoveDeclaredOn(name, line_, SciWndData); }
 
     int line_;
     bool sequential_;
-    int index_ = 1;
-    int count_ = 0;
     bool dropFunction_ = false;
     bool dropType_ = false;
     bool dropLocal_ = false;

@@ -3,6 +3,7 @@
 
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "engine/DocumentRecord.h"
 #include "engine/EngineCalls.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
@@ -186,6 +187,9 @@ void FixVariableCase(const std::string& spelling, int index, int lineStart) {
         return;
     const std::intptr_t caret = Mod_Sci::GetCurrentPos();
     if (caret >= lineStart + token.StartPos && caret <= lineStart + token.EndPos) return;
+    // Inside an undo action the fix belongs to it: turning the collection off would end the action, and the
+    // one who began it would end one that is not there.
+    if (gActiveDoc->State.UndoGroup) return RewriteToken(spelling, index, lineStart);
     Mod_Sci::SetUndoCollection(0);
     RewriteToken(spelling, index, lineStart);
     Mod_Sci::SetUndoCollection(1);

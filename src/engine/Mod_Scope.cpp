@@ -7,6 +7,7 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/ScopeMoves.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -17,12 +18,6 @@ namespace Mod_Parse {
 namespace {
 
 using Word = ClsBBFunkcija::Word;
-
-// The text that the tables know of a line: that of before the edit while the line is being edited.
-std::string KnownText(int line) {
-    const PipelineState& state = gActiveDoc->State;
-    return line == state.UnparsedLine ? state.UnparsedText : Mod_Sci::LineText(line);
-}
 
 // Scans a line with the light scanner; answers its token count. A line beyond the limits counts as empty.
 int ScanLight(std::string line) {

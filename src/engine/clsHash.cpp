@@ -218,6 +218,15 @@ void clsHash::RemovePoHandle(std::string_view key, int handle) {
     Unlink(key, "RemovePoHandle", [&](const Symbol& symbol) { return symbol.Handle == handle; });
 }
 
+void clsHash::RemoveDeclaredOn(std::string_view key, int line, std::intptr_t view) {
+    const SymbolPointer record = key.empty() ? nullptr : ItemDeclaredOn(key, line, view);
+    Unlink(key, "Remove", [&](const Symbol& symbol) { return &symbol == record.get(); });
+}
+
+void clsHash::RemoveRecord(std::string_view key, const Symbol& record) {
+    Unlink(key, "RemoveRecord", [&](const Symbol& symbol) { return &symbol == &record; });
+}
+
 // The live slots by hash, namesakes oldest first.
 std::vector<int> clsHash::Ordered() const {
     std::vector<int> slots;

@@ -54,6 +54,10 @@ public:
     // Take an entry out. No match is reported as failure 5 and changes nothing; an empty key does nothing.
     void Remove(std::string_view key, int line, std::intptr_t view);
     void RemovePoHandle(std::string_view key, int handle);
+    // For what ItemDeclaredOn finds.
+    void RemoveDeclaredOn(std::string_view key, int line, std::intptr_t view);
+    // For a record in hand: namesakes of other views may have its handle too.
+    void RemoveRecord(std::string_view key, const Symbol& record);
     void RemoveAll() { SetSize(hashSize_, listSize_, chunkSize_); }
 
     int Count() const { return count_; }

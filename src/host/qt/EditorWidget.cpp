@@ -1,6 +1,7 @@
 // The edit control as this program uses it.
 #include "host/qt/EditorWidget.h"
 
+#include "host/qt/EditorAccessibility.h"
 #include "host/qt/NotificationCodes.h"
 #include "host/qt/QtText.h"
 
@@ -26,6 +27,9 @@ EditorWidget::EditorWidget(QWidget* parent)
     : QsciScintillaBase(parent), changes_(*this, [this](const SciNotification& notification) {
           if (events_) events_->OnNotify(notification);
       }) {
+    // Behind the library's own registration, which its first view makes, and in front of all that asks for
+    // this view's object.
+    InstallEditorAccessibility();
     setAccessibleName(tr("Source text"));
     setFrameShape(QFrame::NoFrame);
     SendScintilla(SCI_SETCODEPAGE, 0UL);

@@ -1,7 +1,6 @@
 // The edit control's own widget behind the seam that the editor speaks to.
 #include "host/qt/QtEditorView.h"
 
-#include "host/qt/EditorAccessibility.h"
 #include "host/qt/EditorWidget.h"
 
 namespace {
@@ -9,7 +8,7 @@ constexpr unsigned long SingleBytes = 0;
 constexpr unsigned long Utf8 = 65001;
 }
 
-QtEditorView::QtEditorView() : widget_(new EditorWidget) { InstallEditorAccessibility(); }
+QtEditorView::QtEditorView() : widget_(new EditorWidget) {}
 
 QtEditorView::~QtEditorView() {
     if (!widget_) return;

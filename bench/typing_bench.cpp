@@ -1,0 +1,117 @@
+// Typing: from a key to the tables and the screen, in the middle of a long source. Each figure is the mean of
+// a key; p50, p99 and worst stand beside it, in milliseconds.
+#include "Floor.h"
+#include "Source.h"
+#include "editor/frmDoc.h"
+#include "host/Host.h"
+#include "sci/Mod_Sci.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QKeyEvent>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <numeric>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int Keys = 1000;
+constexpr int Rounds = 3;
+constexpr const char* Typed = "local speed# = abs(12.5 + score)\nplayer = speed * 2 : print \"ready\"\n";
+// A window of one line paints next to nothing; the other is as large as people have it.
+constexpr QSize OneLine(400, 20);
+constexpr QSize Large(1200, 900);
+
+QAbstractScrollArea* Widget(EditorView& view) {
+    return static_cast<QAbstractScrollArea*>(static_cast<QWidget*>(view.NativeWidget()));
+}
+
+void Show(QAbstractScrollArea& widget, QSize size) {
+    widget.resize(size);
+    widget.show();
+    widget.viewport()->repaint();
+    QApplication::processEvents();
+}
+
+// One key as the program gets it, up to the end of the paint that follows.
+double Press(EditorView& view, QAbstractScrollArea& widget, char key, bool whole) {
+    const auto start = Clock::now();
+    if (key == '\n') {
+        view.DirectFunction()(view.DirectPointer(), SCI_NEWLINE, 0, 0);
+    } else {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(key)));
+        QApplication::sendEvent(&widget, &press);
+    }
+    if (whole) widget.viewport()->update();
+    widget.viewport()->repaint();
+    QApplication::processEvents();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+void TypeIn(benchmark::State& state, EditorView& view, long middle, QSize size) {
+    QAbstractScrollArea& widget = *Widget(view);
+    const auto send = [&view](unsigned message, std::uintptr_t w = 0) {
+        return view.DirectFunction()(view.DirectPointer(), message, w, 0);
+    };
+    send(SCI_GOTOPOS,
+         static_cast<std::uintptr_t>(send(SCI_POSITIONFROMLINE, static_cast<std::uintptr_t>(middle))));
+    Show(widget, size);
+    std::vector<double> times;
+    for (auto _ : state) {
+        double total = 0;
+        for (int i = 0; i < Keys; ++i) {
+            times.push_back(
+                Press(view, widget, Typed[static_cast<std::size_t>(i) % std::strlen(Typed)], true));
+            total += times.back();
+        }
+        state.SetIterationTime(total / Keys);
+    }
+    std::sort(times.begin(), times.end());
+    state.counters["p50"] = times[times.size() / 2] * 1000;
+    state.counters["p99"] = times[times.size() * 99 / 100] * 1000;
+    state.counters["worst"] = times.back() * 1000;
+    widget.hide();
+}
+
+void Floor_Typing(benchmark::State& state, QSize size) {
+    BareView view;
+    view.Load(Source(static_cast<int>(state.range(0))));
+    TypeIn(state, view.View(), state.range(0) / 2, size);
+}
+
+void Typing(benchmark::State& state, QSize size) {
+    const OpenSource source(static_cast<int>(state.range(0)));
+    TypeIn(state, *ActiveForm()->View, state.range(0) / 2, size);
+}
+
+BENCHMARK_CAPTURE(Floor_Typing, one_line, OneLine)
+    ->Arg(52000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(Rounds);
+BENCHMARK_CAPTURE(Typing, one_line, OneLine)
+    ->Arg(52000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(Rounds);
+BENCHMARK_CAPTURE(Floor_Typing, repaint, Large)
+    ->Arg(52000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(Rounds);
+BENCHMARK_CAPTURE(Typing, repaint, Large)
+    ->Arg(52000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(Rounds);
+BENCHMARK_CAPTURE(Typing, repaint, Large)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(Rounds);
+
+} // namespace
