@@ -100,6 +100,9 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
 }
 
 void cSubclass::StyleNeeded() {
+    // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
+    // here, or the lines would be painted twice.
+    if (!Coloring && !changing_) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));

@@ -40,11 +40,13 @@ private:
     void GroupTyping(const SciNotification& notification);
     std::vector<int> TakeQueue();
     void ParseQueue();
+    bool ParseEdited();
     void ParseWaiting();
     void JoinLines();
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
+    bool changing_ = false; // a change of the text is being told; the view takes no other one
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

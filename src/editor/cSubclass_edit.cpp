@@ -44,6 +44,18 @@ bool HasLineEnd(const SciNotification& notification) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
+// Raises a flag for as long as it lives.
+class InsideChange {
+public:
+    explicit InsideChange(bool& flag) : flag_(flag) { flag_ = true; }
+    ~InsideChange() { flag_ = false; }
+    InsideChange(const InsideChange&) = delete;
+    InsideChange& operator=(const InsideChange&) = delete;
+
+private:
+    bool& flag_;
+};
+
 DocumentRecord* undoGroupDocument = nullptr; // where the open undo action was begun
 
 } // namespace
@@ -94,6 +106,7 @@ void cSubclass::ShowLine(int line) {
 
 void cSubclass::Modified(const SciNotification& notification) {
     if (Coloring) return;
+    const InsideChange inside(changing_);
     const int type = notification.modificationType;
     State().mLastOperationUndoRedo = (type & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)) != 0;
     if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)) {
@@ -242,21 +255,29 @@ void cSubclass::ParseQueue() {
         expect = line;
         Mod_Sci::MarkerDelete(line, MarkerQueued);
     }
-    mFrmDoc.Redraw();
 }
 
-void cSubclass::UpdateUi() {
+// Brings the tables up to the text: takes back the edited line when the caret has left it and parses what
+// waits. Answers whether anything was parsed.
+bool cSubclass::ParseEdited() {
     if (State().mJoinPending) JoinLines();
-    const int line = LineOf(Mod_Sci::GetCurrentPos());
-    gUserEdited = false;
-    if (State().UnparsedLine >= 0 && State().UnparsedLine != line) {
-        if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwice);
+    const int edited = State().UnparsedLine;
+    if (edited >= 0 && edited != LineOf(Mod_Sci::GetCurrentPos())) {
+        if (HasMarker(edited, MarkerQueued)) SetStopErrorLog(StopQueuedTwice);
         TakeBackEditedLine(true);
     }
-    if (!State().ParseNeeded.empty()) ParseQueue();
+    const bool waits = !State().ParseNeeded.empty();
+    if (waits) ParseQueue();
     if (gWaitCursor) EndWaitCursor();
     gWaitCursor = false;
     CloseUndoGroup(&mFrmDoc);
+    return waits;
+}
+
+void cSubclass::UpdateUi() {
+    gUserEdited = false;
+    if (ParseEdited()) mFrmDoc.Redraw();
+    const int line = LineOf(Mod_Sci::GetCurrentPos());
     if (line != mFrmDoc.Callback_OldLine) {
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));

@@ -37,6 +37,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     // Painted straight to the screen: a buffer of its own would be in pixels of the wrong size where the
     // display is scaled.
     SendScintilla(SCI_SETBUFFEREDDRAW, 0UL);
+    // What was measured of the lines on the screen is kept: a key changes one of them, and all are painted.
+    SendScintilla(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
     ConnectNotifications();
 }
 
