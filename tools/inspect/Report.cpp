@@ -168,6 +168,9 @@ std::string Report(const ReportOptions& options) {
     if (!options.times.empty()) {
         json.Line().Key("time_us").Object();
         for (const auto& [stage, microseconds] : options.times) json.Key(stage).Number(microseconds);
+        json.Key("edits").Array();
+        for (const long long microseconds : options.editTimes) json.Number(microseconds);
+        json.EndArray();
         json.EndObject();
     }
     json.EndObject();

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 // Which parts to print, and how long the stages took (microseconds; empty prints none).
 struct ReportOptions {
@@ -13,6 +14,7 @@ struct ReportOptions {
     bool markers = true;
     bool text = false;
     std::map<std::string, long long> times;
+    std::vector<long long> editTimes; // microseconds of each operation
 };
 
 // Colours every line of every open document of the current project with the light pass.

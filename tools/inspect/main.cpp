@@ -1,5 +1,6 @@
 // zolto-inspect: opens a source or a project exactly as the program does, without a window, and prints what
 // the engine then knows.
+#include "Edits.h"
 #include "HeadlessHost.h"
 #include "Report.h"
 #include "documents/Mod_File.h"
@@ -23,12 +24,14 @@ namespace {
 
 constexpr int UnusableArguments = 2;
 constexpr int CannotOpen = 3;
+constexpr int MalformedEdit = 4;
 constexpr int StrictBadStyle = 16;
 
 constexpr const char* Usage =
-    "usage: zolto-inspect [--appdir DIR] [--set SECTION/KEY=VALUE]... [--strict] [--parts LIST] [--time] "
-    "FILE\n"
+    "usage: zolto-inspect [--appdir DIR] [--set SECTION/KEY=VALUE]... [--strict] [--edits FILE]\n"
+    "                     [--parts LIST] [--time] FILE\n"
     "  FILE   a .bb, opened alone, or a .zpf, opened as a project\n"
+    "  --edits plays operations into the first document, a JSON object a line\n"
     "  LIST   of symbols,styles,folds,indents,markers,text (all but text when left out)\n";
 
 struct Arguments {
@@ -36,6 +39,7 @@ struct Arguments {
     std::vector<std::string> settings;
     bool strict = false;
     bool time = false;
+    std::string edits;
     std::string file;
     ReportOptions report;
 };
@@ -69,6 +73,8 @@ bool ReadArguments(int count, char** values, Arguments& arguments) {
             arguments.time = true;
         } else if (argument == "--appdir" && hasValue) {
             arguments.appDir = values[++i];
+        } else if (argument == "--edits" && hasValue) {
+            arguments.edits = values[++i];
         } else if (argument == "--set" && hasValue) {
             arguments.settings.emplace_back(values[++i]);
             const std::string& setting = arguments.settings.back();
@@ -97,6 +103,12 @@ bool Open(const std::string& path) {
 }
 
 int Run(Arguments& arguments) {
+    std::vector<EditOperation> edits;
+    std::string malformed;
+    if (!arguments.edits.empty() && !ReadEdits(arguments.edits, edits, malformed)) {
+        std::fprintf(stderr, "zolto-inspect: %s: %s\n", arguments.edits.c_str(), malformed.c_str());
+        return MalformedEdit;
+    }
     HeadlessHost host(arguments.appDir);
     for (const std::string& setting : arguments.settings) {
         const std::size_t slash = setting.find('/');
@@ -130,10 +142,14 @@ int Run(Arguments& arguments) {
     }
     const long long load = Microseconds(since);
     gEngineCalls.WaitCursor = nullptr;
+    std::vector<long long> editTimes;
+    if (!arguments.edits.empty()) editTimes = PlayEdits(edits);
     since = std::chrono::steady_clock::now();
     StyleAll();
-    if (arguments.time)
+    if (arguments.time) {
         arguments.report.times = {{"load", load}, {"parse", parse}, {"style_all", Microseconds(since)}};
+        arguments.report.editTimes = editTimes;
+    }
     const std::string report = Report(arguments.report);
     std::fwrite(report.data(), 1, report.size(), stdout);
     return 0;
