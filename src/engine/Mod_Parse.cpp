@@ -110,9 +110,7 @@ void LineParser::One() {
 void LineParser::Block(const std::string& word, int foldMarker, int delta) {
     Token& token = At(index_);
     if (token.Text != word) {
-        const ColoringScope own;
-        const std::intptr_t start = lineStart_ + token.StartPos + 2;
-        Mod_Sci::ReplaceRange(start, start + static_cast<std::intptr_t>(word.size()), word);
+        Respell(lineStart_ + token.StartPos + 2, word, !gActiveDoc->State.mLastOperationUndoRedo);
     }
     AddMarker(MarkerBlock);
     AddMarker(foldMarker);

@@ -173,26 +173,32 @@ const ClsBBFunkcija* KeywordOf(const Token& token) {
 
 bool Touches(const Token& first, const Token& next) { return TokenEnd(first) == next.StartPos; }
 
+void Respell(std::intptr_t start, const std::string& spelling, bool inHistory) {
+    const ColoringScope own;
+    const auto end = start + static_cast<std::intptr_t>(spelling.size());
+    // Inside an undo action the change belongs to it: turning the collection off would end the action, and
+    // the one who began it would end one that is not there.
+    const bool collect = inHistory || gActiveDoc->State.UndoGroup;
+    if (!collect) Mod_Sci::SetUndoCollection(0);
+    Mod_Sci::ReplaceRange(start, end, spelling);
+    if (!collect) Mod_Sci::SetUndoCollection(1);
+}
+
 void RewriteToken(const std::string& spelling, int index, int lineStart) {
     Token& token = Tokens[static_cast<std::size_t>(index)];
-    const ColoringScope own;
-    const std::intptr_t start = lineStart + token.StartPos;
-    Mod_Sci::ReplaceRange(start, start + static_cast<std::intptr_t>(token.Text.size()), spelling);
+    // What an undo brought back is spelt right beside the history, or nothing could be redone.
+    Respell(lineStart + token.StartPos, spelling, !gActiveDoc->State.mLastOperationUndoRedo);
     token.Text = spelling;
 }
 
 void FixVariableCase(const std::string& spelling, int index, int lineStart) {
-    const Token& token = At(index);
+    Token& token = Tokens[static_cast<std::size_t>(index)];
     if (!OptionsEdit::FixVariableCase || token.Text == spelling || token.Text.size() != spelling.size())
         return;
     const std::intptr_t caret = Mod_Sci::GetCurrentPos();
     if (caret >= lineStart + token.StartPos && caret <= lineStart + token.EndPos) return;
-    // Inside an undo action the fix belongs to it: turning the collection off would end the action, and the
-    // one who began it would end one that is not there.
-    if (gActiveDoc->State.UndoGroup) return RewriteToken(spelling, index, lineStart);
-    Mod_Sci::SetUndoCollection(0);
-    RewriteToken(spelling, index, lineStart);
-    Mod_Sci::SetUndoCollection(1);
+    Respell(lineStart + token.StartPos, spelling, false);
+    token.Text = spelling;
 }
 
 void ColorToken(int index, int lineStart) {

@@ -38,7 +38,11 @@ inline void Style(int lineStart, const Token& token, std::intptr_t length, int s
     gLineStyles.Set(lineStart + token.StartPos, length, style);
 }
 
-// Rewrites a token's extent, which keeps its length, and its Text. It enters the undo history.
+// Replaces the text at a document position by a spelling of the same length, in the undo history or beside
+// it.
+void Respell(std::intptr_t start, const std::string& spelling, bool inHistory);
+// Rewrites a token's extent, which keeps its length, and its Text. It enters the undo history, but not behind
+// an undo or a redo.
 void RewriteToken(const std::string& spelling, int index, int lineStart);
 // The same outside the undo history, unless the option is off or the caret stands at the token.
 void FixVariableCase(const std::string& spelling, int index, int lineStart);

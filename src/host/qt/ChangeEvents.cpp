@@ -2,8 +2,9 @@
 // change returns; nothing of the program runs in between, so its owner sees the order of the library.
 #include "host/qt/ChangeEvents.h"
 
-#include "host/qt/EditorWidget.h"
 #include "host/qt/NotificationCodes.h"
+
+#include <Qsci/qsciscintillabase.h>
 
 #include <QAccessible>
 #include <algorithm>
@@ -40,7 +41,7 @@ QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
 
 } // namespace
 
-ChangeEvents::ChangeEvents(EditorWidget& view, Hand hand)
+ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand)
     : view_(view), hand_(std::move(hand)), pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
     views.push_back(this);
 }
@@ -92,6 +93,10 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
     }
     if (owing) FlushPending();
     return answer;
+}
+
+void ChangeEvents::AccessibilityChanged() {
+    for (ChangeEvents* events : views) events->ApplyMask();
 }
 
 void ChangeEvents::ApplyMask() {

@@ -8,14 +8,14 @@
 #include <QByteArray>
 #include <functional>
 
-class EditorWidget;
+class QsciScintillaBase;
 
 class ChangeEvents {
 public:
     using Hand = std::function<void(const SciNotification&)>;
 
     // `hand` takes what the owner of the view is to see.
-    ChangeEvents(EditorWidget& view, Hand hand);
+    ChangeEvents(QsciScintillaBase& view, Hand hand);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;
     ChangeEvents& operator=(const ChangeEvents&) = delete;
@@ -24,9 +24,8 @@ public:
     // before and behind each message.
     static SciDirectFunction DirectFunction(SciDirectFunction library);
 
-    // The mask that the view's owner asked for, in the form that is right now that assistive technology runs
-    // or does not.
-    void ApplyMask();
+    // Assistive technology began or ended: every view's mask takes the form that is right now.
+    static void AccessibilityChanged();
 
     // Takes a notification of the library and hands it on. What a change before it owes comes first.
     void Take(const SciNotification& notification);
@@ -49,10 +48,11 @@ public:
 private:
     static std::intptr_t Direct(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
                                 std::intptr_t lParam);
+    void ApplyMask();
     static void FlushPending();
     static ChangeEvents* Of(std::intptr_t pointer);
 
-    EditorWidget& view_;
+    QsciScintillaBase& view_;
     Hand hand_;
     std::intptr_t pointer_;
     int mask_ = -1; // -1: none was asked for, the library's own is in force

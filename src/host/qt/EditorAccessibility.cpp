@@ -1,7 +1,9 @@
 // What the edit control does for screen readers, kept off its typing path while none runs.
 #include "host/qt/EditorAccessibility.h"
 
-#include "host/qt/EditorWidget.h"
+#include "host/qt/ChangeEvents.h"
+
+#include <Qsci/qsciscintillabase.h>
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -12,7 +14,7 @@ namespace {
 // The object of a view while nobody reads: a named text field without the library's bookkeeping.
 QAccessibleInterface* PlainObject(const QString&, QObject* object) {
     if (QAccessible::isActive()) return nullptr;
-    auto* view = qobject_cast<EditorWidget*>(object);
+    auto* view = qobject_cast<QsciScintillaBase*>(object);
     return view ? new QAccessibleWidget(view, QAccessible::EditableText) : nullptr;
 }
 
@@ -21,11 +23,11 @@ QAccessibleInterface* PlainObject(const QString&, QObject* object) {
 class DropPlainObjects : public QAccessible::ActivationObserver {
 public:
     void accessibilityActiveChanged(bool active) override {
+        ChangeEvents::AccessibilityChanged();
+        if (!active) return;
         for (QWidget* widget : QApplication::allWidgets()) {
-            auto* view = qobject_cast<EditorWidget*>(widget);
+            auto* view = qobject_cast<QsciScintillaBase*>(widget);
             if (!view) continue;
-            view->AccessibilityChanged();
-            if (!active) continue;
             if (QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(view))
                 QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(plain));
         }

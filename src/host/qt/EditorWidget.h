@@ -15,8 +15,6 @@ public:
 
     void SetEvents(EditorViewEvents* events) { events_ = events; }
     bool IsUtf8() const;
-    // Assistive technology began or ended.
-    void AccessibilityChanged() { changes_.ApplyMask(); }
 
 protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;
