@@ -50,12 +50,13 @@ enum Kind {
     Back,
     Undo,
     Redo,
+    Move,
     MoveAway,
     Drain,
     Kinds
 };
-constexpr const char* KindNames[] = {"insert line", "paste", "delete", "delete line", "type", "new line",
-                                     "backspace",   "undo",  "redo",   "move away",   "drain"};
+constexpr const char* KindNames[] = {"insert line", "paste", "delete", "delete line", "type",      "new line",
+                                     "backspace",   "undo",  "redo",   "move",        "move away", "drain"};
 
 // Numbers are taken modulo what the text allows when the step is done, so that a series stays a series when
 // steps are taken out of it.
@@ -213,6 +214,7 @@ private:
         case Back: TypeAt(start, "\b"); break;
         case Undo: Mod_Sci::Undo(); break;
         case Redo: Mod_Sci::Redo(); break;
+        case Move: Mod_Sci::GotoPos(start); break;
         case MoveAway: {
             const auto caret = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
             Leave(caret == 0 ? 1 : caret - 1);
