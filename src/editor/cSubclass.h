@@ -44,6 +44,7 @@ private:
     bool ParseEdited();
     void ParseWaiting();
     void JoinLines();
+    void LeaveCurrentLook();
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;

@@ -17,3 +17,5 @@ bool ColoringCurrentLine = false;
 bool ACForced = false;
 bool ACShownNow = false;
 bool InDeclaration = false;
+bool ACExplicitList = false;
+bool ACExplicitNow = false;

@@ -40,8 +40,11 @@ extern bool gSymbolsChanged;
 extern int BadStyle;
 
 // ColorCurrentLine is running. A character was typed or a list was asked for; one was shown in this pass;
-// this line's keyword makes a new name. Written by the colourers and the completion.
+// this line's keyword makes a new name. The user asked for the list, and it stays so while that list is open;
+// this is the pass in which it was asked for. Written by the colourers and the completion.
 extern bool ColoringCurrentLine;
 extern bool ACForced;
 extern bool ACShownNow;
 extern bool InDeclaration;
+extern bool ACExplicitList;
+extern bool ACExplicitNow;

@@ -3,7 +3,9 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "editor/Mod_SciFun_complete.h"
 #include "editor/Mod_SciFun_edit.h"
+#include "editor/Mod_SciFun_tips.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/Markers.h"
@@ -112,13 +114,13 @@ const std::vector<RoutedCommand>& Routes() {
         {"Goto Previous Position", nullptr, true},
         {"Goto Next Position", nullptr, true},
         {"Toggle Fold", ToggleFold},
-        {"KeywordHelp", nullptr},
+        {"KeywordHelp", [](const Click&) { Mod_SciFun::KeywordHelp(); }},
         {"Toggle Bookmark", nullptr},
         {"Previous Bookmark", nullptr, true},
         {"Next Bookmark", nullptr, true},
         {"Clear All Bookmarks", nullptr},
-        {"Show Autocomplete", nullptr},
-        {"Show Calltip", nullptr},
+        {"Show Autocomplete", [](const Click&) { Mod_SciFun::ShowAutocomplete(); }},
+        {"Show Calltip", [](const Click&) { Mod_SciFun::ShowCalltip(); }},
         {"Cycle Private", nullptr},
         {"Copy Private", nullptr},
         {"Paste Private", nullptr},

@@ -51,13 +51,15 @@ enum Kind {
     Back,
     Undo,
     Redo,
+    Move,
     MoveAway,
     Drain,
     Command, // one of Commands on a selection
     Kinds
 };
-constexpr const char* KindNames[] = {"insert line", "paste", "delete", "delete line", "type",  "new line",
-                                     "backspace",   "undo",  "redo",   "move away",   "drain", "command"};
+constexpr const char* KindNames[] = {"insert line", "paste",     "delete", "delete line", "type",
+                                     "new line",    "backspace", "undo",   "redo",        "move",
+                                     "move away",   "drain",     "command"};
 
 constexpr struct {
     const char* name;
@@ -243,6 +245,7 @@ private:
         case Back: TypeAt(start, "\b"); break;
         case Undo: Mod_Sci::Undo(); break;
         case Redo: Mod_Sci::Redo(); break;
+        case Move: Mod_Sci::GotoPos(start); break;
         case MoveAway: {
             const auto caret = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
             Leave(caret == 0 ? 1 : caret - 1);
