@@ -196,7 +196,18 @@ private:
 
     std::string Difference() {
         const std::string log = TakeLog();
-        return log.empty() ? UnlikeLoaded() : log;
+        return log.empty() ? Unreachable() + UnlikeLoaded() : log;
+    }
+
+    // A line that no closed fold hides must be seen: nobody could open it.
+    static std::string Unreachable() {
+        for (int line = 0; line < Mod_Sci::GetLineCount(); ++line) {
+            if (Mod_Sci::GetLineVisible(line)) continue;
+            auto parent = Mod_Sci::GetFoldParent(line);
+            while (parent >= 0 && Mod_Sci::GetFoldExpanded(parent)) parent = Mod_Sci::GetFoldParent(parent);
+            if (parent < 0) return "Nothing shows line " + std::to_string(line) + ".\n";
+        }
+        return {};
     }
 
     std::string TakeLog() {
