@@ -141,6 +141,10 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
             Snapshot(start);
         }
     }
+    // A folded header that goes would leave its lines hidden with nothing to show them by.
+    if (end > start)
+        for (int line = start; line <= end; ++line)
+            if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
     // What waits below the lines that go moves up.
     queuedFrom_ = std::min(queuedFrom_, start);
     for (int line = start + 1; line <= end; ++line) {

@@ -9,6 +9,8 @@ int FoldLevel = 0;
 int IndentLevel = 0;
 bool ParsingFile = false;
 bool Coloring = false;
+bool RememberScopeKeyword = false;
+std::string LastScopeKeyword;
 bool gSymbolsChanged = false;
 int BadStyle = 0;
 bool ColoringCurrentLine = false;

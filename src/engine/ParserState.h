@@ -27,6 +27,11 @@ extern bool ParsingFile;
 // changes.
 extern bool Coloring;
 
+// While raised, the parser keeps the last keyword that opened an indentation level. Written by the command
+// that completes a scope, and by the parser.
+extern bool RememberScopeKeyword;
+extern std::string LastScopeKeyword;
+
 // The symbol tables changed since the lists were last filled. Raised by the parser, lowered by the
 // restyle of the visible lines.
 extern bool gSymbolsChanged;
