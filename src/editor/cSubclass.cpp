@@ -79,7 +79,7 @@ void cSubclass::ParseNow() {
 
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
-    case SCN_STYLENEEDED: StyleNeeded(); break;
+    case SCN_STYLENEEDED: StyleNeeded(notification.inPaint); break;
     case SCN_PAINTED: Painted(); break;
     case SCN_SAVEPOINTREACHED: mFrmDoc.SetDirty(false); break;
     case SCN_MARGINCLICK: MarginClick(notification); break;
@@ -108,10 +108,11 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) gEditorCalls.OpenFile(path);
 }
 
-void cSubclass::StyleNeeded() {
+void cSubclass::StyleNeeded(bool inPaint) {
     // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
-    // here, or the lines would be painted twice.
-    if (!Coloring && !changing_) ParseEdited();
+    // here, or the lines would be painted twice. The view also asks in the middle of an undo, where nothing
+    // may be changed.
+    if (inPaint && !Coloring) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));

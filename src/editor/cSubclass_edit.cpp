@@ -46,18 +46,6 @@ bool HasLineEnd(const SciNotification& notification) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
-// Raises a flag for as long as it lives.
-class InsideChange {
-public:
-    explicit InsideChange(bool& flag) : flag_(flag) { flag_ = true; }
-    ~InsideChange() { flag_ = false; }
-    InsideChange(const InsideChange&) = delete;
-    InsideChange& operator=(const InsideChange&) = delete;
-
-private:
-    bool& flag_;
-};
-
 DocumentRecord* undoGroupDocument = nullptr; // where the open undo action was begun
 
 } // namespace
@@ -128,7 +116,6 @@ void cSubclass::FollowLines(const SciNotification& notification) {
 void cSubclass::Modified(const SciNotification& notification) {
     if (notification.modificationType & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)) FollowLines(notification);
     if (Coloring) return;
-    const InsideChange inside(changing_);
     const int type = notification.modificationType;
     State().mLastOperationUndoRedo = (type & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)) != 0;
     if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)) {
