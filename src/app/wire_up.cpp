@@ -17,6 +17,7 @@
 #include "workbench/frmCompiling.h"
 #include "workbench/frmError.h"
 #include "workbench/frmMain.h"
+#include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
 #include "workbench/frmSplash.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 void WireEditor() {
     gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
+    gEngineCalls.PuniLista = [] { frmMainList::Instance().PuniLista(); };
     gEngineCalls.DocumentChanged = [] {
         if (frmDoc* document = ActiveForm()) document->SetDirty(true);
     };
@@ -35,6 +37,7 @@ void WireEditor() {
 
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
     gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };
     gDocumentCalls.ShowMainWindow = [] {

@@ -4,6 +4,7 @@
 
 #include "editor/CharAdded.h"
 #include "editor/EditorCalls.h"
+#include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -12,6 +13,7 @@
 #include "engine/Mod_Parse.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
+#include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -20,11 +22,13 @@ EditorCalls gEditorCalls;
 bool gUndoGroupOpen = false;
 bool gUserEdited = false;
 bool gWaitCursor = false;
+std::string gLastDocumentID;
 
 namespace {
 
 using namespace Mod_Parse;
 
+constexpr int MarkerMargin = 1;
 constexpr int FoldMargin = 2;
 
 // Makes a document the active one for as long as it lives, as if its view had the focus.
@@ -170,4 +174,6 @@ void cSubclass::Painted() {
 void cSubclass::MarginClick(const SciNotification& notification) {
     if (notification.margin == FoldMargin)
         Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(notification.position)));
+    else if (notification.margin == MarkerMargin && gHost.desktop->ShiftDown())
+        Mod_SciFun::ToggleBookmark(notification.position);
 }

@@ -4,6 +4,7 @@
 
 #include "editor/BraceHighlight.h"
 #include "editor/EditorCalls.h"
+#include "editor/PositionBrowser.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -15,6 +16,7 @@
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -275,9 +277,11 @@ bool cSubclass::ParseEdited() {
 }
 
 void cSubclass::UpdateUi() {
-    gUserEdited = false;
+    gLastDocumentID = mFrmDoc.m_strDocumentWindowID;
     if (ParseEdited()) mFrmDoc.Redraw();
-    const int line = LineOf(Mod_Sci::GetCurrentPos());
+    const auto position = Mod_Sci::GetCurrentPos();
+    const int line = LineOf(position);
+    if (std::exchange(gUserEdited, false)) Mod_SciFun::CheckCBrowser(position, line);
     if (line != mFrmDoc.Callback_OldLine) {
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));

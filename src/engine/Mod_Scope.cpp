@@ -161,6 +161,19 @@ std::string CurrentFunctionForDisplay(int line) {
     });
 }
 
+std::vector<FunctionLine> FunctionLines() {
+    return Guarded("FunctionLines", "Mod_Parse", std::vector<FunctionLine>(), [] {
+        std::vector<FunctionLine> lines;
+        for (auto line = Mod_Sci::MarkerNext(0, MaskOf(MarkerFunction)); line >= 0;
+             line = Mod_Sci::MarkerNext(line + 1, MaskOf(MarkerFunction))) {
+            const int at = static_cast<int>(line);
+            // A line may end one function and begin another.
+            if (HasMarker(at, MarkerFoldOpens)) lines.push_back({NameBehind(KnownText(at), "Function"), at});
+        }
+        return lines;
+    });
+}
+
 int GetNextIndent(int line) {
     return Guarded("GetNextIndent", "Mod_Parse", 1, [&] {
         int level = 1;

@@ -3,6 +3,10 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "editor/Mod_SciFun_bookmarks.h"
+#include "editor/Mod_SciFun_goto.h"
+#include "editor/Mod_SciFun_navigation.h"
+#include "editor/PositionBrowser.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/Mod_Folding.h"
@@ -66,6 +70,8 @@ void NewLine(const Click&) {
     Mod_Sci::NewLine();
 }
 
+void Explore(const Click& click) { ExploreFocusOn(click.command.Name()); }
+
 void NotAvailable(const Click&) {
     gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
                          .icon = MessageIcon::Information});
@@ -105,17 +111,17 @@ const std::vector<RoutedCommand>& Routes() {
         {"Comment Selection", nullptr},
         {"UnComment Selection", nullptr},
         {"Block From Selection", nullptr},
-        {"Goto Line", nullptr, true},
+        {"Goto Line", [](const Click&) { AskGotoLine(); }, true},
         {"Goto Function", NotAvailable, true},
-        {"Goto Declaration", nullptr, true},
-        {"Goto Previous Position", nullptr, true},
-        {"Goto Next Position", nullptr, true},
+        {"Goto Declaration", [](const Click&) { Mod_SciFun::GotoDeclaration(); }, true},
+        {"Goto Previous Position", [](const Click&) { Mod_SciFun::GotoPreviousPosition(); }, true},
+        {"Goto Next Position", [](const Click&) { Mod_SciFun::GotoNextPosition(); }, true},
         {"Toggle Fold", ToggleFold},
         {"KeywordHelp", nullptr},
-        {"Toggle Bookmark", nullptr},
-        {"Previous Bookmark", nullptr, true},
-        {"Next Bookmark", nullptr, true},
-        {"Clear All Bookmarks", nullptr},
+        {"Toggle Bookmark", [](const Click&) { Mod_SciFun::ToggleBookmark(-1); }},
+        {"Previous Bookmark", [](const Click&) { Mod_SciFun::GotoPrevBookmark(); }, true},
+        {"Next Bookmark", [](const Click&) { Mod_SciFun::GotoNextBookmark(); }, true},
+        {"Clear All Bookmarks", [](const Click&) { Mod_SciFun::ClearAllBookmarks(); }},
         {"Show Autocomplete", nullptr},
         {"Show Calltip", nullptr},
         {"Cycle Private", nullptr},
@@ -125,8 +131,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"Find Next", nullptr},
         {"Find Previous", nullptr},
         {"Replace", nullptr},
-        {"Next Function", nullptr},
-        {"Previous Function", nullptr},
+        {"Next Function", [](const Click&) { Mod_SciFun::GotoNextFunction(); }},
+        {"Previous Function", [](const Click&) { Mod_SciFun::GotoPreviousFunction(); }},
         {"Auto Indent Selection", nullptr},
         {"Auto Indent Function", nullptr},
         {"Complete Scope", nullptr},
@@ -141,7 +147,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"Fold Types", nullptr},
         {"UnFold Types", nullptr},
         {"Insert Color", nullptr},
-        {"Insert Filename", nullptr},
+        {"Insert Filename", NotAvailable},
         {"Insert FilePath", nullptr},
         {"New File", [](const Click&) { Mod_File::NewFile(); }},
         {"New Project", nullptr},
@@ -178,12 +184,12 @@ const std::vector<RoutedCommand>& Routes() {
         {"Projects Manager", [](const Click&) { TogglePane("Projects"); }},
         {"Snippets Manager", [](const Click&) { TogglePane("Snippets"); }},
         {"Code Explorer", [](const Click&) { TogglePane("CodeExplorer"); }},
-        {"Functions", nullptr},
-        {"Types", nullptr},
-        {"Arrays", nullptr},
-        {"Globals", nullptr},
-        {"Constants", nullptr},
-        {"Labels", nullptr},
+        {"Functions", Explore},
+        {"Types", Explore},
+        {"Arrays", Explore},
+        {"Globals", Explore},
+        {"Constants", Explore},
+        {"Labels", Explore},
         {"StatusBar", [](const Click&) { ToggleStatusBar(); }},
         {"SwitchToLayout1", [](const Click&) { SwitchToLayout(1); }},
         {"SwitchToLayout2", [](const Click&) { SwitchToLayout(2); }},
