@@ -1,6 +1,8 @@
 // Keys, the current row, and what a list keeps while its rows change.
 #include "workbench/CodeList.h"
 
+#include "workbench/CodeDelegate.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -11,6 +13,7 @@ CodeList::CodeList(const char* name, const QStringList& headers, const char* ico
     setObjectName(name);
     setAccessibleName(QString(name).mid(2)); // without its prefix
     setModel(&model_);
+    setItemDelegate(new CodeDelegate(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setExpandsOnDoubleClick(false);

@@ -5,6 +5,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <algorithm>
 #include <cstring>
 
@@ -26,44 +27,58 @@ constexpr Kind Kinds[] = {
 constexpr qreal Margin = 1.0 / 16;
 constexpr qreal Corner = 3.0 / 16;
 constexpr qreal LetterSize = 11.0 / 16;
+constexpr int SmallestLetter = 6; // pixels
 constexpr int MiddleLightness = 128;
 
 class LetterIcon : public QIconEngine {
 public:
     explicit LetterIcon(const Kind& kind) : kind_(kind) {}
 
+    // A list paints dozens of them at once, so each size is drawn once.
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        const qreal side = std::min(rect.width(), rect.height());
-        QRectF square(0, 0, side, side);
-        square.moveCenter(QRectF(rect).center());
-        square.adjust(side * Margin, side * Margin, -side * Margin, -side * Margin);
-        const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < MiddleLightness;
-        const QColor colour = QColor::fromHsl(kind_.hue, mode == QIcon::Disabled ? 0 : 120, dark ? 150 : 105);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(kind_.outlined ? QPen(colour, side * Margin) : QPen(Qt::NoPen));
-        painter->setBrush(kind_.outlined ? QBrush(Qt::NoBrush) : QBrush(colour));
-        painter->drawRoundedRect(square, side * Corner, side * Corner);
-        QFont font = QGuiApplication::font();
-        font.setPixelSize(std::max(6, qRound(side * LetterSize)));
-        font.setBold(true);
-        painter->setFont(font);
-        painter->setPen(kind_.outlined ? colour : dark ? QColor(24, 24, 24) : QColor(Qt::white));
-        painter->drawText(square, Qt::AlignCenter, QChar::fromLatin1(kind_.letter));
-        painter->restore();
+        const qreal scale = painter->device()->devicePixelRatio();
+        const int side = std::min(rect.width(), rect.height());
+        QRect square(0, 0, side, side);
+        square.moveCenter(rect.center());
+        painter->drawPixmap(square, Picture(qRound(side * scale), mode));
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-        return picture;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        return Picture(std::min(size.width(), size.height()), mode);
     }
 
     QIconEngine* clone() const override { return new LetterIcon(kind_); }
 
 private:
+    QPixmap Picture(int pixels, QIcon::Mode mode) const {
+        const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < MiddleLightness;
+        const QString key = QString("%1 %2 %3 %4").arg(kind_.name).arg(pixels).arg(mode).arg(dark);
+        QPixmap picture;
+        if (QPixmapCache::find(key, &picture)) return picture;
+        picture = QPixmap(pixels, pixels);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        Draw(painter, pixels, mode == QIcon::Disabled, dark);
+        painter.end();
+        QPixmapCache::insert(key, picture);
+        return picture;
+    }
+
+    void Draw(QPainter& painter, qreal side, bool disabled, bool dark) const {
+        const QRectF square(side * Margin, side * Margin, side * (1 - 2 * Margin), side * (1 - 2 * Margin));
+        const QColor colour = QColor::fromHsl(kind_.hue, disabled ? 0 : 120, dark ? 150 : 105);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(kind_.outlined ? QPen(colour, side * Margin) : QPen(Qt::NoPen));
+        painter.setBrush(kind_.outlined ? QBrush(Qt::NoBrush) : QBrush(colour));
+        painter.drawRoundedRect(square, side * Corner, side * Corner);
+        QFont font = QGuiApplication::font();
+        font.setPixelSize(std::max(SmallestLetter, qRound(side * LetterSize)));
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(kind_.outlined ? colour : dark ? QColor(24, 24, 24) : QColor(Qt::white));
+        painter.drawText(square, Qt::AlignCenter, QChar::fromLatin1(kind_.letter));
+    }
+
     const Kind& kind_;
 };
 
