@@ -8,6 +8,7 @@
 #include "workbench/SymbolIcons.h"
 #include "workbench/frmList.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -82,9 +83,10 @@ frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new Q
     CheckButtons();
 }
 
-// The pane's widget belongs to whoever placed it; without a place it goes with the form.
+// The pane's widget belongs to whoever placed it; without a place it goes with the form, unless the toolkit
+// has gone already.
 frmMainList::~frmMainList() {
-    if (pane_ && !pane_->parent()) delete pane_;
+    if (pane_ && !pane_->parent() && qApp) delete pane_;
 }
 
 void* frmMainList::NativeWidget() { return static_cast<QWidget*>(pane_.data()); }
