@@ -33,6 +33,7 @@ protected:
                                  "Goto Next Position", "Next Bookmark", "Previous Bookmark", "Goto Line"})
             host.dock.Make(name, "View");
         host.dock.SetEvents(&frmMain::Instance());
+        frmMain::Instance().AdditionalUISetup(); // which fetches the commands of this test's frame
         gEngineCalls.PuniLista = [] { frmMainList::Instance().PuniLista(); };
         gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
         Pane().show();
