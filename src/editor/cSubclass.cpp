@@ -5,6 +5,7 @@
 #include "editor/CharAdded.h"
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_bookmarks.h"
+#include "editor/Mod_SciFun_edit.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -70,6 +71,14 @@ void cSubclass::OnNotify(const SciNotification& notification) {
 void cSubclass::DeactivateCheck() {
     const ActiveSwap swap(mFrmDoc);
     ParseWaiting();
+}
+
+void cSubclass::ParseNow() {
+    const ActiveSwap swap(mFrmDoc);
+    if (State().UnparsedLine >= 0) TakeBackEditedLine(true);
+    if (State().ParseNeeded.empty()) return;
+    ParseQueue();
+    mFrmDoc.Redraw();
 }
 
 void cSubclass::Dispatch(const SciNotification& notification) {
@@ -172,8 +181,13 @@ void cSubclass::Painted() {
 }
 
 void cSubclass::MarginClick(const SciNotification& notification) {
+    const int line = static_cast<int>(Mod_Sci::LineFromPosition(notification.position));
     if (notification.margin == FoldMargin)
-        Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(notification.position)));
-    else if (notification.margin == MarkerMargin && gHost.desktop->ShiftDown())
+        Mod_Folding::ToggleFold(line);
+    else if (notification.margin != MarkerMargin)
+        return;
+    else if (gHost.desktop->ShiftDown())
         Mod_SciFun::ToggleBookmark(notification.position);
+    else if (gHost.desktop->ControlDown())
+        Mod_SciFun::ToggleBreakPoint(line);
 }

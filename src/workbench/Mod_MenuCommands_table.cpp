@@ -4,11 +4,15 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "editor/Mod_SciFun_bookmarks.h"
+#include "editor/Mod_SciFun_complete.h"
+#include "editor/Mod_SciFun_edit.h"
 #include "editor/Mod_SciFun_goto.h"
 #include "editor/Mod_SciFun_navigation.h"
+#include "editor/Mod_SciFun_tips.h"
 #include "editor/PositionBrowser.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
+#include "engine/Markers.h"
 #include "engine/Mod_Folding.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
@@ -21,6 +25,13 @@
 namespace Mod_MenuCommands {
 
 namespace {
+
+using namespace Mod_Parse;
+
+template <void (*Routine)()>
+void Run(const Click&) {
+    Routine();
+}
 
 void SaveActive(const Click&) {
     if (frmDoc* document = ActiveForm()) Mod_File::SaveFile(document);
@@ -62,14 +73,6 @@ void ToggleFold(const Click&) {
     Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
-// The group stays open across the indentation that follows, so both are undone together.
-void NewLine(const Click&) {
-    if (!DocumentActive()) return;
-    Mod_Sci::AutoCCancel();
-    OpenUndoGroup();
-    Mod_Sci::NewLine();
-}
-
 void Explore(const Click& click) { ExploreFocusOn(click.command.Name()); }
 
 void NotAvailable(const Click&) {
@@ -81,7 +84,7 @@ void NotAvailable(const Click&) {
 
 const std::vector<RoutedCommand>& Routes() {
     static const std::vector<RoutedCommand> table = {
-        {"New Line", NewLine},
+        {"New Line", Run<Mod_SciFun::NewLine>},
         {"Undo", [](const Click&) { Mod_Sci::Undo(); }, true},
         {"Redo", [](const Click&) { Mod_Sci::Redo(); }, true},
         {"Cut", [](const Click&) { Mod_Sci::Cut(); }},
@@ -89,8 +92,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"Paste", [](const Click&) { Mod_Sci::Paste(); }, true},
         {"Delete", [](const Click&) { Mod_Sci::Clear(); }},
         {"Select All", [](const Click&) { Mod_Sci::SelectAll(); }, true},
-        {"Indent Selection", nullptr},
-        {"UnIndent Selection", nullptr},
+        {"Indent Selection", Run<Mod_SciFun::IndentSelection>},
+        {"UnIndent Selection", Run<Mod_SciFun::UnIndentSelection>},
         {"Word Left", [](const Click&) { Mod_Sci::WordLeft(); }},
         {"Word Left Extend", [](const Click&) { Mod_Sci::WordLeftExtend(); }},
         {"Word Right", [](const Click&) { Mod_Sci::WordRight(); }},
@@ -106,24 +109,24 @@ const std::vector<RoutedCommand>& Routes() {
         {"Cut Current Line", [](const Click&) { Mod_Sci::LineCut(); }},
         {"Delete Current Line", [](const Click&) { Mod_Sci::LineDelete(); }},
         {"Copy Current Line", [](const Click&) { Mod_Sci::LineCopy(); }},
-        {"Move Current Line Up", nullptr},
-        {"Move Current Line Down", nullptr},
-        {"Comment Selection", nullptr},
-        {"UnComment Selection", nullptr},
-        {"Block From Selection", nullptr},
-        {"Goto Line", [](const Click&) { AskGotoLine(); }, true},
+        {"Move Current Line Up", Run<Mod_SciFun::MoveCurrentLineUp>},
+        {"Move Current Line Down", Run<Mod_SciFun::MoveCurrentLineDown>},
+        {"Comment Selection", Run<Mod_SciFun::CommentSelection>},
+        {"UnComment Selection", Run<Mod_SciFun::UnCommentSelection>},
+        {"Block From Selection", Run<Mod_SciFun::BlockFromSelection>},
+        {"Goto Line", Run<AskGotoLine>, true},
         {"Goto Function", NotAvailable, true},
-        {"Goto Declaration", [](const Click&) { Mod_SciFun::GotoDeclaration(); }, true},
-        {"Goto Previous Position", [](const Click&) { Mod_SciFun::GotoPreviousPosition(); }, true},
-        {"Goto Next Position", [](const Click&) { Mod_SciFun::GotoNextPosition(); }, true},
+        {"Goto Declaration", Run<Mod_SciFun::GotoDeclaration>, true},
+        {"Goto Previous Position", Run<Mod_SciFun::GotoPreviousPosition>, true},
+        {"Goto Next Position", Run<Mod_SciFun::GotoNextPosition>, true},
         {"Toggle Fold", ToggleFold},
-        {"KeywordHelp", nullptr},
+        {"KeywordHelp", [](const Click&) { Mod_SciFun::KeywordHelp(); }},
         {"Toggle Bookmark", [](const Click&) { Mod_SciFun::ToggleBookmark(-1); }},
-        {"Previous Bookmark", [](const Click&) { Mod_SciFun::GotoPrevBookmark(); }, true},
-        {"Next Bookmark", [](const Click&) { Mod_SciFun::GotoNextBookmark(); }, true},
-        {"Clear All Bookmarks", [](const Click&) { Mod_SciFun::ClearAllBookmarks(); }},
-        {"Show Autocomplete", nullptr},
-        {"Show Calltip", nullptr},
+        {"Previous Bookmark", Run<Mod_SciFun::GotoPrevBookmark>, true},
+        {"Next Bookmark", Run<Mod_SciFun::GotoNextBookmark>, true},
+        {"Clear All Bookmarks", Run<Mod_SciFun::ClearAllBookmarks>},
+        {"Show Autocomplete", [](const Click&) { Mod_SciFun::ShowAutocomplete(); }},
+        {"Show Calltip", [](const Click&) { Mod_SciFun::ShowCalltip(); }},
         {"Cycle Private", nullptr},
         {"Copy Private", nullptr},
         {"Paste Private", nullptr},
@@ -131,24 +134,24 @@ const std::vector<RoutedCommand>& Routes() {
         {"Find Next", nullptr},
         {"Find Previous", nullptr},
         {"Replace", nullptr},
-        {"Next Function", [](const Click&) { Mod_SciFun::GotoNextFunction(); }},
-        {"Previous Function", [](const Click&) { Mod_SciFun::GotoPreviousFunction(); }},
-        {"Auto Indent Selection", nullptr},
-        {"Auto Indent Function", nullptr},
-        {"Complete Scope", nullptr},
+        {"Next Function", Run<Mod_SciFun::GotoNextFunction>},
+        {"Previous Function", Run<Mod_SciFun::GotoPreviousFunction>},
+        {"Auto Indent Selection", Run<Mod_SciFun::AutoIndentSelection>},
+        {"Auto Indent Function", Run<Mod_SciFun::AutoindentCurrentFunction>},
+        {"Complete Scope", Run<Mod_SciFun::CompleteScope>},
         {"Convert To Upper Case", [](const Click&) { Mod_Sci::UpperCase(); }},
         {"Convert To Lower Case", [](const Click&) { Mod_Sci::LowerCase(); }},
-        {"Fold Everything", nullptr},
-        {"UnFold Everything", nullptr},
-        {"Fold Blocks", nullptr},
-        {"UnFold Blocks", nullptr},
-        {"Fold Functions", nullptr},
-        {"UnFold Functions", nullptr},
-        {"Fold Types", nullptr},
-        {"UnFold Types", nullptr},
+        {"Fold Everything", [](const Click&) { Mod_SciFun::FoldEverything(Mod_SciFun::AnyFold); }},
+        {"UnFold Everything", [](const Click&) { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
+        {"Fold Blocks", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerBlock)); }},
+        {"UnFold Blocks", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerBlock)); }},
+        {"Fold Functions", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerFunction)); }},
+        {"UnFold Functions", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerFunction)); }},
+        {"Fold Types", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerType)); }},
+        {"UnFold Types", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerType)); }},
         {"Insert Color", nullptr},
         {"Insert Filename", NotAvailable},
-        {"Insert FilePath", nullptr},
+        {"Insert FilePath", Run<Mod_SciFun::InsertFilePath>},
         {"New File", [](const Click&) { Mod_File::NewFile(); }},
         {"New Project", nullptr},
         {"Open File", [](const Click&) { Mod_File::OpenFile(""); }},
@@ -208,7 +211,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"DebugCompile", DebugActive},
         {"CreateExecutable", BuildActive},
         {"ProgramCommandLine", FocusCommandLine},
-        {"Toggle BreakPoint", nullptr},
+        {"Toggle BreakPoint", [](const Click&) { Mod_SciFun::ToggleBreakPoint(); }},
         {"Strict Mode", [](const Click&) { ChangeStrictMode(); }},
         {"HotCode For Selection", nullptr},
         {"Edit HotCodes", nullptr},

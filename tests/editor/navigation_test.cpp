@@ -268,7 +268,7 @@ TEST_F(NavigationTest, ClearingReachesTheOtherFilesUnlessBookmarksAreKeptToOne) 
     EXPECT_EQ(bookmark(first), -1);
 }
 
-TEST_F(NavigationTest, AShiftClickInTheMarginSetsABookmark) {
+TEST_F(NavigationTest, ClicksInTheMarginSetBookmarksAndBreakpoints) {
     OpenLong(10);
     Settle();
     auto* view = static_cast<QAbstractScrollArea*>(static_cast<QWidget*>(ActiveForm()->NativeWidget()));
@@ -278,6 +278,12 @@ TEST_F(NavigationTest, AShiftClickInTheMarginSetsABookmark) {
     EXPECT_TRUE(Marked(MarkerBookmark).empty());
     host.desktop.shift = true;
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, margin);
+    EXPECT_EQ(Marked(MarkerBookmark), std::vector<int>{2});
+    EXPECT_TRUE(Marked(MarkerBreakpoint).empty());
+    host.desktop.shift = false;
+    host.desktop.control = true;
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ControlModifier, margin);
+    EXPECT_EQ(Marked(MarkerBreakpoint), std::vector<int>{2});
     EXPECT_EQ(Marked(MarkerBookmark), std::vector<int>{2});
 }
 
