@@ -31,6 +31,7 @@ enum : std::size_t { Functions = 0, Types = 2, Includes = 6 };
 constexpr int TwipsPerPixel = 15;
 constexpr int FileColumnTwips = 4000;
 constexpr int NameColumnPixels = 170;
+constexpr int LinePadding = 16; // pixels
 constexpr int TypingPauseMilliseconds = 250;
 
 // The document of the active window. A view in the background that is being served is not meant.
@@ -77,7 +78,6 @@ frmList::frmList() {
         QStringList headers{tr("Name"), tr("File")};
         if (i == Functions) headers << tr("Line");
         auto* list = new CodeList(construct.list, headers, construct.icon, construct.parts);
-        list->setColumnWidth(CodeModel::Name, NameColumnPixels);
         Connect(*list);
         lists_[i].list = list;
     }
@@ -93,6 +93,9 @@ frmList::frmList() {
         Guarded("lvIncludes_MouseUp", "frmList", [&] { ShowIncludePopup(at); });
     });
     UnHideFileColumn();
+    CodeList* withLines = lists_[Functions].list;
+    withLines->setColumnWidth(CodeModel::Line,
+                              withLines->fontMetrics().horizontalAdvance("0000000") + LinePadding);
     typingPause_.setSingleShot(true);
     typingPause_.setInterval(TypingPauseMilliseconds);
     connect(&typingPause_, &QTimer::timeout, this, &frmList::RefreshLines);
@@ -221,7 +224,12 @@ void frmList::RefreshLines() {
 void frmList::SetFileColumn(bool hidden) {
     for (const Listed& listed : lists_) {
         listed.list->setColumnHidden(CodeModel::File, hidden);
-        if (!hidden) listed.list->setColumnWidth(CodeModel::File, FileColumnTwips / TwipsPerPixel);
+        // Without files the names take the width.
+        listed.list->header()->setSectionResizeMode(CodeModel::Name,
+                                                    hidden ? QHeaderView::Stretch : QHeaderView::Interactive);
+        if (hidden) continue;
+        listed.list->setColumnWidth(CodeModel::Name, NameColumnPixels);
+        listed.list->setColumnWidth(CodeModel::File, FileColumnTwips / TwipsPerPixel);
     }
 }
 
