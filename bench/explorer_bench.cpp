@@ -6,7 +6,6 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/EngineCalls.h"
-#include "engine/Mod_Parse.h"
 #include "host/Files.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -78,14 +77,6 @@ std::string OpenSymbols(const std::string& kind, int count) {
     return path;
 }
 
-// What the line column asks for when typing pauses.
-void Lines(benchmark::State& state) {
-    const std::string path = OpenSymbols("Functions", static_cast<int>(state.range(0)));
-    for (auto _ : state) benchmark::DoNotOptimize(Mod_Parse::FunctionLines());
-    CloseActive();
-    std::filesystem::remove(path);
-}
-
 void Edit(benchmark::State& state, const std::string& kind, bool pane) {
     const std::string path = OpenSymbols(kind, static_cast<int>(state.range(0)));
     auto* view = static_cast<QWidget*>(ActiveForm()->NativeWidget());
@@ -129,7 +120,6 @@ BENCHMARK_CAPTURE(Edit, Floor_functions, "Functions", false)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Edit, functions, "Functions", true)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
-BENCHMARK(Lines)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Open, Floor_project, false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Open, project, true)->Unit(benchmark::kMillisecond);
 

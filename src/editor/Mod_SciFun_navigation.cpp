@@ -9,6 +9,7 @@
 #include "engine/Mod_Parse.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
@@ -70,7 +71,7 @@ void GotoDeclaration() {
         if (!symbol || symbol->File.empty()) return;
         const frmDoc* document = DocumentOf(*symbol);
         if (document == nullptr) return; // closed, and its view with it
-        const auto line = Mod_Sci::SendTo(symbol->SciWndData, SCI_MARKERLINEFROMHANDLE, symbol->Handle);
+        const int line = LineOf(*symbol);
         if (line < 0) return;
         RememberCaret();
         if (!BringToFront(*document)) return;

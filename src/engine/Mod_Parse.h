@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace Mod_Parse {
 
@@ -34,13 +33,6 @@ std::string CurrentFunction(int line);
 std::string CurrentType(int line);
 // The name to show for a line; touches nothing.
 std::string CurrentFunctionForDisplay(int line);
-// The lines of the current document that begin a function, from the top down, each with its name. One pass
-// over the markers: to ask every function's handle for its line would walk over all lines for each of them.
-struct FunctionLine {
-    std::string name;
-    int line;
-};
-std::vector<FunctionLine> FunctionLines();
 // The indentation level, from 1, of the line below.
 int GetNextIndent(int line);
 

@@ -50,8 +50,7 @@ ScopeFound FindScope(int line, int marker, std::string_view word, clsHash& table
         if (at < 0 || HasMarker(at, MarkerFoldCloses)) return {};
         const std::string name = NameBehind(KnownText(at), word);
         if (name.empty()) return {};
-        if (SymbolPointer record = table.ItemDeclaredOn(name, at, SciWndData))
-            return {name, std::move(record)};
+        if (SymbolPointer record = table.ItemHandle(name, at, SciWndData)) return {name, std::move(record)};
     }
     return {};
 }
@@ -158,19 +157,6 @@ std::string CurrentFunctionForDisplay(int line) {
         }
         std::string name = NameBehind(KnownText(at), "Function");
         return name.empty() ? MainProgram : name;
-    });
-}
-
-std::vector<FunctionLine> FunctionLines() {
-    return Guarded("FunctionLines", "Mod_Parse", std::vector<FunctionLine>(), [] {
-        std::vector<FunctionLine> lines;
-        for (auto line = Mod_Sci::MarkerNext(0, MaskOf(MarkerFunction)); line >= 0;
-             line = Mod_Sci::MarkerNext(line + 1, MaskOf(MarkerFunction))) {
-            const int at = static_cast<int>(line);
-            // A line may end one function and begin another.
-            if (HasMarker(at, MarkerFoldOpens)) lines.push_back({NameBehind(KnownText(at), "Function"), at});
-        }
-        return lines;
     });
 }
 

@@ -3,16 +3,15 @@
 
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
-#include "engine/Mod_Parse.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 #include "host/Paths.h"
-#include "sci/Mod_Sci.h"
 
 #include <QHeaderView>
 #include <QSplitter>
 #include <algorithm>
-#include <unordered_map>
+#include <unordered_set>
 
 const std::array<Construct, ConstructCount> Constructs = {{
     {"Functions", "lvFunctions", "imgFunctions", &ClsProject::Funkcii, &ClsProject::FunctionsDirty, {true}},
@@ -38,36 +37,6 @@ constexpr int TypingPauseMilliseconds = 250;
 const frmDoc* ActiveDocument() {
     const DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
     return window == nullptr ? nullptr : dynamic_cast<frmDoc*>(window->HostedForm());
-}
-
-// Works on another document for as long as it lives.
-class OnDocument {
-public:
-    explicit OnDocument(frmDoc* document)
-        : document_(ActiveForm()), view_(SciWndData), project_(gCurrentProject) {
-        MakeActive(document);
-    }
-    ~OnDocument() {
-        gActiveDoc = document_;
-        SciWndData = view_;
-        gCurrentProject = project_;
-    }
-    OnDocument(const OnDocument&) = delete;
-    OnDocument& operator=(const OnDocument&) = delete;
-
-private:
-    frmDoc* document_;
-    std::intptr_t view_;
-    std::shared_ptr<ClsProject> project_;
-};
-
-// The lines of a document's functions by their names; -1 for a name that stands on several.
-std::unordered_map<std::string, int> LinesByName(frmDoc& document) {
-    const OnDocument on(&document);
-    std::unordered_map<std::string, int> lines;
-    for (const Mod_Parse::FunctionLine& function : Mod_Parse::FunctionLines())
-        if (auto [at, first] = lines.emplace(function.name, function.line); !first) at->second = -1;
-    return lines;
 }
 
 }
@@ -207,16 +176,10 @@ void frmList::RefreshLines() {
     const auto project = lists_[Functions].project.lock();
     if (construct_ != Functions || !isVisible() || !project) return;
     Guarded("RefreshLines", "frmList", [&] {
-        std::unordered_map<std::intptr_t, std::unordered_map<std::string, int>> lines;
-        for (const auto& source : project->Sources)
-            lines[source.record->SciEdi_WndData] = LinesByName(static_cast<frmDoc&>(*source.record));
+        std::unordered_set<std::intptr_t> open;
+        for (const auto& source : project->Sources) open.insert(source.record->SciEdi_WndData);
         lists_[Functions].list->Rows().SetLines([&](const Symbol& function) {
-            const auto document = lines.find(function.SciWndData);
-            if (document == lines.end()) return -1;
-            const auto at = document->second.find(function.Ime);
-            if (at != document->second.end() && at->second >= 0) return at->second;
-            return static_cast<int>(
-                Mod_Sci::SendTo(function.SciWndData, SCI_MARKERLINEFROMHANDLE, function.Handle));
+            return open.contains(function.SciWndData) ? LineOf(function) : -1;
         });
     });
 }

@@ -4,12 +4,12 @@
 #include "documents/Mod_File.h"
 #include "editor/Mod_SciFun_goto.h"
 #include "editor/frmDoc.h"
+#include "engine/SymbolLine.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
-#include "sci/Mod_Sci.h"
 
 #include <QMenu>
 
@@ -63,7 +63,7 @@ void frmList::GotoItem(const SymbolPointer& symbol) {
         }
         frmDoc* document = target ? DocumentOf(*project, *target) : nullptr;
         if (document == nullptr || !Mod_SciFun::BringToFront(*document)) return;
-        const auto line = Mod_Sci::MarkerLineFromHandle(target->Handle);
+        const int line = LineOf(*target);
         if (line >= 0) Mod_SciFun::GotoLine(line);
         document->View->GrabFocus();
     });
