@@ -5,6 +5,7 @@
 #include "editor/BraceHighlight.h"
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_tips.h"
+#include "editor/PositionBrowser.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -17,6 +18,7 @@
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -296,9 +298,11 @@ void cSubclass::LeaveCurrentLook() {
 }
 
 void cSubclass::UpdateUi() {
-    gUserEdited = false;
+    gLastDocumentID = mFrmDoc.m_strDocumentWindowID;
     if (ParseEdited()) mFrmDoc.Redraw();
-    int line = LineOf(Mod_Sci::GetCurrentPos());
+    const auto position = Mod_Sci::GetCurrentPos();
+    int line = LineOf(position);
+    if (std::exchange(gUserEdited, false)) Mod_SciFun::CheckCBrowser(position, line);
     if (line != mFrmDoc.Callback_OldLine) {
         LeaveCurrentLook();
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
