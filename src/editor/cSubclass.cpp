@@ -84,7 +84,11 @@ void cSubclass::ParseNow() {
 
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
-    case SCN_STYLENEEDED: StyleNeeded(notification.inPaint); break;
+    // The view also asks in the middle of an undo, or while a parse opens a fold: nothing may be changed
+    // there, and the scope that the colourers write belongs to the parser.
+    case SCN_STYLENEEDED:
+        if (notification.inPaint && !parsing_) StyleNeeded();
+        break;
     case SCN_PAINTED: Painted(); break;
     case SCN_SAVEPOINTREACHED: mFrmDoc.SetDirty(false); break;
     case SCN_MARGINCLICK: MarginClick(notification); break;
@@ -113,11 +117,10 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) gEditorCalls.OpenFile(path);
 }
 
-void cSubclass::StyleNeeded(bool inPaint) {
+void cSubclass::StyleNeeded() {
     // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
-    // here, or the lines would be painted twice. The view also asks in the middle of an undo, where nothing
-    // may be changed.
-    if (inPaint && !Coloring) ParseEdited();
+    // here, or the lines would be painted twice.
+    if (!Coloring) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
@@ -164,6 +167,7 @@ void cSubclass::SiblingPass() {
         sibling->State.mOldStartLine = -100;
         SciNotification restyle;
         restyle.code = SCN_STYLENEEDED;
+        restyle.inPaint = true;
         sibling->m_oSubclass->OnNotify(restyle);
     }
 }

@@ -24,7 +24,7 @@ public:
 
 private:
     void Dispatch(const SciNotification& notification);
-    void StyleNeeded(bool inPaint);
+    void StyleNeeded();
     void SiblingPass();
     void Painted();
     void MarginClick(const SciNotification& notification);
@@ -49,6 +49,7 @@ private:
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
+    bool parsing_ = false; // the scope that the colourers write belongs to the parser
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

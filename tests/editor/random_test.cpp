@@ -275,13 +275,13 @@ private:
     }
 
     // Left out: two words that open or close a scope on one line, which have no meaning that could be kept; a
-    // field in front of the end of its type, because what a type takes in ends with the line above its end;
+    // field in front of the beginning or the end of a type, which count for all of their line;
     // and a tab inside a string, which ends it for one scanner and not for the other.
     static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
         std::string changed = Mod_Sci::GetText();
         changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
         static const std::regex left(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))"
-                                     R"(|\bfield\b[^\r\n]*\bend[ \t]+type\b|"[^\r\n]*\t)",
+                                     R"(|\bfield\b[^\r\n]*\btype\b|"[^\r\n]*\t)",
                                      std::regex::icase);
         return !std::regex_search(changed, left);
     }
