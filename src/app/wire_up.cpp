@@ -17,6 +17,7 @@
 #include "workbench/Shown.h"
 #include "workbench/frmCompiling.h"
 #include "workbench/frmError.h"
+#include "workbench/frmFind.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmOutput.h"
 #include "workbench/frmSplash.h"
@@ -41,6 +42,7 @@ void WireEditor() {
 
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.UnloadFind = [] { frmFind::Unload(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
     gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };
     gDocumentCalls.ShowMainWindow = [] {

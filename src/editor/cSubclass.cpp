@@ -27,27 +27,6 @@ using namespace Mod_Parse;
 
 constexpr int FoldMargin = 2;
 
-// Makes a document the active one for as long as it lives, as if its view had the focus.
-class ActiveSwap {
-public:
-    explicit ActiveSwap(frmDoc& document)
-        : before_(ActiveForm()), view_(SciWndData), swapped_(gActiveDoc != &document) {
-        if (swapped_) MakeActive(&document);
-    }
-    ~ActiveSwap() {
-        if (!swapped_) return;
-        MakeActive(before_);
-        SciWndData = view_;
-    }
-    ActiveSwap(const ActiveSwap&) = delete;
-    ActiveSwap& operator=(const ActiveSwap&) = delete;
-
-private:
-    frmDoc* before_;
-    std::intptr_t view_;
-    bool swapped_;
-};
-
 // A number as text with a place for its sign.
 std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }
 
