@@ -63,7 +63,10 @@ private:
     void Select(const Found& found, bool interactive);
     std::vector<Piece> Pieces(const FindOptions& options);
     std::optional<Hit> NextIn(const Piece& piece, const DocumentSearch& search, std::intptr_t from) const;
-    int ReplaceIn(Piece piece, const FindOptions& options, const std::string& replacement);
+    int ReplaceIn(Piece piece, const DocumentSearch& search, const std::string& bytes);
+    int ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptions& options,
+                          const std::string& replacement);
+    int CountIn(const std::vector<Piece>& pieces, const FindOptions& options) const;
     void Changed(const frmDoc& document, std::intptr_t start, std::intptr_t by);
     bool AtStart(const frmDoc& document) const;
 

@@ -12,6 +12,9 @@
 
 namespace {
 
+// From here on a document is parsed anew as a whole.
+constexpr int ManyHits = 500;
+
 constexpr auto ToTheEnd = std::numeric_limits<std::intptr_t>::max();
 
 void TellUnknownCharacters(const frmDoc& document) {
@@ -90,17 +93,10 @@ std::optional<Hit> FindRun::NextIn(const Piece& piece, const DocumentSearch& sea
                           : search.Find(from, std::min(piece.end, search.Length()));
 }
 
-int FindRun::ReplaceIn(Piece piece, const FindOptions& options, const std::string& replacement) {
-    const DocumentSearch search(*piece.document, options);
-    const auto bytes = search.InDocument(replacement);
+int FindRun::ReplaceIn(Piece piece, const DocumentSearch& search, const std::string& bytes) {
     int count = 0;
     for (auto hit = NextIn(piece, search, piece.from); hit; ++count) {
-        if (!bytes) {
-            TellUnknownCharacters(*piece.document);
-            return 0;
-        }
-        OpenUndoGroup();
-        const auto length = search.Replace(*hit, *bytes);
+        const auto length = search.Replace(*hit, bytes);
         const auto by = length - (hit->end - hit->start);
         Changed(*piece.document, hit->start, by);
         if (piece.end != ToTheEnd) piece.end += by;
@@ -110,19 +106,44 @@ int FindRun::ReplaceIn(Piece piece, const FindOptions& options, const std::strin
     return count;
 }
 
+// All pieces of one document, as one undo step to which belongs what the parser writes.
+int FindRun::ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptions& options,
+                               const std::string& replacement) {
+    frmDoc& document = *pieces.front().document;
+    const int hits = CountIn(pieces, options);
+    if (hits == 0) return 0;
+    const ActiveSwap swap(document);
+    const DocumentSearch search(document, options);
+    const auto bytes = search.InDocument(replacement);
+    if (!bytes) {
+        TellUnknownCharacters(document);
+        return 0;
+    }
+    int count = 0;
+    const auto replace = [&] {
+        for (const Piece& piece : pieces) count += ReplaceIn(piece, search, *bytes);
+    };
+    OpenUndoGroup();
+    // A pattern may bring line ends with it.
+    if (!options.IsPattern() && hits >= ManyHits)
+        document.m_oSubclass->ChangeMany(replace);
+    else
+        replace();
+    document.m_oSubclass->ParseNow();
+    CloseUndoGroup(&document);
+    return count;
+}
+
 int FindRun::ReplaceAll(const FindOptions& options, const std::string& replacement) {
     if (!DocumentActive() || options.text.empty()) return 0;
     BeginWaitCursor();
     int count = 0;
     const std::vector<Piece> pieces = Pieces(options);
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-        frmDoc* document = pieces[i].document;
-        const ActiveSwap swap(*document);
-        count += ReplaceIn(pieces[i], options, replacement);
-        if (i + 1 < pieces.size() && pieces[i + 1].document == document) continue;
-        // Within the undo step, so that what the parser writes is undone with it.
-        document->m_oSubclass->ParseNow();
-        CloseUndoGroup(document);
+    for (auto piece = pieces.begin(); piece != pieces.end();) {
+        const auto next = std::find_if(piece, pieces.end(),
+                                       [&](const Piece& other) { return other.document != piece->document; });
+        count += ReplaceInDocument({piece, next}, options, replacement);
+        piece = next;
     }
     EndWaitCursor();
     const auto end = Mod_Sci::GetSelectionEnd();
@@ -131,15 +152,19 @@ int FindRun::ReplaceAll(const FindOptions& options, const std::string& replaceme
     return count;
 }
 
-int FindRun::Count(const FindOptions& options) {
-    Reset();
-    if (!DocumentActive() || options.text.empty()) return 0;
+int FindRun::CountIn(const std::vector<Piece>& pieces, const FindOptions& options) const {
     int count = 0;
-    for (const Piece& piece : Pieces(options)) {
+    for (const Piece& piece : pieces) {
         const DocumentSearch search(*piece.document, options);
         for (auto hit = NextIn(piece, search, piece.from); hit;
              hit = NextIn(piece, search, search.Behind(*hit)))
             ++count;
     }
     return count;
+}
+
+int FindRun::Count(const FindOptions& options) {
+    Reset();
+    if (!DocumentActive() || options.text.empty()) return 0;
+    return CountIn(Pieces(options), options);
 }

@@ -3,6 +3,7 @@
 
 #include "host/EditorView.h"
 
+#include <functional>
 #include <memory>
 
 class frmDoc;
@@ -28,6 +29,10 @@ public:
     // Parses what waits and the line that is being edited, although the caret stands on it. An open undo
     // group stays open, so that what the parser writes is undone with the edit.
     virtual void ParseNow() = 0;
+
+    // Runs a change of so many lines that parsing all of them anew is faster than hearing of each. Lines may
+    // not come or go.
+    virtual void ChangeMany(const std::function<void()>& change) = 0;
 };
 
 // The pipeline of a new document.

@@ -4,6 +4,7 @@
 
 #include "editor/CharAdded.h"
 #include "editor/EditorCalls.h"
+#include "editor/SciOptions.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -26,6 +27,23 @@ namespace {
 using namespace Mod_Parse;
 
 constexpr int FoldMargin = 2;
+
+// Nobody hears of changes for as long as it lives.
+class Unheard {
+public:
+    Unheard() { Mod_Sci::SetModEventMask(0); }
+    ~Unheard() { Mod_Sci::SetModEventMask(EventMask); }
+    Unheard(const Unheard&) = delete;
+    Unheard& operator=(const Unheard&) = delete;
+};
+
+std::vector<int> FoldedLines() {
+    std::vector<int> lines;
+    constexpr int Opens = MaskOf(MarkerFoldOpens);
+    for (auto line = Mod_Sci::MarkerNext(0, Opens); line >= 0; line = Mod_Sci::MarkerNext(line + 1, Opens))
+        if (!Mod_Sci::GetFoldExpanded(line)) lines.push_back(static_cast<int>(line));
+    return lines;
+}
 
 // A number as text with a place for its sign.
 std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }
@@ -52,6 +70,29 @@ void cSubclass::ParseNow() {
     if (State().UnparsedLine >= 0) TakeBackEditedLine(true);
     if (State().ParseNeeded.empty()) return;
     ParseQueue();
+    mFrmDoc.Redraw();
+}
+
+void cSubclass::ChangeMany(const std::function<void()>& change) {
+    const ActiveSwap swap(mFrmDoc);
+    ParseNow();
+    const std::vector<int> folded = FoldedLines();
+    ForgetFile();
+    {
+        const Unheard unheard;
+        change();
+        mFrmDoc.SetDirty(true);
+        State().mLastOperationUndoRedo = false;
+        CurrentFunctionName = MainProgram;
+        CurrentLocals = gCurrentProject->MainFunLocals;
+        CurrentTypeName.clear();
+        FoldLevel = 0;
+        IndentLevel = 0;
+        ParseAllLines();
+    }
+    // The parser opens the folds that it comes by.
+    for (const int line : folded)
+        if (HasMarker(line, MarkerFoldOpens) && Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
     mFrmDoc.Redraw();
 }
 
