@@ -205,14 +205,14 @@ void frmFind::Connect() {
             Enable();
             NewRun();
         });
-    cboFind->lineEdit()->installEventFilter(this);
-    cboReplace->lineEdit()->installEventFilter(this);
+    cboFind->installEventFilter(this);
+    cboReplace->installEventFilter(this);
 }
 
 // Enter does what the field is there for.
 bool frmFind::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
-        (watched == cboReplace->lineEdit() ? cmdReplace : cmdFind)->setDefault(true);
+        (watched == cboReplace ? cmdReplace : cmdFind)->setDefault(true);
     return QDialog::eventFilter(watched, event);
 }
 
