@@ -12,9 +12,6 @@
 
 namespace {
 
-// From here on a document is parsed anew as a whole.
-constexpr int ManyHits = 500;
-
 constexpr auto ToTheEnd = std::numeric_limits<std::intptr_t>::max();
 
 void TellUnknownCharacters(const frmDoc& document) {
@@ -110,8 +107,7 @@ int FindRun::ReplaceIn(Piece piece, const DocumentSearch& search, const std::str
 int FindRun::ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptions& options,
                                const std::string& replacement) {
     frmDoc& document = *pieces.front().document;
-    const int hits = CountIn(pieces, options);
-    if (hits == 0) return 0;
+    if (CountIn(pieces, options) == 0) return 0;
     const ActiveSwap swap(document);
     const DocumentSearch search(document, options);
     const auto bytes = search.InDocument(replacement);
@@ -120,16 +116,10 @@ int FindRun::ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptio
         return 0;
     }
     int count = 0;
-    const auto replace = [&] {
-        for (const Piece& piece : pieces) count += ReplaceIn(piece, search, *bytes);
-    };
     OpenUndoGroup();
-    // A pattern may bring line ends with it.
-    if (!options.IsPattern() && hits >= ManyHits)
-        document.m_oSubclass->ChangeMany(replace);
-    else
-        replace();
-    document.m_oSubclass->ParseNow();
+    document.m_oSubclass->ChangeMany([&] {
+        for (const Piece& piece : pieces) count += ReplaceIn(piece, search, *bytes);
+    });
     CloseUndoGroup(&document);
     return count;
 }
@@ -144,6 +134,11 @@ int FindRun::ReplaceAll(const FindOptions& options, const std::string& replaceme
                                        [&](const Piece& other) { return other.document != piece->document; });
         count += ReplaceInDocument({piece, next}, options, replacement);
         piece = next;
+    }
+    // What one document declares now may give the lines of another one other colours.
+    for (const Piece& piece : pieces) {
+        piece.document->State.mOldStartLine = -100;
+        piece.document->Redraw();
     }
     EndWaitCursor();
     const auto end = Mod_Sci::GetSelectionEnd();

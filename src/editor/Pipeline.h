@@ -30,8 +30,8 @@ public:
     // group stays open, so that what the parser writes is undone with the edit.
     virtual void ParseNow() = 0;
 
-    // Runs a change of so many lines that parsing all of them anew is faster than hearing of each. Lines may
-    // not come or go.
+    // Runs a change all over the text that nobody hears of, and parses all lines anew. Indentation stays, and
+    // so do closed folds as long as no line comes or goes.
     virtual void ChangeMany(const std::function<void()>& change) = 0;
 };
 

@@ -77,6 +77,7 @@ void cSubclass::ChangeMany(const std::function<void()>& change) {
     const ActiveSwap swap(mFrmDoc);
     ParseNow();
     const std::vector<int> folded = FoldedLines();
+    const auto lines = Mod_Sci::GetLineCount();
     ForgetFile();
     {
         const Unheard unheard;
@@ -90,9 +91,11 @@ void cSubclass::ChangeMany(const std::function<void()>& change) {
         IndentLevel = 0;
         ParseAllLines();
     }
-    // The parser opens the folds that it comes by.
+    // The parser opens the folds that it comes by. Where lines came or went they cannot be told any more.
     for (const int line : folded)
-        if (HasMarker(line, MarkerFoldOpens) && Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
+        if (lines == Mod_Sci::GetLineCount() && HasMarker(line, MarkerFoldOpens) &&
+            Mod_Sci::GetFoldExpanded(line))
+            Mod_Sci::ToggleFold(line);
     mFrmDoc.Redraw();
 }
 

@@ -148,7 +148,7 @@ void frmFind::cmdReplaceAll_Click() {
         const std::string replacement = Text(cboReplace);
         const int ReplaceCount = run_.ReplaceAll(Options(), replacement);
         ShowRun();
-        lblStatus->setText(tr("%n replacement(s)", nullptr, ReplaceCount));
+        lblStatus->setText(tr("%1 replaced").arg(ReplaceCount));
         Tell("Zolto - Replace All", ReplaceCount, " replacements were made");
         MRUReplace.Add(replacement);
         MRUReplace.Save();
@@ -164,7 +164,7 @@ void frmFind::cmdMarkAll_Click() {
         const int MarkCount = run_.Count(Options());
         EndWaitCursor();
         ShowRun();
-        lblStatus->setText(tr("%n found", nullptr, MarkCount));
+        lblStatus->setText(tr("%1 found").arg(MarkCount));
         Tell("Zolto - Find & Mark All", MarkCount, " marks were added ");
     });
 }

@@ -67,7 +67,9 @@ QPoint Inside(QPoint place, QSize size, const QRect& screen) {
 frmFind::frmFind(QWidget* parent) : QDialog(parent) {
     setObjectName("frmFind");
     setWindowTitle(tr("Find"));
-    setModal(false);
+    // It has a size of its own and no place among the windows.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
     MakeControls();
     Arrange();
     MRUFind.Number = FindEntries;
@@ -136,7 +138,8 @@ void frmFind::Arrange() {
     texts->addWidget(cboReplace, 1, 1);
     texts->setColumnStretch(1, 1);
 
-    auto* checks = new QVBoxLayout;
+    auto* match = new QGroupBox(tr("Options"));
+    auto* checks = new QVBoxLayout(match);
     checks->setSpacing(4);
     for (QCheckBox* box : {chkMatchCase, chkWholeWord, chkWordStart, chkRegExp}) checks->addWidget(box);
     checks->addStretch();
@@ -145,8 +148,8 @@ void frmFind::Arrange() {
                            {tr("&Current File"), tr("Current &Project"), tr("&All Files"), tr("&Selection")});
     auto* options = new QHBoxLayout;
     options->setSpacing(12);
-    options->addLayout(checks, 1);
-    options->addWidget(startAt_, 0, Qt::AlignTop);
+    options->addWidget(match, 1);
+    options->addWidget(startAt_);
     options->addWidget(searchIn);
 
     auto* left = new QVBoxLayout;
@@ -205,14 +208,13 @@ void frmFind::Connect() {
             Enable();
             NewRun();
         });
-    cboFind->installEventFilter(this);
     cboReplace->installEventFilter(this);
 }
 
-// Enter does what the field is there for.
+// Enter replaces in the field that is there for it, and finds everywhere else.
 bool frmFind::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn)
-        (watched == cboReplace ? cmdReplace : cmdFind)->setDefault(true);
+    if (event->type() == QEvent::FocusIn) cmdReplace->setDefault(true);
+    if (event->type() == QEvent::FocusOut) cmdFind->setDefault(true);
     return QDialog::eventFilter(watched, event);
 }
 
