@@ -95,6 +95,7 @@ void frmFind::MakeControls() {
     lblStatus = new QLabel;
     lblStatus->setObjectName("lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
+    lblStatus->setMinimumHeight(lblFind->sizeHint().height()); // the dialog keeps its size without a result
     lblStatus->setAccessibleName(tr("Result"));
     cmdFind = Button("cmdFind", tr("&Find"));
     cmdFindPrev = Button("cmdFindPrev", tr("Find Previous from cursor"));
