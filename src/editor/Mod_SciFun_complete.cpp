@@ -78,10 +78,25 @@ private:
     std::vector<const std::string*> names_; // of records, which outlive the list
 };
 
+// What the view was last asked to show. Written by Show alone.
+struct ShownList {
+    std::intptr_t view = 0;
+    std::intptr_t start = 0;
+    std::string names;
+
+    bool operator==(const ShownList&) const = default;
+} shownList;
+
 void Show(const Candidates& candidates, std::size_t typed) {
     ACForced = false;
     if (candidates.Count() > 0) {
-        Mod_Sci::AutoCShow(static_cast<std::intptr_t>(typed), candidates.Joined().c_str());
+        const auto length = static_cast<std::intptr_t>(typed);
+        ShownList list{SciWndData, Mod_Sci::GetCurrentPos() - length, candidates.Joined()};
+        // The view makes a new window for each list; the one that is open and right stays.
+        if (!Mod_Sci::AutoCActive() || list != shownList) {
+            shownList = std::move(list);
+            Mod_Sci::AutoCShow(length, shownList.names.c_str());
+        }
         if (candidates.Count() == 1 && ACExplicitList && OptionsEdit::ACcompleteOnlyOne && ACExplicitNow)
             Mod_Sci::AutoCComplete();
     }

@@ -37,6 +37,9 @@ void Write(TipText tip) {
 
 std::string Whole(const TipText& tip) { return tip.left + tip.hot + tip.right; }
 
+// An integer's sign goes without saying.
+std::string_view Suffix(std::uint8_t tip) { return tip == TipInteger ? "" : SuffixText[tip]; }
+
 // The parameters of a declaration as its source has them.
 std::vector<std::string> Pieces(std::string_view help, int number) {
     std::vector<std::string> pieces;
@@ -56,7 +59,7 @@ TipText UserTip(const CallAtCaret& call) {
     if (!record) return tip;
     const auto& function = static_cast<const ClsFunkcija&>(*record);
     tip.left = call.name;
-    tip.left += function.Tip == TipCustom ? "." + function.Tajp : std::string(SuffixText[function.Tip]);
+    tip.left += function.Tip == TipCustom ? "." + function.Tajp : std::string(Suffix(function.Tip));
     tip.left += " (";
     const auto pieces = Pieces(function.Help, function.VlezNum);
     for (std::size_t i = 0; i < pieces.size(); ++i) {
@@ -78,7 +81,7 @@ TipText KeywordTip(const CallAtCaret& call) {
     if (keyword == nullptr) return tip;
     const int count = keyword->VlezNum;
     const bool current = call.param >= 1 && call.param <= count;
-    tip.left = call.name + std::string(SuffixText[keyword->Tip]) + " ";
+    tip.left = call.name + std::string(Suffix(keyword->Tip)) + " ";
     if (keyword->ImaZagradi) tip.left += "(";
     for (int i = 1; i <= count; ++i) {
         const std::string& text = keyword->ParametarTekst(i);

@@ -1,5 +1,5 @@
-// What the caret stands in: the call and its parameter, or the line that opened the scope which a closing word
-// ends. Shown in the tip box, and as a call tip in the view.
+// What the caret stands in: the call and its parameter, or the line that opened the scope which a closing
+// word ends. Shown in the tip box, and as a call tip in the view.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Colouring of the line under the caret. What is being typed there is not judged yet: an unknown name is plain
-// text. Each place where the grammar expects a name asks for a completion list.
+// Colouring of the line under the caret. What is being typed there is not judged yet: an unknown name is
+// plain text. Each place where the grammar expects a name asks for a completion list.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClsCompiler.h"
@@ -80,9 +80,13 @@ private:
         const Token& dot = At(index_);
         const auto position = lineStart_ + dot.StartPos;
         Style(lineStart_, dot, 1, static_cast<int>(Mod_Sci::GetStyleAt(position)));
-        const bool behindName = index_ > 1 && At(index_ - 1).Kind == TOK_IDENT;
-        if ((behindName && AskedAt(lineStart_, dot.StartPos + 1)) ||
-            (index_ < count_ && MayOffer(lineStart_, TokenEnd(At(index_ + 1)))))
+        OfferTypesBehind(index_);
+    }
+
+    void OfferTypesBehind(int dot) {
+        const bool behindName = dot > 1 && At(dot - 1).Kind == TOK_IDENT;
+        if ((behindName && AskedAt(lineStart_, At(dot).StartPos + 1)) ||
+            (dot < count_ && MayOffer(lineStart_, TokenEnd(At(dot + 1)))))
             Offer(gEngineCalls.AutocompleteType);
     }
 
@@ -127,10 +131,10 @@ private:
             return Style(lineStart_, At(1), length, STYLE_Text);
         }
         if (MayOffer(lineStart_, At(index_).EndPos)) Offer(gEngineCalls.Autocomplete);
-        if (index_ < count_ && IsAfterName[At(index_ + 1).Kind] && Touches(At(index_), At(index_ + 1)))
-            ColorBadVar(index_, count_, lineStart_, STYLE_Text);
-        else
-            Whole(STYLE_Text);
+        if (index_ == count_ || !IsAfterName[At(index_ + 1).Kind] || !Touches(At(index_), At(index_ + 1)))
+            return Whole(STYLE_Text);
+        if (At(index_ + 1).Kind == '.') OfferTypesBehind(index_ + 1);
+        ColorBadVar(index_, count_, lineStart_, STYLE_Text);
     }
 
     void Keyword(const ClsBBFunkcija& keyword) {
