@@ -87,7 +87,7 @@ constexpr struct {
     {"unfold", [] { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
     {"replace", [] { ReplaceAll("e", "ee"); }},
     {"replace words", [] { ReplaceAll("local", "Global"); }},
-    {"replace many", [] { ActiveForm()->m_oSubclass->ChangeMany([] { ReplaceAll("global", "Local"); }); }},
+    {"replace back", [] { ReplaceAll("global", "Local"); }},
     {"upper case", [] { Mod_Sci::UpperCase(); }},
     {"lower case", [] { Mod_Sci::LowerCase(); }},
 };
