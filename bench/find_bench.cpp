@@ -2,6 +2,7 @@
 // the one hit in the last of many files, commenting many lines and taking that back. Each with the tables up
 // to date and the screen painted.
 #include "Floor.h"
+#include "Keys.h"
 #include "Source.h"
 #include "documents/Mod_File.h"
 #include "editor/FindRun.h"
@@ -12,39 +13,18 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
-#include <QAbstractScrollArea>
-#include <QApplication>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <filesystem>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int Hits = 50000;
 constexpr int Files = 50;
 constexpr const char* Sought = "hitHere";
 constexpr const char* Replacement = "replacedThere";
 
-double Seconds(Clock::time_point start) {
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-QAbstractScrollArea* Widget(EditorView& view) {
-    return static_cast<QAbstractScrollArea*>(static_cast<QWidget*>(view.NativeWidget()));
-}
-
-void Paint(EditorView& view) {
-    Widget(view)->viewport()->repaint();
-    QApplication::processEvents();
-}
-
-void Show(EditorView& view) {
-    Widget(view)->resize(1024, 768);
-    Widget(view)->show();
-    Paint(view);
-}
+void Paint(EditorView& view) { Paint(*Widget(view), false); }
+void Show(EditorView& view) { Show(*Widget(view), {1024, 768}); }
 
 // A long source with one hit in each of its first lines, in what the line does.
 std::string SourceWithHits(int lines) {
@@ -94,21 +74,21 @@ void Floor_ReplaceAll(benchmark::State& state) {
     };
     int count = 0;
     for (auto _ : state) {
-        const auto start = Clock::now();
-        count = 0;
-        send(SCI_BEGINUNDOACTION);
-        send(SCI_SETSEARCHFLAGS, SCFIND_MATCHCASE);
-        for (std::intptr_t from = 0;;) {
-            send(SCI_SETTARGETSTART, static_cast<std::uintptr_t>(from));
-            send(SCI_SETTARGETEND, static_cast<std::uintptr_t>(send(SCI_GETLENGTH)));
-            if (send(SCI_SEARCHINTARGET, std::strlen(Sought), Sought) < 0) break;
-            send(SCI_REPLACETARGET, std::strlen(Replacement), Replacement);
-            from = send(SCI_GETTARGETEND);
-            ++count;
-        }
-        send(SCI_ENDUNDOACTION);
-        Paint(view);
-        state.SetIterationTime(Seconds(start));
+        state.SetIterationTime(Seconds([&] {
+            count = 0;
+            send(SCI_BEGINUNDOACTION);
+            send(SCI_SETSEARCHFLAGS, SCFIND_MATCHCASE);
+            for (std::intptr_t from = 0;;) {
+                send(SCI_SETTARGETSTART, static_cast<std::uintptr_t>(from));
+                send(SCI_SETTARGETEND, static_cast<std::uintptr_t>(send(SCI_GETLENGTH)));
+                if (send(SCI_SEARCHINTARGET, std::strlen(Sought), Sought) < 0) break;
+                send(SCI_REPLACETARGET, std::strlen(Replacement), Replacement);
+                from = send(SCI_GETTARGETEND);
+                ++count;
+            }
+            send(SCI_ENDUNDOACTION);
+            Paint(view);
+        }));
         send(SCI_UNDO);
     }
     state.counters["hits"] = count;
@@ -124,10 +104,10 @@ void ReplaceAll(benchmark::State& state) {
     int count = 0;
     for (auto _ : state) {
         FindRun run;
-        const auto start = Clock::now();
-        count = run.ReplaceAll(options, Replacement);
-        Paint(view);
-        state.SetIterationTime(Seconds(start));
+        state.SetIterationTime(Seconds([&] {
+            count = run.ReplaceAll(options, Replacement);
+            Paint(view);
+        }));
         Mod_Sci::Undo();
         Paint(view);
         Mod_Sci::SetSel(0, 0);
@@ -149,10 +129,10 @@ void FindInTheLastFile(benchmark::State& state) {
         gHost.dock->DocumentWindows().front()->Activate();
         MakeActive(static_cast<frmDoc*>(gHost.dock->DocumentWindows().front()->HostedForm()));
         FindRun run;
-        const auto start = Clock::now();
-        found = run.FindNext(options, true) && found;
-        Paint(*ActiveForm()->View);
-        state.SetIterationTime(Seconds(start));
+        state.SetIterationTime(Seconds([&] {
+            found = run.FindNext(options, true) && found;
+            Paint(*ActiveForm()->View);
+        }));
     }
     if (!found) state.SkipWithError("not found");
 }
@@ -163,14 +143,15 @@ void Comment(benchmark::State& state, bool undo) {
     Show(view);
     for (auto _ : state) {
         Mod_Sci::SelectAll();
-        auto start = Clock::now();
-        Mod_SciFun::CommentSelection();
-        Paint(view);
-        if (!undo) state.SetIterationTime(Seconds(start));
-        start = Clock::now();
-        Mod_Sci::Undo();
-        Paint(view);
-        if (undo) state.SetIterationTime(Seconds(start));
+        const double done = Seconds([&] {
+            Mod_SciFun::CommentSelection();
+            Paint(view);
+        });
+        const double undone = Seconds([&] {
+            Mod_Sci::Undo();
+            Paint(view);
+        });
+        state.SetIterationTime(undo ? undone : done);
         ActiveForm()->SetDirty(false);
     }
 }
