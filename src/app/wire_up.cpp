@@ -19,6 +19,7 @@
 #include "workbench/frmError.h"
 #include "workbench/frmFind.h"
 #include "workbench/frmMain.h"
+#include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
 #include "workbench/frmSplash.h"
 
@@ -26,6 +27,7 @@ namespace {
 
 void WireEditor() {
     gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
+    gEngineCalls.PuniLista = [] { frmMainList::Instance().PuniLista(); };
     gEngineCalls.Autocomplete = Mod_SciFun::Autocomplete;
     gEngineCalls.AutocompleteType = Mod_SciFun::AutocompleteType;
     gEngineCalls.AutocompleteLabel = Mod_SciFun::AutocompleteLabel;
@@ -43,6 +45,7 @@ void WireEditor() {
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
     gDocumentCalls.UnloadFind = [] { frmFind::Unload(); };
+    gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
     gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };
     gDocumentCalls.ShowMainWindow = [] {

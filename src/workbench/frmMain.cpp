@@ -18,6 +18,7 @@
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
+#include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
 
 frmMain& frmMain::Instance() {
@@ -98,8 +99,10 @@ void frmMain::UpdateSciCommandUI() {
 }
 
 void frmMain::AddDockForms(bool addNew) {
-    Guarded("AddDockForms", "frmMain",
-            [&] { AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew); });
+    Guarded("AddDockForms", "frmMain", [&] {
+        AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew);
+        AttachDockForm("CodeExplorer", "Code Explorer", "view-list-tree", frmMainList::Instance(), addNew);
+    });
 }
 
 void frmMain::AttachDockForm(const std::string& pane, const std::string& caption, const std::string& icon,
