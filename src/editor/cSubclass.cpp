@@ -6,6 +6,7 @@
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_edit.h"
+#include "editor/SciOptions.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -33,26 +34,22 @@ using namespace Mod_Parse;
 constexpr int MarkerMargin = 1;
 constexpr int FoldMargin = 2;
 
-// Makes a document the active one for as long as it lives, as if its view had the focus.
-class ActiveSwap {
+// Nobody hears of changes for as long as it lives.
+class Unheard {
 public:
-    explicit ActiveSwap(frmDoc& document)
-        : before_(ActiveForm()), view_(SciWndData), swapped_(gActiveDoc != &document) {
-        if (swapped_) MakeActive(&document);
-    }
-    ~ActiveSwap() {
-        if (!swapped_) return;
-        MakeActive(before_);
-        SciWndData = view_;
-    }
-    ActiveSwap(const ActiveSwap&) = delete;
-    ActiveSwap& operator=(const ActiveSwap&) = delete;
-
-private:
-    frmDoc* before_;
-    std::intptr_t view_;
-    bool swapped_;
+    Unheard() { Mod_Sci::SetModEventMask(0); }
+    ~Unheard() { Mod_Sci::SetModEventMask(EventMask); }
+    Unheard(const Unheard&) = delete;
+    Unheard& operator=(const Unheard&) = delete;
 };
+
+std::vector<int> FoldedLines() {
+    std::vector<int> lines;
+    constexpr int Opens = MaskOf(MarkerFoldOpens);
+    for (auto line = Mod_Sci::MarkerNext(0, Opens); line >= 0; line = Mod_Sci::MarkerNext(line + 1, Opens))
+        if (!Mod_Sci::GetFoldExpanded(line)) lines.push_back(static_cast<int>(line));
+    return lines;
+}
 
 // A number as text with a place for its sign.
 std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }
@@ -79,6 +76,32 @@ void cSubclass::ParseNow() {
     if (State().UnparsedLine >= 0) TakeBackEditedLine(true);
     if (State().ParseNeeded.empty()) return;
     ParseQueue();
+    mFrmDoc.Redraw();
+}
+
+void cSubclass::ChangeMany(const std::function<void()>& change) {
+    const ActiveSwap swap(mFrmDoc);
+    ParseNow();
+    const std::vector<int> folded = FoldedLines();
+    const auto lines = Mod_Sci::GetLineCount();
+    ForgetFile();
+    {
+        const Unheard unheard;
+        change();
+        mFrmDoc.SetDirty(true);
+        State().mLastOperationUndoRedo = false;
+        CurrentFunctionName = MainProgram;
+        CurrentLocals = gCurrentProject->MainFunLocals;
+        CurrentTypeName.clear();
+        FoldLevel = 0;
+        IndentLevel = 0;
+        ParseAllLines();
+    }
+    // The parser opens the folds that it comes by. Where lines came or went they cannot be told any more.
+    for (const int line : folded)
+        if (lines == Mod_Sci::GetLineCount() && HasMarker(line, MarkerFoldOpens) &&
+            Mod_Sci::GetFoldExpanded(line))
+            Mod_Sci::ToggleFold(line);
     mFrmDoc.Redraw();
 }
 

@@ -21,6 +21,7 @@ public:
 
     void DeactivateCheck() override;
     void ParseNow() override;
+    void ChangeMany(const std::function<void()>& change) override;
 
 private:
     void Dispatch(const SciNotification& notification);

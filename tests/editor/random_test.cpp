@@ -3,6 +3,7 @@
 // the last. A series comes from a seed, and one that fails is shrunk before it is told.
 #include "engine/fixture/SourceTest.h"
 
+#include "editor/FindRun.h"
 #include "editor/Mod_SciFun_edit.h"
 #include "host/Paths.h"
 
@@ -61,6 +62,12 @@ constexpr const char* KindNames[] = {"insert line", "paste",     "delete", "dele
                                      "new line",    "backspace", "undo",   "redo",        "move",
                                      "move away",   "drain",     "command"};
 
+void ReplaceAll(const std::string& text, const std::string& by) {
+    FindOptions options;
+    options.text = text;
+    FindRun().ReplaceAll(options, by);
+}
+
 constexpr struct {
     const char* name;
     void (*run)();
@@ -78,6 +85,9 @@ constexpr struct {
     {"breakpoint", [] { Mod_SciFun::ToggleBreakPoint(); }},
     {"fold", [] { Mod_SciFun::FoldEverything(Mod_SciFun::AnyFold); }},
     {"unfold", [] { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
+    {"replace", [] { ReplaceAll("e", "ee"); }},
+    {"replace words", [] { ReplaceAll("local", "Global"); }},
+    {"replace back", [] { ReplaceAll("global", "Local"); }},
     {"upper case", [] { Mod_Sci::UpperCase(); }},
     {"lower case", [] { Mod_Sci::LowerCase(); }},
 };
