@@ -44,6 +44,9 @@ void WireEditor() {
 
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.DocumentWindowActivated = [](DocumentWindow& window) {
+        frmMain::Instance().DS_DocumentWindowActivate(window, false);
+    };
     gDocumentCalls.UnloadFind = [] { frmFind::Unload(); };
     gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };

@@ -62,12 +62,16 @@ std::shared_ptr<frmDoc> ReadDocument(const std::string& path, std::string& reaso
 
 void BindWindow(frmDoc& document, bool documentWindow) {
     DocumentWindow* window = documentWindow ? gHost.dock->FindDocumentWindow(document.FullFilename) : nullptr;
-    if (window != nullptr)
+    const bool cameBack = window != nullptr;
+    if (cameBack) {
         window->Attach(&document);
-    else
+        window->SetCaption(document.Caption()); // an arrangement remembers the star of a dirty document
+    } else {
         window = &gHost.dock->AddDocumentWindow(document.FullFilename, document.Caption(), &document);
+    }
     document.m_strDocumentWindowID = window->Key();
-    window->SetVisible(true);
+    // Showing a window puts it in front; one that came back stands where it was.
+    if (!cameBack || !window->Visible()) window->SetVisible(true);
 }
 
 void ParseUnheard(frmDoc& document, const std::function<void()>& parse) {

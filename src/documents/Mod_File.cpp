@@ -3,6 +3,7 @@
 
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
+#include "documents/LoadMessages.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "documents/RecentFiles.h"
@@ -52,11 +53,6 @@ DocumentWindow* WindowOfFile(const std::string& path) {
     return nullptr;
 }
 
-void TellUnloadable(const std::string& path) {
-    gHost.dialogs->Show(
-        {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
-}
-
 bool CanBeRead(const std::string& path) {
     try {
         gHost.files->Read(path);
@@ -103,7 +99,7 @@ bool ForeignFile(const std::string& path) {
     switch (gHost.files->Kind(path)) {
     case PathKind::File: gHost.files->OpenWithDesktop(path); return true;
     case PathKind::None:
-        gHost.dialogs->Show({"File: " + path + " does not exists !", MessageIcon::Exclamation});
+        TellLoadFailure({"File: " + path + " does not exists !", MessageIcon::Exclamation});
         return true;
     default: return false; // a folder or a device is refused by the attempt to load it
     }
@@ -150,7 +146,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     }
     MakeActive(document.get());
     Mod_Sci::EmptyUndoBuffer();
-    Mod_Sci::GrabFocus();
+    if (!documentWindow) Mod_Sci::GrabFocus(); // a workspace gives it to one document at its end
     AddRecentFile(path);
     if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
     return true;

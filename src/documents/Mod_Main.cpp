@@ -4,6 +4,7 @@
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -23,6 +24,7 @@ namespace {
 
 constexpr int WaitRounds = 31; // for a first instance that has not published its handle yet
 constexpr const char* BringForward = "Aktiviraj";
+constexpr int StartUpLastWorkspace = 1;
 constexpr int StartUpNewFile = 2;
 constexpr int StrictBadStyle = 16;
 
@@ -61,6 +63,8 @@ bool Main(const std::string& commandLine) {
         // Painting stays frozen until the first document is there: an empty window is painted for nothing.
         if (!commandLine.empty())
             Mod_File::OpenFilesFromCommand(commandLine);
+        else if (Options::gStartUp == StartUpLastWorkspace)
+            Mod_File::LoadWorkSpace(Mod_File::LastWorkspace());
         else if (Options::gStartUp == StartUpNewFile)
             Mod_File::NewFile();
         gHost.desktop->LockWindowUpdate(false);

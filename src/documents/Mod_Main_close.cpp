@@ -4,6 +4,7 @@
 #include "documents/ClsMRU.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"
 #include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
@@ -100,6 +101,7 @@ void QueryUnload(bool& cancel) {
     Guarded("Form_QueryUnload", "frmMain", [&] {
         gHost.settings->Save("Instance", "Handle", "0");
         if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
+        Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
         if (!CloseDocuments()) {
             cancel = true;
             return;

@@ -1,9 +1,11 @@
 // Project files: plain text, blocks found by whole lines, values between quotes without escaping.
 #include "documents/Mod_Project.h"
 
+#include "documents/BlockText.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/DocumentLoading.h"
+#include "documents/LoadMessages.h"
 #include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -23,24 +25,6 @@ namespace {
 
 constexpr const char* Header = "[Zolto Project file]";
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t end = std::min(text.find('\n', from), text.size());
-        std::string line = text.substr(from, end - from);
-        if (line.ends_with('\r')) line.pop_back();
-        lines.push_back(std::move(line));
-        from = end + 1;
-    }
-    return lines;
-}
-
-bool IsTrue(const std::string& text) { return EqualNoCase(text, "True"); }
-std::string Boolean(bool value) { return value ? "True" : "False"; }
-std::string Value(const char* key, const std::string& value) {
-    return std::string(" ") + key + "=\"" + value + "\"";
-}
-
 // The part of a path in the data's form up to its last backslash, and what stands behind it.
 std::string Behind(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 std::string InFront(const std::string& path) {
@@ -53,34 +37,34 @@ std::string MemberPath(const ClsProject& project, const clsFile& file) {
 }
 
 void ReadSettings(ClsProject& project, const std::string& text) {
-    project.Expanded = IsTrue(Attribute(text, "Expanded"));
-    project.MainFile = Attribute(text, "MainFile");
-    project.Compiler = Attribute(text, "Compiler");
-    project.CommandLine = Attribute(text, "CommandLine");
-    project.Icon = Attribute(text, "Icon");
+    project.Expanded = IsBlockTrue(BlockAttribute(text, "Expanded"));
+    project.MainFile = BlockAttribute(text, "MainFile");
+    project.Compiler = BlockAttribute(text, "Compiler");
+    project.CommandLine = BlockAttribute(text, "CommandLine");
+    project.Icon = BlockAttribute(text, "Icon");
 }
 
 void ReadFolder(ClsProject& project, const std::string& line) {
     auto folder = std::make_shared<clsFolder>();
-    folder->AbsPath = Attribute(line, "AbsPath");
-    folder->Expanded = IsTrue(Attribute(line, "Expanded"));
+    folder->AbsPath = BlockAttribute(line, "AbsPath");
+    folder->Expanded = IsBlockTrue(BlockAttribute(line, "Expanded"));
     CompleteFolder(*folder, project);
     DodajFolderSorted(std::move(folder), project);
 }
 
 void ReadFile(ClsProject& project, const std::string& line) {
     auto file = std::make_shared<clsFile>();
-    file->AbsPath = ToData(Attribute(line, "AbsPath"));
-    file->PrjFolder = Attribute(line, "PrjFolder");
-    file->Line = std::atoi(Attribute(line, "Line").c_str());
-    file->Column = std::atoi(Attribute(line, "Column").c_str());
-    file->Tip = std::atoi(Attribute(line, "Tip").c_str());
-    file->Visible = IsTrue(Attribute(line, "Visible"));
+    file->AbsPath = ToData(BlockAttribute(line, "AbsPath"));
+    file->PrjFolder = BlockAttribute(line, "PrjFolder");
+    file->Line = std::atoi(BlockAttribute(line, "Line").c_str());
+    file->Column = std::atoi(BlockAttribute(line, "Column").c_str());
+    file->Tip = std::atoi(BlockAttribute(line, "Tip").c_str());
+    file->Visible = IsBlockTrue(BlockAttribute(line, "Visible"));
     file->TreeParent = project.Name + file->PrjFolder;
     file->Name = Behind(file->AbsPath);
     const std::string path = MemberPath(project, *file);
     if (gHost.files->Kind(path) == PathKind::None) {
-        gHost.dialogs->Show({" File " + path + " that is part of this project is missing " +
+        Mod_File::TellLoadFailure({" File " + path + " that is part of this project is missing " +
                                  "\r\n This file will be removed from this project",
                              MessageIcon::Exclamation, "File not found"});
         return;
@@ -92,7 +76,8 @@ void ReadFile(ClsProject& project, const std::string& line) {
 std::string AlreadyOpenMember(const ClsProject& project) {
     for (const auto& entry : project.Files) {
         std::string path = MemberPath(project, *entry.record);
-        if (gHost.dock->FindDocumentWindow(path) != nullptr) return path;
+        const DocumentWindow* window = gHost.dock->FindDocumentWindow(path);
+        if (window != nullptr && window->HostedForm() != nullptr) return path;
     }
     return {};
 }
@@ -103,8 +88,7 @@ void OpenMembers(ClsProject& project, bool fromWorkspace) {
     for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
     for (const std::string& path : paths)
         if (!Mod_File::OpenProjectsFile(path, fromWorkspace))
-            gHost.dialogs->Show(
-                {"Could not load file:\r\n" + path, MessageIcon::Critical, "File Could Not Be Loaded!"});
+            Mod_File::TellUnloadable(path);
     gHost.desktop->SetWaitCursor(false);
 }
 
@@ -142,15 +126,6 @@ int SortedPlace(const Collection& collection, const Record& record) {
 
 } // namespace
 
-std::string Attribute(const std::string& line, const std::string& key) {
-    const std::string start = key + "=\"";
-    const std::size_t at = line.find(start);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + start.size();
-    const std::size_t end = line.find('"', from);
-    return end == std::string::npos ? std::string() : line.substr(from, end - from);
-}
-
 void CompleteFolder(clsFolder& folder, const ClsProject& project) {
     folder.FullPath = project.Path + ToDisk(folder.AbsPath);
     folder.TreeParent = project.Name + InFront(folder.AbsPath);
@@ -171,7 +146,7 @@ void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project) {
 
 bool BuildProjectFromFile(const std::string& path, ClsProject& project) {
     return Guarded("BuildProjectFromFile", "Mod_File", false, [&] {
-        const std::vector<std::string> lines = Lines(gHost.files->Read(path));
+        const std::vector<std::string> lines = BlockLines(gHost.files->Read(path));
         project.FullPath = path;
         project.Path = GetFolder(path);
         project.Name = GetFileName(path);
@@ -207,25 +182,23 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         }
         auto project = std::make_shared<ClsProject>();
         if (!BuildProjectFromFile(path, *project)) {
-            gHost.dialogs->Show({"Not a valid project file !", MessageIcon::Critical});
+            Mod_File::TellLoadFailure({"Not a valid project file !", MessageIcon::Critical});
             return false;
         }
         if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
         Mod_Main::SetActiveCompiler(project->Compiler);
         if (gProjects.Exist_Key(project->FullPath)) {
-            gHost.dialogs->Show({"Project is already loaded", MessageIcon::Exclamation});
+            Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
             return false;
         }
-        if (!fromWorkspace) {
-            if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
-                gHost.dialogs->Show(
+        if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
+                Mod_File::TellLoadFailure(
                     {"Some of the files in this project are already opened in Zolto as single file "
                      "or as part of another project:\r\n" +
                          open + "\r\nSorry, in this release you can't have same file opened multiple times",
                      MessageIcon::Exclamation, "Project loading aborted..."});
                 return false;
             }
-        }
         gProjects.Add(project, project->FullPath);
         {
             const PipelineRest rest;
@@ -235,7 +208,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         Mod_File::AddRecentProject(path);
         if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
         if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
-        if (SciWndData != 0) Mod_Sci::GrabFocus();
+        if (SciWndData != 0 && !fromWorkspace) Mod_Sci::GrabFocus();
         return true;
     });
 }
@@ -243,20 +216,20 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
 bool SaveProject(ClsProject& project) {
     return Guarded("SaveProject", "Mod_File", false, [&] {
         std::string text = std::string(Header) + "\r\n<Settings>\r\n";
-        text += Value("Version", "1") + "\r\n" + Value("Expanded", Boolean(project.Expanded)) + "\r\n" +
-                Value("Icon", project.Icon) + "\r\n" + Value("MainFile", project.MainFile) + "\r\n" +
-                Value("Compiler", project.Compiler) + "\r\n" + Value("CommandLine", project.CommandLine) +
+        text += BlockValue("Version", "1") + "\r\n" + BlockValue("Expanded", BlockBoolean(project.Expanded)) + "\r\n" +
+                BlockValue("Icon", project.Icon) + "\r\n" + BlockValue("MainFile", project.MainFile) + "\r\n" +
+                BlockValue("Compiler", project.Compiler) + "\r\n" + BlockValue("CommandLine", project.CommandLine) +
                 "\r\n";
         text += "</Settings>\r\n<Folders>\r\n";
         for (const auto& entry : project.Folders)
-            text += Value("AbsPath", entry.record->AbsPath) +
-                    Value("Expanded", Boolean(entry.record->Expanded)) + "\r\n";
+            text += BlockValue("AbsPath", entry.record->AbsPath) +
+                    BlockValue("Expanded", BlockBoolean(entry.record->Expanded)) + "\r\n";
         text += "</Folders>\r\n<Files>\r\n";
         for (const auto& entry : project.Files) {
             const clsFile& file = *entry.record;
-            text += Value("AbsPath", file.AbsPath) + Value("PrjFolder", file.PrjFolder) +
-                    Value("Line", std::to_string(file.Line)) + Value("Column", std::to_string(file.Column)) +
-                    Value("Tip", std::to_string(file.Tip)) + Value("Visible", Boolean(file.Visible)) + "\r\n";
+            text += BlockValue("AbsPath", file.AbsPath) + BlockValue("PrjFolder", file.PrjFolder) +
+                    BlockValue("Line", std::to_string(file.Line)) + BlockValue("Column", std::to_string(file.Column)) +
+                    BlockValue("Tip", std::to_string(file.Tip)) + BlockValue("Visible", BlockBoolean(file.Visible)) + "\r\n";
         }
         text += "</Files>\r\n";
         gHost.files->Write(project.FullPath, text);

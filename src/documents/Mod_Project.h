@@ -18,8 +18,6 @@ bool CloseProject(std::shared_ptr<ClsProject> project);
 // Insert by name, without regard to case, behind equal names.
 void DodajFileSorted(std::shared_ptr<clsFile> file, ClsProject& project);
 void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project);
-// The value of key="..." in a line, empty where it is not there.
-std::string Attribute(const std::string& line, const std::string& key);
 // A category's Name, FullPath and TreeParent from its AbsPath.
 void CompleteFolder(clsFolder& folder, const ClsProject& project);
 

@@ -88,11 +88,13 @@ private:
 
 RecentList files("FileRecentFiles", "RecentFilenames");
 RecentList projects("FileRecentProjects", "RecentProjects");
+RecentList workspaces("FileRecentWorkspaces", "RecentWorkspaces");
 
 } // namespace
 
 void AddRecentFile(const std::string& path) { files.Add(path); }
 void AddRecentProject(const std::string& path) { projects.Add(path); }
+void AddRecentWorkspace(const std::string& path) { workspaces.Add(path); }
 void ClearRecentFiles() { files.Clear(); }
 void ClearRecentProjects() { projects.Clear(); }
 
@@ -100,6 +102,7 @@ void LoadRecentFilesProjects() {
     Guarded("LoadRecentFilesProjects", "Mod_File", [] {
         files.Load();
         projects.Load();
+        workspaces.Load();
     });
 }
 
@@ -107,10 +110,12 @@ void SaveRecentFilesProjects() {
     Guarded("SaveRecentFilesProjects", "Mod_File", [] {
         files.Save();
         projects.Save();
+        workspaces.Save();
     });
 }
 
 std::optional<std::string> RecentFile(int item) { return files.Choose(item); }
 std::optional<std::string> RecentProject(int item) { return projects.Choose(item); }
+std::optional<std::string> RecentWorkspace(int item) { return workspaces.Choose(item); }
 
 } // namespace Mod_File

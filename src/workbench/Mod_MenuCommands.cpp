@@ -2,7 +2,6 @@
 #include "workbench/Mod_MenuCommands.h"
 
 #include "documents/ClsMRU.h"
-#include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -105,27 +104,6 @@ void CloseFile() {
     if (!document) return;
     if (DocumentWindow* window = gHost.dock->FindDocumentWindow(document->m_strDocumentWindowID))
         window->SetVisible(false);
-}
-
-void CloseAllFiles() {
-    Guarded("CloseAllFiles", "Mod_MenuCommands", [] {
-        std::vector<std::string> keys;
-        for (const DocumentWindow* window : gHost.dock->DocumentWindows()) keys.push_back(window->Key());
-        for (const std::string& key : keys) {
-            DocumentWindow* window = gHost.dock->FindDocumentWindow(key);
-            if (!window || key == HelpWindowKey) continue;
-            const auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
-            if (!document || !document->SingleFile) continue;
-            window->SetVisible(false);
-            // The look-up is made again, for a window that closed is gone.
-            const DocumentWindow* left = gHost.dock->FindDocumentWindow(key);
-            if (left && left->Visible()) return;
-        }
-        for (int index = gProjects.Count() - 1; index >= 0; --index) {
-            const auto project = gProjects.Item(index);
-            if (!project->SingleFile) Mod_Project::CloseProject(project);
-        }
-    });
 }
 
 void NextFileTab() {

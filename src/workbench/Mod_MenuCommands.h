@@ -42,8 +42,6 @@ void ToggleStatusBar();
 void ExploreFocusOn(const std::string& word);
 void AskGotoLine();
 void CloseFile();
-// Closes single files, then projects; a close that the user cancels ends it.
-void CloseAllFiles();
 // The next tab of the group, or the one before with gTabbingStartsWithPrevious.
 void NextFileTab();
 void ActivateWindow(int index);

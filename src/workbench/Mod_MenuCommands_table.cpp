@@ -1,7 +1,9 @@
 // The routing table: every command of the program with its routine, in routing order. A flat table.
 #include "workbench/Mod_MenuCommands.h"
 
+#include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"
 #include "documents/RecentFiles.h"
 #include "editor/Mod_SciFun_bookmarks.h"
@@ -168,10 +170,10 @@ const std::vector<RoutedCommand>& Routes() {
         {"Save All Files", [](const Click&) { Mod_File::SaveAllFiles(); }},
         {"Save File As", SaveActiveAs},
         {"Close File", [](const Click&) { CloseFile(); }},
-        {"Close All Files", [](const Click&) { CloseAllFiles(); }},
-        {"Load Last Workspace", nullptr},
-        {"Open Workspace", nullptr},
-        {"Save Workspace As", nullptr},
+        {"Close All Files", [](const Click&) { Mod_File::CloseAllFiles(); }},
+        {"Load Last Workspace", [](const Click&) { Mod_File::LoadWorkSpace(Mod_File::LastWorkspace()); }},
+        {"Open Workspace", Run<Mod_File::OpenWorkspace>},
+        {"Save Workspace As", Run<Mod_File::SaveWorkSpaceAs>},
         {"Next File Tab", [](const Click&) { NextFileTab(); }},
         {"Previous File Tab", [](const Click&) { gHost.dock->NextTab(-1); }},
         {"Exit", [](const Click&) { gHost.dock->CloseWindow(); }},
@@ -188,6 +190,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"Add Folder With Files", nullptr},
         {"FileRecentFiles", OpenRecentFile},
         {"FileRecentProjects", OpenRecentProject},
+        {"FileRecentWorkspaces", [](const Click& click) { Mod_File::OpenRecentWorkspace(click.item); }},
         {"WindowList", [](const Click& click) { ActivateWindow(click.item); }},
         {"New Horizontal Tab Group", [](const Click&) { gHost.dock->NewTabGroup(false); }},
         {"New Vertical Tab Group", [](const Click&) { gHost.dock->NewTabGroup(true); }},

@@ -1,0 +1,221 @@
+// Saving and loading workspaces.
+#include "documents/Mod_File_workspace.h"
+
+#include "documents/CloseFiles.h"
+#include "documents/DocumentCalls.h"
+#include "documents/LoadMessages.h"
+#include "documents/Mod_File.h"
+#include "documents/Mod_Project.h"
+#include "documents/RecentFiles.h"
+#include "documents/WorkspaceText.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsProject.h"
+#include "host/Dialogs.h"
+#include "host/ErrorLog.h"
+#include "host/Failure.h"
+#include "host/Files.h"
+#include "host/Host.h"
+#include "host/Paths.h"
+#include "sci/Mod_Sci.h"
+
+#include <algorithm>
+
+namespace Mod_File {
+
+namespace {
+
+constexpr const char* HelpWindow = "HELP WINDOW";
+constexpr const char* Filter = "Workspaces (*.zws)|*.zws|All Files|*.*";
+constexpr const char* KnownVersion = "1";
+
+bool loading = false;
+
+// Nothing is painted, and nobody saves a workspace, while windows come and go.
+class LoadingScope {
+public:
+    LoadingScope() {
+        loading = true;
+        gHost.dock->SuspendRepaint(true);
+    }
+    ~LoadingScope() {
+        gHost.dock->SuspendRepaint(false);
+        loading = false;
+    }
+    LoadingScope(const LoadingScope&) = delete;
+    LoadingScope& operator=(const LoadingScope&) = delete;
+};
+
+frmDoc* DocumentOf(const DocumentWindow& window) {
+    return window.Key() == HelpWindow ? nullptr : static_cast<frmDoc*>(window.HostedForm());
+}
+
+WorkspaceView ViewOf(const frmDoc& document) {
+    const auto ask = [&](unsigned message, std::intptr_t w = 0) {
+        return static_cast<long>(Mod_Sci::SendTo(document.SciEdi_WndData, message, w));
+    };
+    return {document.FullFilename, ask(SCI_GETCURRENTPOS), ask(SCI_GETANCHOR),
+            ask(SCI_DOCLINEFROMVISIBLE, ask(SCI_GETFIRSTVISIBLELINE))};
+}
+
+Workspace Present() {
+    Workspace workspace;
+    workspace.windows = gHost.dock->WindowsText();
+    if (const frmDoc* document = ActiveForm()) workspace.caret = ViewOf(*document).caret;
+    for (const auto& entry : gProjects) {
+        const ClsProject& project = *entry.record;
+        if (project.FullPath.starts_with("{")) continue;
+        workspace.entries.push_back({project.FullPath, project.SingleFile});
+        for (const auto& source : project.Sources)
+            if (!source.record->NewFile)
+                workspace.views.push_back(ViewOf(static_cast<const frmDoc&>(*source.record)));
+    }
+    return workspace;
+}
+
+bool Write(const std::string& path) {
+    return Guarded("SaveWorkSpace", "Mod_File", false, [&] {
+        if (loading) return false;
+        gHost.files->MakeFolders(GetFolder(path));
+        gHost.files->Write(path, WorkspaceText(Present()));
+        return true;
+    });
+}
+
+// The text of an arrangement makes windows anew, so the help window's form waits outside meanwhile.
+void TakeHelpAside() {
+    DocumentWindow* help = gHost.dock->FindDocumentWindow(HelpWindow);
+    if (help == nullptr) return;
+    help->Attach(nullptr);
+    gHost.dock->DropDocumentWindow(*help);
+}
+
+void Arrange(const Workspace& workspace, LoadMessages& messages) {
+    if (workspace.windows.empty()) return;
+    try {
+        gHost.dock->SetWindowsText(workspace.windows);
+    } catch (const Failure&) {
+        messages.Add({"The arrangement of the windows could not be read."});
+    }
+}
+
+void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
+    messages.About(entry.path);
+    // A document that was never saved has no file, whatever stands in the folder that the program runs in.
+    const bool named = entry.path.find('/') != std::string::npos;
+    if (!named || (!entry.single && gHost.files->Kind(gHost.files->Find(entry.path)) == PathKind::None))
+        return TellUnloadable(entry.path);
+    if (entry.single)
+        OpenFile(entry.path, true);
+    else if (!gProjects.Exist_Key(entry.path))
+        Mod_Project::LoadProject(entry.path, true);
+}
+
+// Windows whose documents did not come go again.
+void CleanUp() {
+    for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
+        Form* form = window->HostedForm();
+        if (form == nullptr && window->Key() == HelpWindow && gDocumentCalls.HelpForm) {
+            form = gDocumentCalls.HelpForm();
+            window->Attach(form);
+        }
+        if (form == nullptr) gHost.dock->DropDocumentWindow(*window);
+    }
+}
+
+// A place that the text no longer has is left out, since the file may have been changed meanwhile.
+void ShowView(const frmDoc& document, const WorkspaceView& view) {
+    const auto send = [&](unsigned message, std::intptr_t w = 0, std::intptr_t l = 0) {
+        return Mod_Sci::SendTo(document.SciEdi_WndData, message, w, l);
+    };
+    const auto length = send(SCI_GETLENGTH);
+    if (view.caret <= length && view.anchor <= length) send(SCI_SETSEL, view.anchor, view.caret);
+    if (view.top < send(SCI_GETLINECOUNT))
+        send(SCI_SETFIRSTVISIBLELINE, send(SCI_VISIBLEFROMDOCLINE, view.top));
+}
+
+void ShowViews(const Workspace& workspace) {
+    for (const WorkspaceView& view : workspace.views)
+        if (const DocumentWindow* window = gHost.dock->FindDocumentWindow(view.path))
+            if (const frmDoc* document = DocumentOf(*window)) ShowView(*document, view);
+}
+
+// The window in front is so without having told of it, or it told before it had a document.
+void Activate(const Workspace& workspace) {
+    DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
+    const auto windows = gHost.dock->DocumentWindows();
+    if (window == nullptr && !windows.empty()) {
+        windows.front()->Activate();
+        window = gHost.dock->ActiveDocumentWindow();
+    }
+    MakeActive(window == nullptr ? nullptr : DocumentOf(*window));
+    if (window == nullptr) return;
+    if (gDocumentCalls.DocumentWindowActivated) gDocumentCalls.DocumentWindowActivated(*window);
+    const frmDoc* document = ActiveForm();
+    const bool known = document == nullptr ||
+                       std::any_of(workspace.views.begin(), workspace.views.end(),
+                                   [&](const WorkspaceView& view) {
+                                       return EqualNoCase(view.path, document->FullFilename);
+                                   });
+    if (!known && workspace.caret < Mod_Sci::GetLength()) Mod_Sci::GotoPos(workspace.caret);
+}
+
+void Restore(const Workspace& workspace) {
+    LoadMessages messages;
+    {
+        const LoadingScope scope;
+        TakeHelpAside();
+        if (!workspace.whole)
+            messages.Add({"The workspace file is incomplete. What could be read of it was loaded."});
+        else if (workspace.version != KnownVersion)
+            messages.Add({"The workspace file is of another version. What is known of it was loaded."});
+        Arrange(workspace, messages);
+        for (const WorkspaceEntry& entry : workspace.entries) Open(entry, messages);
+        CleanUp();
+        ShowViews(workspace);
+        Activate(workspace);
+    }
+    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    messages.Show();
+}
+
+} // namespace
+
+void SaveWorkSpace(const std::string& path) { Write(path); }
+
+bool LoadWorkSpace(const std::string& path) {
+    return Guarded("LoadWorkSpace", "Mod_File", false, [&] {
+        if (loading) return false;
+        if (gHost.files->Kind(path) == PathKind::None) {
+            gHost.dialogs->Show({"No valid workspace file found !", MessageIcon::Exclamation});
+            return false;
+        }
+        const auto workspace = ReadWorkspaceText(gHost.files->Read(path));
+        if (!workspace) {
+            gHost.dialogs->Show({"Invalid workspace file !", MessageIcon::Critical});
+            return false;
+        }
+        if (!CloseAllFiles()) return false;
+        Restore(*workspace);
+        return true;
+    });
+}
+
+void SaveWorkSpaceAs() {
+    std::string path = gHost.dialogs->SaveFile({"Save Workspace As", Filter, {}, {}});
+    if (path.empty()) return;
+    if (Write(path)) AddRecentWorkspace(path);
+}
+
+void OpenWorkspace() {
+    const auto chosen = gHost.dialogs->OpenFiles({"Open Workspace", Filter, {}, {}, false});
+    if (!chosen.empty() && LoadWorkSpace(chosen[0])) AddRecentWorkspace(chosen[0]);
+}
+
+void OpenRecentWorkspace(int item) {
+    const auto path = RecentWorkspace(item);
+    if (path && LoadWorkSpace(*path)) AddRecentWorkspace(*path);
+}
+
+std::string LastWorkspace() { return AppPath("Conf\\LastWorkspace.zws"); }
+
+} // namespace Mod_File
