@@ -146,6 +146,14 @@ public:
     virtual void DropDocumentWindow(DocumentWindow& window) = 0;
     virtual void NextTab(int step) = 0; // of the active tab group
     virtual void NewTabGroup(bool vertical) = 0;
+    // Moves the active document window into the tab group behind its own (1) or before it (-1).
+    virtual void MoveToTabGroup(int step) = 0;
+
+    // The document windows with their keys, captions and groups, as one line without a double quote.
+    virtual std::string WindowsText() = 0;
+    // Makes the document windows of such a text, without forms where they aren't there yet, and puts all of
+    // them in their places. Throws a Failure and changes nothing when the text is damaged.
+    virtual void SetWindowsText(const std::string& text) = 0;
 
     virtual void SuspendRepaint(bool suspend) = 0;
 

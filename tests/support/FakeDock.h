@@ -116,6 +116,9 @@ public:
     void DropDocumentWindow(DocumentWindow& window) override;
     void NextTab(int step) override;
     void NewTabGroup(bool vertical) override { groups.push_back(vertical); }
+    void MoveToTabGroup(int) override {}
+    std::string WindowsText() override { return windowsText; }
+    void SetWindowsText(const std::string& text) override { windowsText = text; }
     void SuspendRepaint(bool suspend) override { suspended += suspend ? 1 : -1; }
     void LoadLayout(const std::string& path) override;
     void SaveLayout(const std::string& path) override { savedLayouts.push_back(path); }
@@ -132,6 +135,7 @@ public:
     std::vector<std::string> shownPopups, loadedLayouts, savedLayouts;
     std::vector<std::string> missingLayouts; // loading one of these fails
     std::vector<bool> groups;
+    std::string windowsText;
     WindowPlace place;
     bool shown = false, closed = false;
     int suspended = 0, broughtToFront = 0;

@@ -37,6 +37,9 @@ public:
     void DropDocumentWindow(DocumentWindow& window) override;
     void NextTab(int) override {}
     void NewTabGroup(bool) override {}
+    void MoveToTabGroup(int) override {}
+    std::string WindowsText() override { return {}; }
+    void SetWindowsText(const std::string&) override {}
 
     void SuspendRepaint(bool) override {}
     void LoadLayout(const std::string&) override {}

@@ -159,6 +159,9 @@ std::vector<DocumentWindow*> QtDockStudio::DocumentWindows() { return area_->Win
 void QtDockStudio::DropDocumentWindow(DocumentWindow& window) { area_->Drop(window); }
 void QtDockStudio::NextTab(int step) { area_->NextTab(step); }
 void QtDockStudio::NewTabGroup(bool vertical) { area_->NewTabGroup(vertical); }
+void QtDockStudio::MoveToTabGroup(int step) { area_->MoveToGroup(step); }
+std::string QtDockStudio::WindowsText() { return DocumentsToLine(area_->Record()); }
+void QtDockStudio::SetWindowsText(const std::string& text) { area_->Restore(DocumentsFromLine(text), true); }
 
 void QtDockStudio::SuspendRepaint(bool suspend) {
     suspended_ += suspend ? 1 : -1;

@@ -38,6 +38,9 @@ public:
     void DropDocumentWindow(DocumentWindow& window) override;
     void NextTab(int step) override;
     void NewTabGroup(bool vertical) override;
+    void MoveToTabGroup(int step) override;
+    std::string WindowsText() override;
+    void SetWindowsText(const std::string& text) override;
     void SuspendRepaint(bool suspend) override;
 
     void LoadLayout(const std::string& path) override;
