@@ -61,7 +61,9 @@ class DockPane {
 public:
     virtual ~DockPane() = default;
     virtual bool Visible() const = 0;
+    // Rolled away to an edge of the window, from where it slides out on demand. It counts as visible.
     virtual bool AutoHidden() const = 0;
+    virtual void SetAutoHidden(bool autoHidden) = 0;
     virtual void Show() = 0; // and gives it the focus
     virtual void Hide() = 0;
 };
@@ -93,6 +95,10 @@ public:
                                                bool& cancel) = 0;
     virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
     virtual void DS_PaneShown(const std::string& pane, bool shown) = 0;
+    // A pane begins to be dragged, or was let go.
+    virtual void DS_PaneDragged(const std::string& pane, bool begins) = 0;
+    // The user begins to change commands, keys and bars, or has ended it.
+    virtual void DS_Customization(bool begins) = 0;
     // A shortcut is about to fire; when cancelled the key goes on to the focused widget.
     virtual void DS_ShortcutFiring(DockCommand& command, bool& cancel) = 0;
     virtual void DS_FilesDropped(const std::vector<std::string>& paths) = 0;
@@ -157,9 +163,18 @@ public:
 
     virtual void SuspendRepaint(bool suspend) = 0;
 
+    // Opens the window in which the user changes keys, bars and menus. It stays open beside the main window.
+    virtual void Customize() = 0;
+    // Takes a command out of a bar or pop-up; nothing where it is not there.
+    virtual void RemoveFromBar(const std::string& bar, const std::string& command) = 0;
+
     // The whole arrangement. Loading throws a Failure and changes nothing when the file is missing or
-    // damaged; saving throws when it could not be written.
+    // damaged; saving throws when it could not be written. What is loaded first is the factory's
+    // arrangement: later ones gain what they don't know of it, and loading that file again brings back all
+    // of it.
     virtual void LoadLayout(const std::string& path) = 0;
+    // The factory's arrangement from a text, for when its file cannot be read.
+    virtual void LoadFactoryText(const std::string& text) = 0;
     virtual void SaveLayout(const std::string& path) = 0;
 
     virtual WindowPlace Place() = 0;

@@ -15,6 +15,7 @@
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
+#include "workbench/FactoryLayout.h"
 #include "workbench/frmOutput.h"
 
 frmMain& frmMain::Instance() {
@@ -26,7 +27,7 @@ void frmMain::Form_Load() {
     Guarded("Form_Load", "frmMain", [this] {
         gHost.settings->Save("Instance", "Handle", gHost.instances->Publish(Mod_Main::TextReceived));
         gHost.dock->SetEvents(this);
-        gHost.dock->LoadLayout(AppPath("Layout.mp"));
+        LoadFactoryLayout();
         try {
             gHost.dock->LoadLayout(AppPath("Layouts\\Layout0.8_0.mp"));
         } catch (const Failure&) {
@@ -121,6 +122,16 @@ void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
     for (const auto& toggle : Toggles)
         if (pane == toggle.pane)
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
+}
+
+// The lists stop painting while their pane is on the move; they are no part of this window yet.
+void frmMain::DS_PaneDragged(const std::string&, bool) {}
+
+// The context menu of the text stands in the menu bar for as long as the user can edit it there.
+void frmMain::DS_Customization(bool begins) {
+    if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);
+    gHost.dock->RemoveFromBar("MainMenu", "PopupMenu1");
+    ApplyCommandsAutoRepeat();
 }
 
 void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {

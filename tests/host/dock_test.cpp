@@ -54,6 +54,10 @@ struct Recorder : DockStudioEvents {
     void DS_PaneShown(const std::string& pane, bool shown) override {
         events.push_back("pane " + pane + (shown ? " on" : " off"));
     }
+    void DS_PaneDragged(const std::string& pane, bool begins) override {
+        events.push_back((begins ? "drag " : "let go ") + pane);
+    }
+    void DS_Customization(bool begins) override { events.push_back(begins ? "customize" : "customized"); }
     void DS_ShortcutFiring(DockCommand&, bool& cancel) override { cancel = cancelShortcut; }
     void DS_FilesDropped(const std::vector<std::string>&) override {}
     void DS_QueryUnload(bool& cancel) override {

@@ -73,6 +73,10 @@ void FakeDock::InsertIntoBar(const std::string& bar, const std::string& command,
     names.insert(names.begin() + (index < 0 || index > size ? size : index), command);
 }
 
+void FakeDock::RemoveFromBar(const std::string& bar, const std::string& command) {
+    std::erase(entries[bar], command);
+}
+
 DockBar* FakeDock::FindBar(const std::string& name) {
     const auto at = bars.find(name);
     return at == bars.end() ? nullptr : &at->second;

@@ -67,6 +67,7 @@ public:
     FakePane(FakeDock& dock, std::string name) : dock_(dock), name_(std::move(name)) {}
     bool Visible() const override { return visible_; }
     bool AutoHidden() const override { return autoHidden; }
+    void SetAutoHidden(bool hidden) override { autoHidden = hidden; }
     void Show() override { Set(true); }
     void Hide() override { Set(false); }
     bool autoHidden = false;
@@ -120,6 +121,9 @@ public:
     std::string WindowsText() override { return windowsText; }
     void SetWindowsText(const std::string& text) override { windowsText = text; }
     void SuspendRepaint(bool suspend) override { suspended += suspend ? 1 : -1; }
+    void Customize() override { ++customized; }
+    void RemoveFromBar(const std::string& bar, const std::string& command) override;
+    void LoadFactoryText(const std::string&) override { ++factoryTexts; }
     void LoadLayout(const std::string& path) override;
     void SaveLayout(const std::string& path) override { savedLayouts.push_back(path); }
     WindowPlace Place() override { return place; }
@@ -138,7 +142,7 @@ public:
     std::string windowsText;
     WindowPlace place;
     bool shown = false, closed = false;
-    int suspended = 0, broughtToFront = 0;
+    int suspended = 0, broughtToFront = 0, customized = 0, factoryTexts = 0;
 
 private:
     friend class FakeDocumentWindow;

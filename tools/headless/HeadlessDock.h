@@ -42,6 +42,9 @@ public:
     void SetWindowsText(const std::string&) override {}
 
     void SuspendRepaint(bool) override {}
+    void Customize() override {}
+    void RemoveFromBar(const std::string&, const std::string&) override {}
+    void LoadFactoryText(const std::string&) override {}
     void LoadLayout(const std::string&) override {}
     void SaveLayout(const std::string&) override {}
     WindowPlace Place() override { return place_; }

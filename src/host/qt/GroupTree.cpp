@@ -60,6 +60,14 @@ void Fill(QSplitter& splitter, const LayoutArea& area,
     if (!sizes.isEmpty()) splitter.setSizes(sizes);
 }
 
+void Resize(QSplitter& splitter, const LayoutArea& area) {
+    if (static_cast<std::size_t>(splitter.count()) != area.parts.size()) return;
+    if (!area.sizes.empty()) splitter.setSizes(QList<int>(area.sizes.begin(), area.sizes.end()));
+    for (int at = 0; at < splitter.count(); ++at)
+        if (auto* inner = qobject_cast<QSplitter*>(splitter.widget(at)))
+            Resize(*inner, area.parts[static_cast<std::size_t>(at)]);
+}
+
 }
 
 GroupTree::GroupTree(QWidget* parent) : QWidget(parent), root_(MakeSplitter(Qt::Horizontal)) {
@@ -127,3 +135,5 @@ LayoutArea GroupTree::Record(const std::function<LayoutArea(TabGroup&)>& record)
 void GroupTree::Restore(const LayoutArea& area, const std::function<TabGroup*(const LayoutArea&)>& make) {
     Fill(*root_, area, make);
 }
+
+void GroupTree::SetSizes(const LayoutArea& area) { Resize(*root_, area); }

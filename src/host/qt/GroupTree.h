@@ -25,6 +25,8 @@ public:
     LayoutArea Record(const std::function<LayoutArea(TabGroup&)>& record) const;
     // Builds the divisions anew, which must be empty. `make` answers the group of a record, null for none.
     void Restore(const LayoutArea& area, const std::function<TabGroup*(const LayoutArea&)>& make);
+    // Gives the parts the sizes of a record that has the same divisions; another record changes nothing.
+    void SetSizes(const LayoutArea& area);
 
 private:
     void Simplify(QSplitter* splitter);

@@ -136,6 +136,7 @@ LayoutPane ReadPane(const QJsonObject& object) {
     pane.icon = Text(object, "icon");
     pane.area = Text(object, "area");
     pane.visible = object.value(QLatin1String("visible")).toBool(true);
+    pane.tabbedWith = Text(object, "tabbedWith");
     pane.autoHidden = object.value(QLatin1String("autoHidden")).toBool();
     pane.extent = object.value(QLatin1String("extent")).toInt();
     return pane;
@@ -204,6 +205,7 @@ std::string WriteLayout(const Layout& layout) {
                                  {"icon", Shown(pane.icon)},
                                  {"area", Shown(pane.area)},
                                  {"visible", pane.visible},
+                                 {"tabbedWith", Shown(pane.tabbedWith)},
                                  {"autoHidden", pane.autoHidden},
                                  {"extent", pane.extent}});
     const QJsonObject root{{"format", Format},

@@ -50,8 +50,9 @@ struct LayoutPane {
     std::string icon = {};
     std::string area = "bottom"; // left, right, top or bottom
     bool visible = true;
-    bool autoHidden = false; // rolled away to the edge of its area
-    int extent = 0;          // pixels that it takes of the window when it slides out; 0: as it needs
+    std::string tabbedWith = {}; // a pane of the same area onto which it stands as a tab
+    bool autoHidden = false;     // rolled away to the edge of its area
+    int extent = 0;              // pixels that it takes of the window; 0: as it needs
     bool operator==(const LayoutPane&) const = default;
 };
 

@@ -43,6 +43,7 @@ public:
     QMenu* Menu() const { return menu_.get(); }
     bool AutoRepeat() const { return autoRepeat_; }
     const std::vector<QKeyCombination>& Shortcuts() const { return shortcuts_; }
+    void SetShortcuts(const std::vector<QKeyCombination>& keys);
     // The caption without mnemonic marks, and the text of a tool tip with its shortcut.
     QString PlainCaption() const;
 

@@ -19,16 +19,29 @@ QtDockStudio::QtDockStudio()
       area_(new QtDocumentArea), filter_(window_, table_) {
     window_.setCentralWidget(area_);
     window_.mayClose = [this] {
+        EndCustomizing();
         bool cancel = false;
         if (events_) events_->DS_QueryUnload(cancel);
         return !cancel;
     };
     window_.resized = [this] {
+        Settle();
         if (events_) events_->DS_Resize();
     };
+    window_.fillBarMenu = [this](QMenu& menu) { FillBarMenu(menu); };
     window_.dropped = [this](const std::vector<std::string>& paths) {
         if (events_) events_->DS_FilesDropped(paths);
     };
+    paneOwner_.shown = [this](const std::string& pane, bool shown) {
+        if (events_) events_->DS_PaneShown(pane, shown);
+    };
+    paneOwner_.dragged = [this](const std::string& pane, bool begins) {
+        if (events_) events_->DS_PaneDragged(pane, begins);
+    };
+    paneOwner_.strips = {{Qt::LeftDockWidgetArea, new EdgeStrip(Qt::LeftToolBarArea, window_)},
+                         {Qt::RightDockWidgetArea, new EdgeStrip(Qt::RightToolBarArea, window_)},
+                         {Qt::TopDockWidgetArea, new EdgeStrip(Qt::TopToolBarArea, window_)},
+                         {Qt::BottomDockWidgetArea, new EdgeStrip(Qt::BottomToolBarArea, window_)}};
 }
 
 QtDockStudio::~QtDockStudio() {
@@ -111,13 +124,18 @@ void QtDockStudio::InsertIntoBar(const std::string& bar, const std::string& comm
     EntriesChanged(bar);
 }
 
+void QtDockStudio::RemoveFromBar(const std::string& bar, const std::string& command) {
+    LayoutEntries* entries = EntriesOf(bar);
+    if (!entries) return;
+    std::erase_if(*entries, [&](const LayoutEntry& entry) { return entry.command == command; });
+    EntriesChanged(bar);
+}
+
 DockBar* QtDockStudio::FindBar(const std::string& name) { return Bar(name); }
 DockPane* QtDockStudio::FindPane(const std::string& name) { return Pane(name); }
 
 void QtDockStudio::AddPane(const LayoutPane& record) {
-    panes_.push_back(std::make_unique<QtPane>(record, window_, [this, name = record.name](bool shown) {
-        if (events_) events_->DS_PaneShown(name, shown);
-    }));
+    panes_.push_back(std::make_unique<QtPane>(record, window_, paneOwner_));
 }
 
 void QtDockStudio::AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
@@ -166,4 +184,26 @@ void QtDockStudio::SetWindowsText(const std::string& text) { area_->Restore(Docu
 void QtDockStudio::SuspendRepaint(bool suspend) {
     suspended_ += suspend ? 1 : -1;
     window_.setUpdatesEnabled(suspended_ <= 0);
+}
+
+// What a right click on a bar or on the edge of a pane offers: which of them are shown.
+void QtDockStudio::FillBarMenu(QMenu& menu) {
+    for (const auto& bar : bars_) {
+        if (bar->Record().kind == BarKind::Menu) continue;
+        QAction* action = menu.addAction(Shown(bar->Record().caption));
+        action->setCheckable(true);
+        action->setChecked(bar->Visible());
+        QObject::connect(action, &QAction::triggered, &window_,
+                         [bar = bar.get()](bool shown) { bar->SetVisible(shown); });
+    }
+    menu.addSeparator();
+    for (const auto& pane : panes_) {
+        QAction* action = menu.addAction(Shown(pane->Caption()));
+        action->setCheckable(true);
+        action->setChecked(pane->Present());
+        QObject::connect(action, &QAction::triggered, pane.get(), &QtPane::SetPresent);
+    }
+    menu.addSeparator();
+    QObject::connect(menu.addAction(QObject::tr("&Customize…")), &QAction::triggered, &window_,
+                     [this] { Customize(); });
 }

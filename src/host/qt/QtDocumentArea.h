@@ -41,6 +41,8 @@ public:
     // Puts the windows where a record has them. One that it doesn't know joins the first group; with `create`
     // one that isn't there is made, without a form.
     void Restore(const LayoutDocuments& documents, bool create);
+    // Gives the groups the sizes of a record, where they are divided as it says.
+    void RestoreSizes(const LayoutDocuments& documents);
 
     TabGroup* GroupOf(QWidget* page) const override;
     void SetStartPage(QWidget* page);

@@ -136,6 +136,8 @@ void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
     emit Changed();
 }
 
+void QtDocumentArea::RestoreSizes(const LayoutDocuments& documents) { tree_->SetSizes(documents.area); }
+
 void QtDocumentArea::ConnectDrag(TabGroup* group) {
     connect(group, &TabGroup::DraggedOut, this,
             [this](QWidget* page, const QPoint& global) { mark_->Show(TargetAt(page, global).mark); });
