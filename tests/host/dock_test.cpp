@@ -5,7 +5,9 @@
 #include "support/FakeHost.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -199,6 +201,42 @@ TEST_F(DockTest, ClosingTheWindowAsks) {
     dock.CloseWindow();
     EXPECT_EQ(Take(), Events{"close?"});
     EXPECT_TRUE(dock.Window().isVisible());
+}
+
+// A pane that is rolled away slides out on demand and gives the focus back to the text.
+TEST_F(DockTest, ARolledPaneSlidesOutByCommandAndBackByEscape) {
+    QPlainTextEdit text;
+    struct TextForm : Form {
+        explicit TextForm(QWidget& shown) : widget(shown) {}
+        void* NativeWidget() override { return &widget; }
+        QWidget& widget;
+    } form(text);
+    dock.AttachPane("Output", "Output", "", form, true);
+    dock.AddDocumentWindow("a", "a", &a).Activate();
+    DockPane& pane = *dock.FindPane("Output");
+    ASSERT_TRUE(pane.Visible());
+    Take();
+    pane.SetAutoHidden(true);
+    EXPECT_TRUE(pane.Visible()); // its tab is
+    EXPECT_TRUE(pane.AutoHidden());
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_EQ(Take(), Events{}); // it was neither shown nor closed
+    QWidget* editor = QApplication::focusWidget();
+    pane.Show();
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &text);
+    QTest::keyClick(&text, Qt::Key_Escape);
+    QTest::qWait(300);
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), editor);
+    pane.Hide();
+    EXPECT_FALSE(pane.Visible());
+    pane.Show(); // back at its edge, and out
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_EQ(Take(), (Events{"pane Output off", "pane Output on"}));
+    pane.SetAutoHidden(false);
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_TRUE(qobject_cast<QDockWidget*>(text.parentWidget()));
 }
 
 }

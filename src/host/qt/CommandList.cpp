@@ -1,9 +1,9 @@
-// All commands with their keys, narrowed by words and by category.
+// All commands with their keys and menus, narrowed by words and by menu.
 #include "host/qt/CommandList.h"
 
-#include "host/qt/CustomizeTarget.h"
 #include "host/qt/QtText.h"
 
+#include <QDrag>
 #include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
@@ -12,7 +12,9 @@
 
 namespace {
 
-enum Column { Name, Category, Keys, Columns };
+enum Column { Name, Menu, Keys, Columns };
+
+constexpr QChar Into(0x25B8); // stands between a menu and one within it
 
 // A list whose items are dragged as commands.
 class Tree : public QTreeWidget {
@@ -23,6 +25,21 @@ protected:
         auto* mime = new QMimeData;
         mime->setData(CommandMime, items.front()->data(Name, Qt::UserRole).toString().toUtf8());
         return mime;
+    }
+    // The name alone is dragged, beside the pointer: a picture of the row would cover where it goes.
+    void startDrag(Qt::DropActions) override {
+        QMimeData* mime = currentItem() ? mimeData({currentItem()}) : nullptr;
+        if (!mime) return;
+        QLabel label(currentItem()->text(Name));
+        label.setFrameShape(QFrame::StyledPanel);
+        label.setAutoFillBackground(true);
+        label.setMargin(3);
+        label.adjustSize();
+        auto* drag = new QDrag(this);
+        drag->setMimeData(mime);
+        drag->setPixmap(label.grab());
+        drag->setHotSpot({-14, -14});
+        drag->exec(Qt::CopyAction);
     }
 };
 
@@ -35,11 +52,12 @@ QString KeysOf(const QtCommand& command) {
 
 }
 
-CommandList::CommandList(CommandTable& table, QWidget* parent)
-    : QWidget(parent), table_(table), words_(new QLineEdit), category_(new QComboBox), tree_(new Tree) {
+CommandList::CommandList(CustomizeTarget& target, QWidget* parent)
+    : QWidget(parent), target_(target), table_(target.Table()), words_(new QLineEdit), menu_(new QComboBox),
+      tree_(new Tree) {
     words_->setPlaceholderText(tr("Words of the name, or a key such as Ctrl+K"));
     words_->setClearButtonEnabled(true);
-    tree_->setHeaderLabels({tr("Command"), tr("Category"), tr("Keys")});
+    tree_->setHeaderLabels({tr("Command"), tr("Where"), tr("Keys")});
     tree_->setRootIsDecorated(false);
     tree_->setUniformRowHeights(true);
     tree_->setDragEnabled(true);
@@ -48,48 +66,70 @@ CommandList::CommandList(CommandTable& table, QWidget* parent)
     tree_->setAccessibleName(tr("Commands"));
     auto* search = new QLabel(tr("&Search:"));
     search->setBuddy(words_);
-    auto* of = new QLabel(tr("C&ategory:"));
-    of->setBuddy(category_);
+    auto* of = new QLabel(tr("&Where:"));
+    of->setBuddy(menu_);
     auto* row = new QHBoxLayout;
     row->addWidget(search);
     row->addWidget(words_, 1);
     row->addWidget(of);
-    row->addWidget(category_);
+    row->addWidget(menu_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(row);
     column->addWidget(tree_, 1);
     connect(words_, &QLineEdit::textChanged, this, &CommandList::Narrow);
-    connect(category_, &QComboBox::currentIndexChanged, this, &CommandList::Narrow);
+    connect(menu_, &QComboBox::currentIndexChanged, this, &CommandList::Narrow);
     connect(tree_, &QTreeWidget::currentItemChanged, this, &CommandList::SelectionChanged);
     Reload();
+}
+
+// The first menu in which a command stands, with the menus round it.
+void CommandList::FindMenus(const std::string& place, const QString& path,
+                            std::map<std::string, QString>& menus) {
+    const LayoutEntries* entries = target_.EntriesOf(place);
+    if (!entries) return;
+    for (const LayoutEntry& entry : *entries) {
+        const QtCommand* command = table_.Find(entry.command);
+        if (!command || !menus.emplace(entry.command, path).second || !command->Menu()) continue;
+        FindMenus(entry.command,
+                  path.isEmpty() ? command->PlainCaption()
+                                 : path + ' ' + Into + ' ' + command->PlainCaption(),
+                  menus);
+    }
 }
 
 void CommandList::Reload() {
     const QtCommand* selected = Selected();
     const std::string name = selected ? selected->Name() : std::string();
+    std::map<std::string, QString> menus;
+    for (const CommandPlace& place : target_.Places())
+        if (place.kind == BarKind::Menu && !place.popup) FindMenus(place.name, {}, menus);
     tree_->clear();
-    QStringList categories;
+    QStringList tops;
     for (const auto& command : table_.All()) {
+        const CommandKind kind = command->Record().kind;
+        const bool shows =
+            kind == CommandKind::Status || kind == CommandKind::Progress || kind == CommandKind::Clock;
+        // What only shows something, or has no routine, is none to choose.
+        if (!command->Visible() || (shows && command->Shortcuts().empty())) continue;
         auto* item = new QTreeWidgetItem(tree_);
         item->setText(Name, command->PlainCaption());
         item->setIcon(Name, command->Action()->icon());
-        item->setText(Category, Shown(command->Category()));
+        item->setText(Menu, menus[command->Name()]);
         item->setText(Keys, KeysOf(*command));
         item->setData(Name, Qt::UserRole, Shown(command->Name()));
         item->setToolTip(Name, Shown(command->Name()));
-        if (!categories.contains(item->text(Category))) categories << item->text(Category);
+        const QString top = item->text(Menu).section(Into, 0, 0).trimmed();
+        if (!top.isEmpty() && !tops.contains(top)) tops << top;
     }
-    categories.removeAll({});
-    categories.sort();
-    const QString shown = category_->currentIndex() > 0 ? category_->currentText() : QString();
-    category_->clear();
-    category_->addItem(tr("All"));
-    category_->addItems(categories);
-    if (!shown.isEmpty()) category_->setCurrentText(shown);
+    const QString shown = menu_->currentIndex() > 0 ? menu_->currentText() : QString();
+    menu_->clear();
+    menu_->addItem(tr("Everywhere"));
+    menu_->addItems(tops);
+    if (!shown.isEmpty()) menu_->setCurrentText(shown);
     tree_->sortItems(Name, Qt::AscendingOrder);
     for (int at = 0; at < Columns; ++at) tree_->resizeColumnToContents(at);
-    Select(name);
+    name.empty() ? tree_->setCurrentItem(tree_->topLevelItem(0)) : Select(name);
 }
 
 void CommandList::ShowKeys() {
@@ -116,13 +156,13 @@ void CommandList::Select(const std::string& name) {
 
 void CommandList::Narrow() {
     const QStringList words = words_->text().split(' ', Qt::SkipEmptyParts);
-    const QString category = category_->currentIndex() > 0 ? category_->currentText() : QString();
+    const QString menu = menu_->currentIndex() > 0 ? menu_->currentText() : QString();
     QTreeWidgetItem* first = nullptr;
     for (int at = 0; at < tree_->topLevelItemCount(); ++at) {
         QTreeWidgetItem* item = tree_->topLevelItem(at);
         const QString text = item->text(Name) + ' ' + item->data(Name, Qt::UserRole).toString() + ' ' +
-                             item->text(Category) + ' ' + item->text(Keys);
-        bool shown = category.isEmpty() || item->text(Category) == category;
+                             item->text(Menu) + ' ' + item->text(Keys);
+        bool shown = menu.isEmpty() || item->text(Menu).section(Into, 0, 0).trimmed() == menu;
         for (const QString& word : words) shown = shown && text.contains(word, Qt::CaseInsensitive);
         item->setHidden(!shown);
         if (shown && !first) first = item;

@@ -1,17 +1,19 @@
-// All commands with their keys, narrowed by words and by category. A command can be dragged out of it.
+// All commands with their keys and the menus that they stand in, narrowed by words and by menu. A command can
+// be dragged out of it.
 #pragma once
 
-#include "host/qt/CommandTable.h"
+#include "host/qt/CustomizeTarget.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTreeWidget>
+#include <map>
 
 class CommandList : public QWidget {
     Q_OBJECT
 
 public:
-    CommandList(CommandTable& table, QWidget* parent);
+    CommandList(CustomizeTarget& target, QWidget* parent);
 
     // Null where none is selected.
     QtCommand* Selected() const;
@@ -25,9 +27,11 @@ signals:
 
 private:
     void Narrow();
+    void FindMenus(const std::string& place, const QString& path, std::map<std::string, QString>& menus);
 
+    CustomizeTarget& target_;
     CommandTable& table_;
     QLineEdit* words_;
-    QComboBox* category_;
+    QComboBox* menu_;
     QTreeWidget* tree_;
 };

@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
-    : QDialog(parent), target_(target), editor_(target), commands_(new CommandList(target.Table(), this)),
+    : QDialog(parent), target_(target), editor_(target), commands_(new CommandList(target, this)),
       keys_(new KeyPage(target, this)), places_(new PlacePage(
                                             target, [this] { return commands_->Selected(); }, this)) {
     setWindowTitle(tr("Customize"));
@@ -23,12 +23,11 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QPushButton* revert = buttons->addButton(tr("Re&vert"), QDialogButtonBox::ResetRole);
     revert->setToolTip(tr("Puts everything back as it was when this window was opened"));
-    // Enter belongs to the fields and lists, not to a button that closes the window.
-    for (QAbstractButton* button : buttons->buttons())
-        static_cast<QPushButton*>(button)->setAutoDefault(false);
     auto* column = new QVBoxLayout(this);
     column->addWidget(parts, 1);
     column->addWidget(buttons);
+    // Enter belongs to the fields and lists, not to a button that happens to stand first.
+    for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(revert, &QPushButton::clicked, this, [this] {

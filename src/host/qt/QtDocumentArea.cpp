@@ -107,6 +107,7 @@ void QtDocumentArea::SetActive(QtDocumentWindow* window) {
     if (window == active_) return;
     QtDocumentWindow* old = active_;
     active_ = window;
+    ShowActive();
     if (!events) return;
     if (old) events->DS_DocumentWindowDeactivate(*old);
     if (active_ && active_ == window) events->DS_DocumentWindowActivate(*window, false);

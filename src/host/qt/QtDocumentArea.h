@@ -72,6 +72,7 @@ private:
     void SetActive(QtDocumentWindow* window);
     void ActivateWhatIsLeft(TabGroup* group);
     void ShowRightPage();
+    void ShowActive();
     QtDocumentWindow* OfPage(QWidget* page) const;
     QtDocumentWindow* OfFocus(QWidget* focus) const;
     Target TargetAt(QWidget* page, const QPoint& global) const;

@@ -36,7 +36,13 @@ void QtDocumentArea::AddToGroup(QtDocumentWindow& window, TabGroup* group, int i
     if (old) old->removeTab(old->indexOf(window.Page()));
     group->insertTab(index, window.Page(), QString());
     window.ShowCaption();
+    ShowActive();
     if (old && old != group) RemoveIfEmpty(old);
+}
+
+void QtDocumentArea::ShowActive() {
+    const TabGroup* active = active_ ? active_->Group() : nullptr;
+    for (TabGroup* group : tree_->Groups()) group->SetActive(group == active);
 }
 
 void QtDocumentArea::RemoveIfEmpty(TabGroup* group) {
@@ -129,6 +135,7 @@ void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
         if (active_) active_->Group()->setCurrentWidget(active_->Page());
     }
     ShowRightPage();
+    ShowActive();
     if (QtDocumentWindow* window = Find(documents.active); window && window->Group())
         Activate(*window);
     else if (active_)

@@ -43,7 +43,10 @@ QtPane::QtPane(const LayoutPane& record, QMainWindow& window, const PaneOwner& o
 }
 
 QtPane::~QtPane() {
-    if (rolled_) dock_->setWidget(rolled_->TakeContent());
+    // The form's owner has the content; the window must not delete it.
+    QWidget* content = rolled_ ? rolled_->TakeContent() : dock_->widget();
+    dock_->setWidget(nullptr);
+    if (content) content->setParent(nullptr);
     rolled_.reset();
     dock_->deleteLater();
 }

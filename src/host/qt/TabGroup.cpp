@@ -3,18 +3,35 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QToolButton>
 
 namespace {
 constexpr QSize CloseIcon(12, 12);
 constexpr QSize CloseButton(18, 18);
+constexpr int ActiveLine = 2;     // pixels
 constexpr int LeaveDistance = 12; // pixels beyond the bar at which a tab comes off
 }
 
 DocumentTabBar::DocumentTabBar(QWidget* parent) : QTabBar(parent) {
     setExpanding(false);
     setAccessibleName(tr("Open documents"));
+}
+
+void DocumentTabBar::SetActive(bool active) {
+    if (active == active_) return;
+    active_ = active;
+    update();
+}
+
+// Of several groups only one has the document that commands act on.
+void DocumentTabBar::paintEvent(QPaintEvent* event) {
+    QTabBar::paintEvent(event);
+    if (!active_ || currentIndex() < 0) return;
+    QRect line = tabRect(currentIndex());
+    line.setHeight(ActiveLine);
+    QPainter(this).fillRect(line, palette().color(QPalette::Highlight));
 }
 
 void DocumentTabBar::mousePressEvent(QMouseEvent* event) {
@@ -80,8 +97,10 @@ void DocumentTabBar::contextMenuEvent(QContextMenuEvent* event) {
     emit ContextAsked(index, byKey ? mapToGlobal(tabRect(index).bottomLeft()) : event->globalPos());
 }
 
-TabGroup::TabGroup(QWidget* parent) : QTabWidget(parent) {
-    auto* bar = new DocumentTabBar;
+void TabGroup::SetActive(bool active) { bar_->SetActive(active); }
+
+TabGroup::TabGroup(QWidget* parent) : QTabWidget(parent), bar_(new DocumentTabBar) {
+    DocumentTabBar* bar = bar_;
     setTabBar(bar);
     setDocumentMode(true);
     setMovable(true);

@@ -10,6 +10,8 @@ class DocumentTabBar : public QTabBar {
 
 public:
     explicit DocumentTabBar(QWidget* parent = nullptr);
+    // Marks its front tab as that of the active document.
+    void SetActive(bool active);
 
 signals:
     void CloseAsked(int index);
@@ -20,6 +22,7 @@ signals:
     void DragCancelled();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -32,6 +35,7 @@ private:
 
     int pressed_ = -1;
     bool dragging_ = false;
+    bool active_ = false;
 };
 
 class TabGroup : public QTabWidget {
@@ -39,6 +43,7 @@ class TabGroup : public QTabWidget {
 
 public:
     explicit TabGroup(QWidget* parent = nullptr);
+    void SetActive(bool active);
 
 signals:
     void CloseAsked(QWidget* page);
@@ -55,4 +60,6 @@ protected:
 
 private:
     void AddListButton();
+
+    DocumentTabBar* bar_;
 };
