@@ -96,9 +96,9 @@ public:
     virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
     virtual void DS_PaneShown(const std::string& pane, bool shown) = 0;
     // A pane begins to be dragged, or was let go.
-    virtual void DS_PaneDragged(const std::string& pane, bool begins) = 0;
+    virtual void DS_PaneDragged(const std::string& /*pane*/, bool /*begins*/) {}
     // The user begins to change commands, keys and bars, or has ended it.
-    virtual void DS_Customization(bool begins) = 0;
+    virtual void DS_Customization(bool /*begins*/) {}
     // A shortcut is about to fire; when cancelled the key goes on to the focused widget.
     virtual void DS_ShortcutFiring(DockCommand& command, bool& cancel) = 0;
     virtual void DS_FilesDropped(const std::vector<std::string>& paths) = 0;

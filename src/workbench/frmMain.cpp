@@ -124,9 +124,6 @@ void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
 }
 
-// The lists stop painting while their pane is on the move; they are no part of this window yet.
-void frmMain::DS_PaneDragged(const std::string&, bool) {}
-
 // The context menu of the text stands in the menu bar for as long as the user can edit it there.
 void frmMain::DS_Customization(bool begins) {
     if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);

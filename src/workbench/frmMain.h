@@ -55,7 +55,6 @@ public:
                                        bool& cancel) override;
     void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) override;
     void DS_PaneShown(const std::string& pane, bool shown) override;
-    void DS_PaneDragged(const std::string& pane, bool begins) override;
     void DS_Customization(bool begins) override;
     void DS_ShortcutFiring(DockCommand& command, bool& cancel) override;
     void DS_FilesDropped(const std::vector<std::string>& paths) override;

@@ -12,6 +12,7 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
                                             target, [this] { return commands_->Selected(); }, this)) {
     setWindowTitle(tr("Customize"));
     auto* pages = new QTabWidget;
+    pages->setAccessibleName(tr("What to change"));
     pages->addTab(keys_, tr("&Keyboard"));
     pages->addTab(places_, tr("Bars and &Menus"));
     auto* parts = new QSplitter;

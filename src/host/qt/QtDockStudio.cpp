@@ -2,6 +2,7 @@
 #include "host/qt/QtDockStudio.h"
 
 #include "host/Failure.h"
+#include "host/qt/CustomizeDialog.h"
 #include "host/qt/QtText.h"
 #include "host/qt/StartPage.h"
 
@@ -46,6 +47,7 @@ QtDockStudio::QtDockStudio()
 
 QtDockStudio::~QtDockStudio() {
     SetEvents(nullptr);
+    delete customizing_;
     window_.mayClose = nullptr;
     window_.resized = nullptr;
     // The documents go first, while the window that holds their pages is still whole.
