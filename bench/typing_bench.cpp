@@ -1,23 +1,18 @@
 // Typing: from a key to the tables and the screen, in the middle of a long source. Each figure is the mean of
 // a key; p50, p99 and worst stand beside it, in milliseconds.
 #include "Floor.h"
+#include "Keys.h"
 #include "Source.h"
 #include "editor/frmDoc.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
-#include <QAbstractScrollArea>
-#include <QApplication>
-#include <QKeyEvent>
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
-#include <numeric>
+#include <cstring>
 #include <vector>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int Keys = 1000;
 constexpr int Rounds = 3;
@@ -26,30 +21,15 @@ constexpr const char* Typed = "local speed# = abs(12.5 + score)\nplayer = speed 
 constexpr QSize OneLine(400, 20);
 constexpr QSize Large(1024, 768);
 
-QAbstractScrollArea* Widget(EditorView& view) {
-    return static_cast<QAbstractScrollArea*>(static_cast<QWidget*>(view.NativeWidget()));
-}
-
-void Show(QAbstractScrollArea& widget, QSize size) {
-    widget.resize(size);
-    widget.show();
-    widget.viewport()->repaint();
-    QApplication::processEvents();
-}
-
 // One key as the program gets it, up to the end of the paint that follows.
-double Press(EditorView& view, QAbstractScrollArea& widget, char key, bool whole) {
-    const auto start = Clock::now();
-    if (key == '\n') {
-        view.DirectFunction()(view.DirectPointer(), SCI_NEWLINE, 0, 0);
-    } else {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(key)));
-        QApplication::sendEvent(&widget, &press);
-    }
-    if (whole) widget.viewport()->update();
-    widget.viewport()->repaint();
-    QApplication::processEvents();
-    return std::chrono::duration<double>(Clock::now() - start).count();
+double Type(EditorView& view, QAbstractScrollArea& widget, char key) {
+    return Seconds([&] {
+        if (key == '\n')
+            view.DirectFunction()(view.DirectPointer(), SCI_NEWLINE, 0, 0);
+        else
+            Press(widget, 0, QString(QLatin1Char(key)));
+        Paint(widget, true);
+    });
 }
 
 void TypeIn(benchmark::State& state, EditorView& view, long middle, QSize size) {
@@ -64,8 +44,7 @@ void TypeIn(benchmark::State& state, EditorView& view, long middle, QSize size) 
     for (auto _ : state) {
         double total = 0;
         for (int i = 0; i < Keys; ++i) {
-            times.push_back(
-                Press(view, widget, Typed[static_cast<std::size_t>(i) % std::strlen(Typed)], true));
+            times.push_back(Type(view, widget, Typed[static_cast<std::size_t>(i) % std::strlen(Typed)]));
             total += times.back();
         }
         state.SetIterationTime(total / Keys);

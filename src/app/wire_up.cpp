@@ -4,6 +4,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "editor/EditorCalls.h"
+#include "editor/Mod_SciFun_complete.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/EngineCalls.h"
@@ -24,11 +25,16 @@ namespace {
 
 void WireEditor() {
     gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
+    gEngineCalls.Autocomplete = Mod_SciFun::Autocomplete;
+    gEngineCalls.AutocompleteType = Mod_SciFun::AutocompleteType;
+    gEngineCalls.AutocompleteLabel = Mod_SciFun::AutocompleteLabel;
+    gEngineCalls.AutocompleteBackSlash = Mod_SciFun::AutocompleteBackSlash;
     gEngineCalls.DocumentChanged = [] {
         if (frmDoc* document = ActiveForm()) document->SetDirty(true);
     };
     gEditorCalls.SetPositionText = [](const std::string& text) { frmMain::Instance().SetPositionText(text); };
     gEditorCalls.SetFunctionText = [](const std::string& text) { frmMain::Instance().SetFunctionText(text); };
+    gEditorCalls.SetTipText = [](const TipText& tip) { frmMain::Instance().SetTipText(tip); };
     gEditorCalls.UpdateSciCommandUI = [] { frmMain::Instance().UpdateSciCommandUI(); };
     gEditorCalls.OpenFile = [](const std::string& path) { Mod_File::OpenFile(path); };
 }

@@ -4,6 +4,7 @@
 #include "engine/DocumentRecord.h"
 #include "engine/LineStyles.h"
 #include "engine/Mod_Lexer.h"
+#include "engine/Mod_Parse.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
@@ -68,9 +69,20 @@ void LikeAbove() {
     Mod_Sci::GotoPos(Mod_Sci::GetLineIndentPosition(line));
 }
 
+// Keys that come faster than paints leave the line without its styles, by which a comment is told. No list
+// opens here.
+void StyleTyped() {
+    const bool forced = ACForced;
+    ACForced = false;
+    const auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
+    Mod_Parse::ColorCurrentLine(static_cast<int>(line), false);
+    ACForced = forced;
+}
+
 // Turns "name++" into "name=name+1". `pos`: the second sign.
 void ExpandPlusPlus(std::intptr_t pos, char ch) {
     const auto lineStart = Mod_Sci::PositionFromLine(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
+    StyleTyped();
     auto targetEnd = pos - 1;
     auto scan = pos - 2;
     if (scan >= lineStart && IsBlank[CharAt(scan)]) targetEnd = scan--;

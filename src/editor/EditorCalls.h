@@ -4,9 +4,22 @@
 #include <functional>
 #include <string>
 
+// A line of text with one stretch in a colour of its own (0x00BBGGRR): bytes of the document.
+struct TipText {
+    std::string left;
+    std::string hot;
+    std::string right;
+    int colour = 0;
+
+    bool operator==(const TipText&) const = default;
+};
+
 struct EditorCalls {
     std::function<void(const std::string& text)> SetPositionText; // status pane "L: 1 C: 1"
     std::function<void(const std::string& text)> SetFunctionText; // status pane of the current function
+    std::function<void(const TipText& tip)> SetTipText;           // the tip box
+    // The help page of a word; false when no page has it.
+    std::function<bool(const std::string& word)> ShowBrowserHelp;
     std::function<void()> UpdateSciCommandUI;                     // "Undo" and "Redo" enable
     std::function<void(const std::string& path)> OpenFile;        // a file was dropped on a view
 };

@@ -24,6 +24,10 @@ public:
     // Parses what waits without a caret move, and ends an open undo group: before a project is loaded, before
     // leaving a document. Another document may be the active one already.
     virtual void DeactivateCheck() = 0;
+
+    // Parses what waits and the line that is being edited, although the caret stands on it. An open undo group
+    // stays open, so that what the parser writes is undone with the edit.
+    virtual void ParseNow() = 0;
 };
 
 // The pipeline of a new document.

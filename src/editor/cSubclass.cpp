@@ -68,6 +68,14 @@ void cSubclass::DeactivateCheck() {
     ParseWaiting();
 }
 
+void cSubclass::ParseNow() {
+    const ActiveSwap swap(mFrmDoc);
+    if (State().UnparsedLine >= 0) TakeBackEditedLine(true);
+    if (State().ParseNeeded.empty()) return;
+    ParseQueue();
+    mFrmDoc.Redraw();
+}
+
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
     case SCN_STYLENEEDED: StyleNeeded(); break;

@@ -20,6 +20,7 @@ public:
     void OnDropFiles(const std::vector<std::string>& paths) override;
 
     void DeactivateCheck() override;
+    void ParseNow() override;
 
 private:
     void Dispatch(const SciNotification& notification);
@@ -43,6 +44,7 @@ private:
     bool ParseEdited();
     void ParseWaiting();
     void JoinLines();
+    void LeaveCurrentLook();
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;

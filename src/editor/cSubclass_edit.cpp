@@ -4,6 +4,7 @@
 
 #include "editor/BraceHighlight.h"
 #include "editor/EditorCalls.h"
+#include "editor/Mod_SciFun_tips.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -140,6 +141,10 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
             Snapshot(start);
         }
     }
+    // A folded header that goes would leave its lines hidden with nothing to show them by.
+    if (end > start)
+        for (int line = start; line <= end; ++line)
+            if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
     // What waits below the lines that go moves up.
     queuedFrom_ = std::min(queuedFrom_, start);
     for (int line = start + 1; line <= end; ++line) {
@@ -274,17 +279,32 @@ bool cSubclass::ParseEdited() {
     return waits;
 }
 
+// A parsed line that looks as the line under the caret does gets its own look back when the caret leaves it.
+void cSubclass::LeaveCurrentLook() {
+    if (!State().mColoredAsCurrent) return;
+    State().mColoredAsCurrent = false;
+    State().mOldStartLine = -100;
+    mFrmDoc.Redraw();
+}
+
 void cSubclass::UpdateUi() {
     gUserEdited = false;
     if (ParseEdited()) mFrmDoc.Redraw();
-    const int line = LineOf(Mod_Sci::GetCurrentPos());
+    int line = LineOf(Mod_Sci::GetCurrentPos());
     if (line != mFrmDoc.Callback_OldLine) {
+        LeaveCurrentLook();
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));
         UpdateLineNumberMargin();
         mFrmDoc.Callback_OldLine = line;
     }
-    State().mForceColor = false;
+    if (!HasMarker(line, MarkerParsed) || State().mForceColor) {
+        ColorCurrentLine(line, false);
+        ACForced = false;
+        State().mForceColor = false;
+        line = LineOf(Mod_Sci::GetCurrentPos());
+    }
+    Mod_SciFun::ShowHelp(Mod_Sci::GetCurrentPos(), line);
     if (OptionsEdit::HighlightMatchedBraces) HighlightBraces(Mod_Sci::GetCurrentPos());
     if (gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
 }

@@ -4,12 +4,14 @@
 #include <functional>
 #include <string>
 
+struct ClsType;
+
 struct EngineCalls {
     // Asks for a completion list at the caret: of names, of type names, of labels, of a type's fields.
     std::function<void()> Autocomplete;
     std::function<void()> AutocompleteType;
     std::function<void()> AutocompleteLabel;
-    std::function<void(const std::string& type, const std::string& typed)> AutocompleteBackSlash;
+    std::function<void(const ClsType& type, const std::string& typed)> AutocompleteBackSlash;
     // Tells that the lists of the Code Explorer no longer agree with the tables.
     std::function<void()> PuniLista;
     // Tells that the active document has changed without a change of its text.

@@ -124,7 +124,10 @@ void LineParser::Identifier() {
         return;
     }
     Rewrite(index_, keyword->Ime);
-    if (keyword->IsStartScope) opens_ += keyword->word == Word::Select ? 2 : 1;
+    if (keyword->IsStartScope) {
+        opens_ += keyword->word == Word::Select ? 2 : 1;
+        if (RememberScopeKeyword) LastScopeKeyword = keyword->Ime;
+    }
     if (OptionsEdit::AutoIndentType == 2 && keyword->IsEndScope) EndScope(keyword->word);
 
     if (NextIsName()) {

@@ -38,6 +38,8 @@ int GetNextIndent(int line);
 
 // --- colouring -------------------------------------------------------------------------------------
 
+// Colours the line under the caret and asks for a completion list where the grammar expects a name.
+void ColorCurrentLine(int line, bool scopeKnown);
 // Colours a parsed line that is not under the caret; `sequential`: the line above was coloured just before.
 void ColorLineLight(int line, bool sequential);
 // Keeps the scope of a run of lines right across a line that is being edited; styles nothing.

@@ -17,39 +17,17 @@ namespace Mod_Parse {
 namespace {
 
 using Word = ClsBBFunkcija::Word;
-using Walker = void (*)(Symbol*, int&, int, int, int);
-
 constexpr int StopUnknownFunction = 18800;
 constexpr int StopUnknownFunctionUnparsed = 11781;
 constexpr std::size_t ShortWord = 3; // the bracket check spares words up to this length
 
 const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
 
-struct UpperName {
-    std::string text;
-    int hash = 0;
-
-    void Set(const std::string& name) {
-        text = name;
-        for (char& c : text)
-            if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-        hash = HashOfUpper(text);
-    }
-};
-
 // The name being looked up; its room is reused from token to token.
 UpperName upper;
 
-// Styles a name that a table knows, with what hangs on it.
-bool ColorFrom(clsHash& table, int style, Walker walker, int& index, int count, int lineStart) {
-    if (!table.ExistsU(upper.text, upper.hash)) return false;
-    Symbol* record = FoundItem;
-    FixVariableCase(record->Ime, index, lineStart);
-    if (index < count && IsAfterName[At(index + 1).Kind])
-        walker(record, index, count, lineStart, style);
-    else
-        Style(lineStart, At(index), static_cast<std::intptr_t>(At(index).Text.size()), style);
-    return true;
+bool ColorFrom(clsHash& table, int style, VariableWalker walker, int& index, int count, int lineStart) {
+    return ColorKnown(table, upper, {style, walker, true}, index, count, lineStart);
 }
 
 void ColorBad(int& index, int count, int lineStart) {
@@ -265,8 +243,7 @@ void ColorTokenLight(int& index, int count, int lineStart) {
         return;
     if (!ColoringCurrentLine) return ColorBad(index, count, lineStart);
     Style(lineStart, token, static_cast<std::intptr_t>(token.Text.size()), STYLE_Text);
-    if (!ACShownNow && gEngineCalls.Autocomplete && Mod_Sci::GetCurrentPos() == lineStart + token.EndPos)
-        gEngineCalls.Autocomplete();
+    if (MayOffer(lineStart, token.EndPos) && gEngineCalls.Autocomplete) gEngineCalls.Autocomplete();
 }
 
 void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) {

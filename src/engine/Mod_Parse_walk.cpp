@@ -18,13 +18,6 @@ const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
 
 bool CaretAt(int lineStart, int column) { return Mod_Sci::GetCurrentPos() == lineStart + column; }
 
-// Offers type names where the caret stands behind column `column` and a list was asked for.
-void OfferTypes(int lineStart, int column) {
-    if (ColoringCurrentLine && ACForced && !ACShownNow && gEngineCalls.AutocompleteType &&
-        CaretAt(lineStart, column))
-        gEngineCalls.AutocompleteType();
-}
-
 ClsType* FindType(const std::string& name) {
     return gCurrentProject->Types.ExistsHash(name) ? static_cast<ClsType*>(FoundItem) : nullptr;
 }
@@ -71,13 +64,13 @@ private:
         if (NextKind() != '.') return false;
         ++index_;
         if (NextKind() != TOK_IDENT) {
-            OfferTypes(lineStart_, At(index_).StartPos + 1);
+            OfferTypes(AskedAt(lineStart_, At(index_).StartPos + 1));
             return false;
         }
         ClsType* type = FindType(record_->Tajp);
         if (type != nullptr && type->Ime != record_->Tajp) record_->Tajp = type->Ime;
         if (type == nullptr || !EqualNoCase(Next().Text, record_->Tajp)) {
-            OfferTypes(lineStart_, Next().EndPos);
+            OfferTypes(MayOffer(lineStart_, Next().EndPos));
             return false;
         }
         ++index_;
@@ -130,10 +123,13 @@ private:
         return BehindBrackets();
     }
 
+    static void OfferTypes(bool asked) {
+        if (asked && gEngineCalls.AutocompleteType) gEngineCalls.AutocompleteType();
+    }
+
     void OfferFields(const ClsType& type, const std::string& typed, int column) {
-        if (ColoringCurrentLine && ACForced && gEngineCalls.AutocompleteBackSlash &&
-            CaretAt(lineStart_, column))
-            gEngineCalls.AutocompleteBackSlash(type.Ime, typed);
+        if (AskedAt(lineStart_, column) && gEngineCalls.AutocompleteBackSlash)
+            gEngineCalls.AutocompleteBackSlash(type, typed);
     }
 
     Symbol* record_;
@@ -257,6 +253,33 @@ void ColorBadVar(int& index, int count, int lineStart, int style) {
         ++end;
     }
     Style(lineStart, first, end - first.StartPos, style);
+}
+
+void UpperName::Set(const std::string& name) {
+    text = name;
+    for (char& c : text)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+    hash = HashOfUpper(text);
+}
+
+bool ColorKnown(clsHash& table, const UpperName& name, NameLook look, int& index, int count, int lineStart) {
+    if (!table.ExistsU(name.text, name.hash)) return false;
+    Symbol* record = FoundItem;
+    if (look.fixCase) FixVariableCase(record->Ime, index, lineStart);
+    if (index < count && IsAfterName[At(index + 1).Kind])
+        look.walker(record, index, count, lineStart, look.style);
+    else
+        Style(lineStart, At(index), static_cast<std::intptr_t>(At(index).Text.size()), look.style);
+    return true;
+}
+
+bool AskedAt(int lineStart, int column) {
+    return ColoringCurrentLine && ACForced && CaretAt(lineStart, column);
+}
+
+bool MayOffer(int lineStart, int column) {
+    return ColoringCurrentLine && !ACShownNow && CaretAt(lineStart, column) &&
+           (ACForced || Mod_Sci::AutoCActive());
 }
 
 void ClearBrackets() { topBracket = 0; }

@@ -12,6 +12,7 @@
 #include <string_view>
 
 struct ClsBBFunkcija;
+class clsHash;
 
 namespace Mod_Parse {
 
@@ -78,6 +79,29 @@ void ColorArrayVar(Symbol* record, int& index, int count, int lineStart, int sty
 void ColorBadVar(int& index, int count, int lineStart, int style);
 // One token inside brackets, by what it means.
 void ColorTokenLight(int& index, int count, int lineStart);
+
+// A name in upper case with its hash, computed once for all tables that are asked for it.
+struct UpperName {
+    std::string text;
+    int hash = 0;
+
+    void Set(const std::string& name);
+};
+
+using VariableWalker = void (*)(Symbol* record, int& index, int count, int lineStart, int style);
+struct NameLook {
+    int style;
+    VariableWalker walker; // for what hangs on the name
+    bool fixCase;
+};
+// Styles a name that a table knows, with what hangs on it. False when it does not know it.
+bool ColorKnown(clsHash& table, const UpperName& name, NameLook look, int& index, int count, int lineStart);
+
+// Whether a completion list may open or go on for the word that ends at a column of the line being coloured:
+// the caret stands there, none was shown in this pass, and one is asked for or open.
+bool MayOffer(int lineStart, int column);
+// Whether a list was asked for right at a column, behind a sign that calls for a name.
+bool AskedAt(int lineStart, int column);
 
 // Brackets of the pass: clear before it, push or close each one, and style what stayed open after it.
 void ClearBrackets();

@@ -27,6 +27,11 @@ extern bool ParsingFile;
 // changes.
 extern bool Coloring;
 
+// While raised, the parser keeps the last keyword that opened an indentation level. Written by the command
+// that completes a scope, and by the parser.
+extern bool RememberScopeKeyword;
+extern std::string LastScopeKeyword;
+
 // The symbol tables changed since the lists were last filled. Raised by the parser, lowered by the
 // restyle of the visible lines.
 extern bool gSymbolsChanged;
@@ -35,8 +40,11 @@ extern bool gSymbolsChanged;
 extern int BadStyle;
 
 // ColorCurrentLine is running. A character was typed or a list was asked for; one was shown in this pass;
-// this line's keyword makes a new name. Written by the colourers and the completion.
+// this line's keyword makes a new name. The user asked for the list, and it stays so while that list is open;
+// this is the pass in which it was asked for. Written by the colourers and the completion.
 extern bool ColoringCurrentLine;
 extern bool ACForced;
 extern bool ACShownNow;
 extern bool InDeclaration;
+extern bool ACExplicitList;
+extern bool ACExplicitNow;

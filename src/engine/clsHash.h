@@ -66,6 +66,12 @@ public:
     // All entries in hash order: chains from 0 up, each from head to tail.
     std::vector<std::string> Keys() const;
     std::vector<SymbolPointer> Items() const;
+    // Visits every record, in no order that means anything.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        for (int slot : hashTbl_)
+            for (; slot != 0; slot = Slot(slot).NextItem) visit(*Slot(slot).Value);
+    }
 
     std::string LastKey; // the last upper-cased key
 

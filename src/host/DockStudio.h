@@ -35,6 +35,12 @@ public:
     virtual std::vector<std::string> Items() const = 0;
     virtual std::string Text() const = 0;
     virtual void SetText(const std::string& text) = 0;
+    // The text of a status pane with one stretch of it, `hot`, in a colour (0x00BBGGRR).
+    // Where there is no colour it is plain text.
+    virtual void SetMarkedText(const std::string& left, const std::string& hot, const std::string& right,
+                               int /*colour*/) {
+        SetText(left + hot + right);
+    }
 };
 
 // One tab of the document area, with a key that is its own.

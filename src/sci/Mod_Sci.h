@@ -51,6 +51,7 @@ inline std::intptr_t PositionFromPoint(std::intptr_t x, std::intptr_t y) {
 inline std::intptr_t GotoLine(std::intptr_t line) { return Send(SCI_GOTOLINE, line); }
 inline std::intptr_t GotoPos(std::intptr_t position) { return Send(SCI_GOTOPOS, position); }
 inline std::intptr_t SetAnchor(std::intptr_t position) { return Send(SCI_SETANCHOR, position); }
+inline std::intptr_t GetEolMode() { return Send(SCI_GETEOLMODE); }
 inline std::intptr_t SetEolMode(std::intptr_t mode) { return Send(SCI_SETEOLMODE, mode); }
 inline std::intptr_t StartStyling(std::intptr_t position, std::intptr_t mask) {
     return Send(SCI_STARTSTYLING, position, mask);
@@ -195,6 +196,10 @@ inline std::intptr_t GetTargetEnd() { return Send(SCI_GETTARGETEND); }
 inline std::intptr_t ReplaceTarget(std::string_view text) {
     return Send(SCI_REPLACETARGET, static_cast<std::intptr_t>(text.size()), Address(text.data()));
 }
+// The same with the groups of the last match in the place of \1 to \9.
+inline std::intptr_t ReplaceTargetRe(std::string_view text) {
+    return Send(SCI_REPLACETARGETRE, static_cast<std::intptr_t>(text.size()), Address(text.data()));
+}
 inline std::intptr_t SearchInTarget(std::string_view text) {
     return Send(SCI_SEARCHINTARGET, static_cast<std::intptr_t>(text.size()), Address(text.data()));
 }
@@ -252,6 +257,9 @@ inline std::intptr_t SetWrapMode(std::intptr_t mode) { return Send(SCI_SETWRAPMO
 inline std::intptr_t TextWidth(std::intptr_t style, const char* text) {
     return Send(SCI_TEXTWIDTH, style, Address(text));
 }
+inline std::intptr_t TextHeight(std::intptr_t line) { return Send(SCI_TEXTHEIGHT, line); }
+inline std::intptr_t GetCodePage() { return Send(SCI_GETCODEPAGE); }
+inline std::intptr_t PositionAfter(std::intptr_t position) { return Send(SCI_POSITIONAFTER, position); }
 inline std::intptr_t TargetFromSelection() { return Send(SCI_TARGETFROMSELECTION); }
 inline std::intptr_t SetFoldMarginColour(std::intptr_t use, std::intptr_t colour) {
     return Send(SCI_SETFOLDMARGINCOLOUR, use, colour);

@@ -3,8 +3,12 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "editor/Mod_SciFun_complete.h"
+#include "editor/Mod_SciFun_edit.h"
+#include "editor/Mod_SciFun_tips.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
+#include "engine/Markers.h"
 #include "engine/Mod_Folding.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
@@ -17,6 +21,13 @@
 namespace Mod_MenuCommands {
 
 namespace {
+
+using namespace Mod_Parse;
+
+template <void (*Routine)()>
+void Run(const Click&) {
+    Routine();
+}
 
 void SaveActive(const Click&) {
     if (frmDoc* document = ActiveForm()) Mod_File::SaveFile(document);
@@ -58,14 +69,6 @@ void ToggleFold(const Click&) {
     Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
-// The group stays open across the indentation that follows, so both are undone together.
-void NewLine(const Click&) {
-    if (!DocumentActive()) return;
-    Mod_Sci::AutoCCancel();
-    OpenUndoGroup();
-    Mod_Sci::NewLine();
-}
-
 void NotAvailable(const Click&) {
     gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
                          .icon = MessageIcon::Information});
@@ -75,7 +78,7 @@ void NotAvailable(const Click&) {
 
 const std::vector<RoutedCommand>& Routes() {
     static const std::vector<RoutedCommand> table = {
-        {"New Line", NewLine},
+        {"New Line", Run<Mod_SciFun::NewLine>},
         {"Undo", [](const Click&) { Mod_Sci::Undo(); }, true},
         {"Redo", [](const Click&) { Mod_Sci::Redo(); }, true},
         {"Cut", [](const Click&) { Mod_Sci::Cut(); }},
@@ -83,8 +86,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"Paste", [](const Click&) { Mod_Sci::Paste(); }, true},
         {"Delete", [](const Click&) { Mod_Sci::Clear(); }},
         {"Select All", [](const Click&) { Mod_Sci::SelectAll(); }, true},
-        {"Indent Selection", nullptr},
-        {"UnIndent Selection", nullptr},
+        {"Indent Selection", Run<Mod_SciFun::IndentSelection>},
+        {"UnIndent Selection", Run<Mod_SciFun::UnIndentSelection>},
         {"Word Left", [](const Click&) { Mod_Sci::WordLeft(); }},
         {"Word Left Extend", [](const Click&) { Mod_Sci::WordLeftExtend(); }},
         {"Word Right", [](const Click&) { Mod_Sci::WordRight(); }},
@@ -100,24 +103,24 @@ const std::vector<RoutedCommand>& Routes() {
         {"Cut Current Line", [](const Click&) { Mod_Sci::LineCut(); }},
         {"Delete Current Line", [](const Click&) { Mod_Sci::LineDelete(); }},
         {"Copy Current Line", [](const Click&) { Mod_Sci::LineCopy(); }},
-        {"Move Current Line Up", nullptr},
-        {"Move Current Line Down", nullptr},
-        {"Comment Selection", nullptr},
-        {"UnComment Selection", nullptr},
-        {"Block From Selection", nullptr},
+        {"Move Current Line Up", Run<Mod_SciFun::MoveCurrentLineUp>},
+        {"Move Current Line Down", Run<Mod_SciFun::MoveCurrentLineDown>},
+        {"Comment Selection", Run<Mod_SciFun::CommentSelection>},
+        {"UnComment Selection", Run<Mod_SciFun::UnCommentSelection>},
+        {"Block From Selection", Run<Mod_SciFun::BlockFromSelection>},
         {"Goto Line", nullptr, true},
         {"Goto Function", NotAvailable, true},
         {"Goto Declaration", nullptr, true},
         {"Goto Previous Position", nullptr, true},
         {"Goto Next Position", nullptr, true},
         {"Toggle Fold", ToggleFold},
-        {"KeywordHelp", nullptr},
+        {"KeywordHelp", [](const Click&) { Mod_SciFun::KeywordHelp(); }},
         {"Toggle Bookmark", nullptr},
         {"Previous Bookmark", nullptr, true},
         {"Next Bookmark", nullptr, true},
         {"Clear All Bookmarks", nullptr},
-        {"Show Autocomplete", nullptr},
-        {"Show Calltip", nullptr},
+        {"Show Autocomplete", [](const Click&) { Mod_SciFun::ShowAutocomplete(); }},
+        {"Show Calltip", [](const Click&) { Mod_SciFun::ShowCalltip(); }},
         {"Cycle Private", nullptr},
         {"Copy Private", nullptr},
         {"Paste Private", nullptr},
@@ -127,22 +130,22 @@ const std::vector<RoutedCommand>& Routes() {
         {"Replace", nullptr},
         {"Next Function", nullptr},
         {"Previous Function", nullptr},
-        {"Auto Indent Selection", nullptr},
-        {"Auto Indent Function", nullptr},
-        {"Complete Scope", nullptr},
+        {"Auto Indent Selection", Run<Mod_SciFun::AutoIndentSelection>},
+        {"Auto Indent Function", Run<Mod_SciFun::AutoindentCurrentFunction>},
+        {"Complete Scope", Run<Mod_SciFun::CompleteScope>},
         {"Convert To Upper Case", [](const Click&) { Mod_Sci::UpperCase(); }},
         {"Convert To Lower Case", [](const Click&) { Mod_Sci::LowerCase(); }},
-        {"Fold Everything", nullptr},
-        {"UnFold Everything", nullptr},
-        {"Fold Blocks", nullptr},
-        {"UnFold Blocks", nullptr},
-        {"Fold Functions", nullptr},
-        {"UnFold Functions", nullptr},
-        {"Fold Types", nullptr},
-        {"UnFold Types", nullptr},
+        {"Fold Everything", [](const Click&) { Mod_SciFun::FoldEverything(Mod_SciFun::AnyFold); }},
+        {"UnFold Everything", [](const Click&) { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
+        {"Fold Blocks", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerBlock)); }},
+        {"UnFold Blocks", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerBlock)); }},
+        {"Fold Functions", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerFunction)); }},
+        {"UnFold Functions", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerFunction)); }},
+        {"Fold Types", [](const Click&) { Mod_SciFun::FoldEverything(MaskOf(MarkerType)); }},
+        {"UnFold Types", [](const Click&) { Mod_SciFun::UnFoldEverything(MaskOf(MarkerType)); }},
         {"Insert Color", nullptr},
-        {"Insert Filename", nullptr},
-        {"Insert FilePath", nullptr},
+        {"Insert Filename", NotAvailable},
+        {"Insert FilePath", Run<Mod_SciFun::InsertFilePath>},
         {"New File", [](const Click&) { Mod_File::NewFile(); }},
         {"New Project", nullptr},
         {"Open File", [](const Click&) { Mod_File::OpenFile(""); }},
@@ -202,7 +205,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"DebugCompile", DebugActive},
         {"CreateExecutable", BuildActive},
         {"ProgramCommandLine", FocusCommandLine},
-        {"Toggle BreakPoint", nullptr},
+        {"Toggle BreakPoint", [](const Click&) { Mod_SciFun::ToggleBreakPoint(); }},
         {"Strict Mode", [](const Click&) { ChangeStrictMode(); }},
         {"HotCode For Selection", nullptr},
         {"Edit HotCodes", nullptr},

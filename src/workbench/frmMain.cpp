@@ -5,6 +5,7 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
+#include "editor/EditorCalls.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
@@ -104,6 +105,10 @@ void frmMain::SetPositionText(const std::string& text) {
 
 void frmMain::SetFunctionText(const std::string& text) {
     if (functions_) functions_->SetText(text);
+}
+
+void frmMain::SetTipText(const TipText& tip) {
+    if (statusMain_) statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
 }
 
 void frmMain::DS_ComboTextChanged(DockCommand&) {}

@@ -7,6 +7,7 @@
 #include <string>
 
 class frmDoc;
+struct TipText;
 
 // The key of the help tab, which no handler takes for a document.
 inline constexpr const char* HelpWindowKey = "HELP WINDOW";
@@ -42,6 +43,8 @@ public:
 
     void SetPositionText(const std::string& text);
     void SetFunctionText(const std::string& text);
+    // The tip box: the call or the scope at the caret.
+    void SetTipText(const TipText& tip);
     RecentTabs& Tabs() { return tabs_; }
 
     void DS_CommandClick(DockCommand& command, int item) override;

@@ -6,6 +6,7 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
+#include "editor/Mod_SciFun_tips.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
@@ -75,9 +76,11 @@ void frmMain::ActivateDocument(frmDoc& document) {
         SetBox("cboCompilers", gCurrentProject->Compiler);
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
     }
+    const auto caret = Mod_Sci::GetCurrentPos();
+    const int line = static_cast<int>(Mod_Sci::LineFromPosition(caret));
+    Mod_SciFun::ShowHelp(caret, line);
     if (OptionsEdit::ShowCurrentFunction) {
-        const auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
-        SetFunctionText(Mod_Parse::CurrentFunctionForDisplay(static_cast<int>(line)));
+        SetFunctionText(Mod_Parse::CurrentFunctionForDisplay(line));
     }
     ShowProgressPane(false);
     UpdateCommandUI();

@@ -47,9 +47,7 @@ private:
 
 // Questions to a view that only tests ask.
 enum : unsigned {
-    SCI_GETEOLMODE = 2030,
     SCI_GETCARETLINEBACK = 2097,
-    SCI_GETCODEPAGE = 2137,
     SCI_GETCARETFORE = 2138,
     SCI_STYLEGETFORE = 2481,
     SCI_STYLEGETBACK = 2482,

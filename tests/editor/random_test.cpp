@@ -3,6 +3,7 @@
 // the last. A series comes from a seed, and one that fails is shrunk before it is told.
 #include "engine/fixture/SourceTest.h"
 
+#include "editor/Mod_SciFun_edit.h"
 #include "host/Paths.h"
 
 #include <cstdlib>
@@ -50,12 +51,36 @@ enum Kind {
     Back,
     Undo,
     Redo,
+    Move,
     MoveAway,
     Drain,
+    Command, // one of Commands on a selection
     Kinds
 };
-constexpr const char* KindNames[] = {"insert line", "paste", "delete", "delete line", "type", "new line",
-                                     "backspace",   "undo",  "redo",   "move away",   "drain"};
+constexpr const char* KindNames[] = {"insert line", "paste",     "delete", "delete line", "type",
+                                     "new line",    "backspace", "undo",   "redo",        "move",
+                                     "move away",   "drain",     "command"};
+
+constexpr struct {
+    const char* name;
+    void (*run)();
+} Commands[] = {
+    {"comment", Mod_SciFun::CommentSelection},
+    {"uncomment", Mod_SciFun::UnCommentSelection},
+    {"indent", Mod_SciFun::IndentSelection},
+    {"unindent", Mod_SciFun::UnIndentSelection},
+    {"auto indent", Mod_SciFun::AutoIndentSelection},
+    {"indent function", Mod_SciFun::AutoindentCurrentFunction},
+    {"block", Mod_SciFun::BlockFromSelection},
+    {"move up", Mod_SciFun::MoveCurrentLineUp},
+    {"move down", Mod_SciFun::MoveCurrentLineDown},
+    {"complete scope", Mod_SciFun::CompleteScope},
+    {"breakpoint", [] { Mod_SciFun::ToggleBreakPoint(); }},
+    {"fold", [] { Mod_SciFun::FoldEverything(Mod_SciFun::AnyFold); }},
+    {"unfold", [] { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
+    {"upper case", [] { Mod_Sci::UpperCase(); }},
+    {"lower case", [] { Mod_Sci::LowerCase(); }},
+};
 
 // Numbers are taken modulo what the text allows when the step is done, so that a series stays a series when
 // steps are taken out of it.
@@ -63,6 +88,7 @@ struct Step {
     Kind kind;
     unsigned long line, column, lines, endColumn;
     std::string text;
+    unsigned long command;
 };
 
 struct Series {
@@ -88,7 +114,8 @@ protected:
         Series series{seed % 2 ? "\r\n" : "\n", {}, {}};
         for (int i = 0; i < 10; ++i) series.text.push_back(piece());
         for (int i = 0; i < steps; ++i) {
-            Step step{static_cast<Kind>(random() % Kinds), random(), 0, random() % 3, random(), piece()};
+            Step step{
+                static_cast<Kind>(random() % Kinds), random(), 0, random() % 3, random(), piece(), random()};
             if (random() % 3 == 0) step.column = random();
             if (step.kind == Paste) step.text += series.lineEnd + piece();
             if (step.kind == InsertWhole) step.text += series.lineEnd;
@@ -169,7 +196,18 @@ private:
 
     std::string Difference() {
         const std::string log = TakeLog();
-        return log.empty() ? UnlikeLoaded() : log;
+        return log.empty() ? Unreachable() + UnlikeLoaded() : log;
+    }
+
+    // A line that no closed fold hides must be seen: nobody could open it.
+    static std::string Unreachable() {
+        for (int line = 0; line < Mod_Sci::GetLineCount(); ++line) {
+            if (Mod_Sci::GetLineVisible(line)) continue;
+            auto parent = Mod_Sci::GetFoldParent(line);
+            while (parent >= 0 && Mod_Sci::GetFoldExpanded(parent)) parent = Mod_Sci::GetFoldParent(parent);
+            if (parent < 0) return "Nothing shows line " + std::to_string(line) + ".\n";
+        }
+        return {};
     }
 
     std::string TakeLog() {
@@ -191,6 +229,7 @@ private:
         case Paste:
         case TypeText: text = step.text; break;
         case NewLine: text = "\n"; break;
+        case Command:
         case Delete: {
             const auto last = static_cast<int>(std::min(line + step.lines, lines - 1));
             end = Mod_Sci::PositionFromLine(last) +
@@ -202,17 +241,22 @@ private:
         }
         const auto from = step.kind != Back ? start
                           : column > 0      ? start - 1
-                                            : std::max<std::intptr_t>(start - 2, 0);
-        if (end < start || !Meaningful(from, end, text)) return;
+                          : line > 0        ? Mod_Sci::GetLineEndPosition(line - 1)
+                                            : start;
+        if (end < start) return;
+        const bool edits = step.kind != Command && step.kind != MoveAway && step.kind != Drain;
+        if (edits && !Meaningful(from, end, text)) return;
+        const auto& command = Commands[step.command % std::size(Commands)];
         if (told)
-            *told += "- " + std::string(KindNames[step.kind]) + " " + std::to_string(start) + " to " +
-                     std::to_string(end) + " " + text + "\n";
+            *told += "- " + std::string(step.kind == Command ? command.name : KindNames[step.kind]) + " " +
+                     std::to_string(start) + " to " + std::to_string(end) + " " + text + "\n";
         switch (step.kind) {
         case TypeText: TypeAt(start, text); break;
         case NewLine: TypeAt(start, "\n"); break;
         case Back: TypeAt(start, "\b"); break;
         case Undo: Mod_Sci::Undo(); break;
         case Redo: Mod_Sci::Redo(); break;
+        case Move: Mod_Sci::GotoPos(start); break;
         case MoveAway: {
             const auto caret = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
             Leave(caret == 0 ? 1 : caret - 1);
@@ -220,6 +264,11 @@ private:
             break;
         }
         case Drain: ActiveForm()->m_oSubclass->DeactivateCheck(); break;
+        case Command:
+            Mod_Sci::SetSel(start, end);
+            Settle();
+            command.run();
+            break;
         default: Mod_Sci::SetSel(start, end); Mod_Sci::ReplaceSel(text.c_str());
         }
         Settle();

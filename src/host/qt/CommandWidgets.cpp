@@ -2,6 +2,7 @@
 #include "host/qt/CommandWidgets.h"
 
 #include "host/qt/QtText.h"
+#include "host/qt/StatusText.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -16,13 +17,13 @@ constexpr int SideMargin = 6;
 constexpr int ClockMilliseconds = 1000;
 
 QWidget* MakeLabel(QtCommand& command, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setContentsMargins(SideMargin, 0, SideMargin, 0);
-    label->setTextFormat(Qt::PlainText);
+    auto* label = new StatusText(command.Record().width, parent);
     label->setAccessibleName(command.PlainCaption());
-    // A long text must not force the window wider.
-    label->setMinimumWidth(std::max(1, command.Record().width));
-    const auto show = [&command, label] { label->setText(Shown(command.Text())); };
+    const auto show = [&command, label] {
+        const MarkedText& text = command.Marked();
+        const QColor colour(text.colour & 0xFF, (text.colour >> 8) & 0xFF, (text.colour >> 16) & 0xFF);
+        label->Show(Shown(text.left), Shown(text.hot), Shown(text.right), colour);
+    };
     QObject::connect(&command, &QtCommand::TextShown, label, show);
     show();
     return label;

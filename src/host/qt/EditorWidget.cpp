@@ -6,6 +6,7 @@
 #include "host/qt/QtText.h"
 
 #include <QApplication>
+#include <QChildEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -93,6 +94,20 @@ void EditorWidget::ConnectNotifications() {
     connect(this, &Base::SCN_FOCUSOUT, this, [this] {
         if (events_) events_->OnKillFocus();
     });
+}
+
+// The completion list is a child that the library makes anew each time; it takes the colours of the text.
+void EditorWidget::childEvent(QChildEvent* event) {
+    QsciScintillaBase::childEvent(event);
+    if (event->type() != QEvent::ChildAdded || !event->child()->isWidgetType()) return;
+    const auto colour = [this](unsigned message, unsigned long style) {
+        const auto bgr = static_cast<int>(SendScintilla(message, style));
+        return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF);
+    };
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colour(SCI_STYLEGETBACK, STYLE_DEFAULT));
+    colours.setColor(QPalette::Text, colour(SCI_STYLEGETFORE, 0));
+    static_cast<QWidget*>(event->child())->setPalette(colours);
 }
 
 bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }

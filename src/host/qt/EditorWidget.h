@@ -17,6 +17,7 @@ public:
     bool IsUtf8() const;
 
 protected:
+    void childEvent(QChildEvent* event) override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;

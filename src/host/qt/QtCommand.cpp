@@ -91,8 +91,14 @@ void QtCommand::SetItems(const std::vector<std::string>& items) {
 }
 
 void QtCommand::SetText(const std::string& text) {
-    if (text == text_) return;
-    text_ = text;
+    if (text == text_ && marked_.hot.empty()) return;
+    SetMarkedText(text, "", "", 0);
+}
+
+void QtCommand::SetMarkedText(const std::string& left, const std::string& hot, const std::string& right,
+                              int colour) {
+    text_ = left + hot + right;
+    marked_ = {left, hot, right, colour};
     emit TextShown();
 }
 

@@ -10,6 +10,13 @@
 #include <QPointer>
 #include <memory>
 
+struct MarkedText {
+    std::string left; // all of the text where nothing is marked
+    std::string hot;
+    std::string right;
+    int colour = 0;
+};
+
 class QtCommand : public QObject, public DockCommand {
     Q_OBJECT
 
@@ -33,6 +40,8 @@ public:
     std::vector<std::string> Items() const override { return items_; }
     std::string Text() const override { return text_; }
     void SetText(const std::string& text) override;
+    void SetMarkedText(const std::string& left, const std::string& hot, const std::string& right,
+                       int colour) override;
 
     // Takes over what a newly loaded layout says; state that is not in layouts stays.
     void Replace(LayoutCommand record);
@@ -41,6 +50,7 @@ public:
     QAction* Action() const { return action_; }
     // The menu of a pop-up; null for other kinds.
     QMenu* Menu() const { return menu_.get(); }
+    const MarkedText& Marked() const { return marked_; }
     bool AutoRepeat() const { return autoRepeat_; }
     const std::vector<QKeyCombination>& Shortcuts() const { return shortcuts_; }
     void SetShortcuts(const std::vector<QKeyCombination>& keys);
@@ -61,5 +71,6 @@ private:
     std::vector<QKeyCombination> shortcuts_;
     std::vector<std::string> items_;
     std::string text_;
+    MarkedText marked_;
     bool autoRepeat_ = false;
 };
