@@ -276,14 +276,14 @@ TEST_F(RoutingTest, CommandsThatNeedADocumentDoNothingWithoutOne) {
 }
 
 TEST_F(RoutingTest, PanesToggleAndTheirMarksFollow) {
-    host.dock.panes["Output"] = std::make_unique<FakePane>(host.dock, "Output");
+    host.dock.panes["Output"] = std::make_unique<HeadlessPane>(host.dock, "Output");
     DockPane& pane = *host.dock.FindPane("Output");
     Click("Output Window");
     EXPECT_FALSE(pane.Visible());
     Click("Output Window");
     EXPECT_TRUE(pane.Visible());
     EXPECT_TRUE(host.dock.FindCommand("Output Window")->Checked());
-    static_cast<FakePane&>(pane).autoHidden = true;
+    static_cast<HeadlessPane&>(pane).autoHidden = true;
     Click("Output Window"); // shown, but rolled away: it comes out instead of closing
     EXPECT_TRUE(pane.Visible());
     Click("Projects Manager"); // a pane that isn't there
@@ -350,7 +350,7 @@ TEST_F(RoutingTest, ADamagedLayoutIsToldAndChangesNothing) {
 }
 
 TEST_F(RoutingTest, AnOlderArrangementIsBroughtUpToDateOnce) {
-    FakeDock old;
+    HeadlessDock old;
     gHost.dock = &old;
     old.Make("Save File As", "Sci");
     old.entries["File"] = {"Save File As", "Exit"};
