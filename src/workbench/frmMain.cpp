@@ -19,6 +19,19 @@
 #include "workbench/FactoryLayout.h"
 #include "workbench/frmOutput.h"
 
+namespace {
+
+constexpr struct {
+    const char* pane;
+    const char* command;
+} PaneToggles[] = {{"Projects", "Projects Manager"},
+                   {"FileExplorer", "File Explorer"},
+                   {"Output", "Output Window"},
+                   {"Snippets", "Snippets Manager"},
+                   {"CodeExplorer", "Code Explorer"}};
+
+}
+
 frmMain& frmMain::Instance() {
     static frmMain window;
     return window;
@@ -90,8 +103,13 @@ void frmMain::UpdateSciCommandUI() {
 }
 
 void frmMain::AddDockForms(bool addNew) {
-    Guarded("AddDockForms", "frmMain",
-            [&] { AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew); });
+    Guarded("AddDockForms", "frmMain", [&] {
+        AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew);
+        // A pane that is not there cannot be shown.
+        for (const auto& toggle : PaneToggles)
+            if (DockCommand* command = gHost.dock->FindCommand(toggle.command))
+                command->SetVisible(gHost.dock->FindPane(toggle.pane) != nullptr);
+    });
 }
 
 void frmMain::AttachDockForm(const std::string& pane, const std::string& caption, const std::string& icon,
@@ -116,15 +134,7 @@ void frmMain::DS_ComboTextChanged(DockCommand&) {}
 void frmMain::DS_ComboTextCommitted(DockCommand& command) { DS_CommandClick(command, -1); }
 
 void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
-    static constexpr struct {
-        const char* pane;
-        const char* command;
-    } Toggles[] = {{"Projects", "Projects Manager"},
-                   {"FileExplorer", "File Explorer"},
-                   {"Output", "Output Window"},
-                   {"Snippets", "Snippets Manager"},
-                   {"CodeExplorer", "Code Explorer"}};
-    for (const auto& toggle : Toggles)
+    for (const auto& toggle : PaneToggles)
         if (pane == toggle.pane)
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
 }

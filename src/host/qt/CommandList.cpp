@@ -8,6 +8,8 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QMimeData>
+#include <QPixmap>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -106,6 +108,10 @@ void CommandList::Reload() {
         if (place.kind == BarKind::Menu && !place.popup) FindMenus(place.name, {}, menus);
     tree_->clear();
     QStringList tops;
+    // Names begin in one line, with an icon or without.
+    QPixmap empty(tree_->style()->pixelMetric(QStyle::PM_SmallIconSize), 1);
+    empty.fill(Qt::transparent);
+    const QIcon nothing(empty);
     for (const auto& command : table_.All()) {
         const CommandKind kind = command->Record().kind;
         const bool shows =
@@ -113,8 +119,10 @@ void CommandList::Reload() {
         // What only shows something, or has no routine, is none to choose.
         if (!command->Visible() || (shows && command->Shortcuts().empty())) continue;
         auto* item = new QTreeWidgetItem(tree_);
-        item->setText(Name, command->PlainCaption());
-        item->setIcon(Name, command->Action()->icon());
+        item->setText(Name, command->Menu() ? tr("%1 (menu)").arg(command->PlainCaption())
+                                            : command->PlainCaption());
+        const QIcon icon = command->Action()->icon();
+        item->setIcon(Name, icon.isNull() ? nothing : icon);
         item->setText(Menu, menus[command->Name()]);
         item->setText(Keys, KeysOf(*command));
         item->setData(Name, Qt::UserRole, Shown(command->Name()));

@@ -2,9 +2,14 @@
 #include "host/qt/CustomizeDialog.h"
 
 #include <QDialogButtonBox>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+namespace {
+constexpr int Border = 60; // pixels for the frame that the desktop draws
+}
 
 CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     : QDialog(parent), target_(target), editor_(target), commands_(new CommandList(target, this)),
@@ -29,7 +34,8 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     column->addWidget(buttons);
     // Enter belongs to the fields and lists, not to a button that happens to stand first.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);
+    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);
+    resize(wanted.boundedTo(parent->screen()->availableSize() - QSize(Border, Border)));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(revert, &QPushButton::clicked, this, [this] {
         target_.Revert();
