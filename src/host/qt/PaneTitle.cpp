@@ -1,16 +1,19 @@
 // The title bar of a pane.
 #include "host/qt/PaneTitle.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QPainter>
 #include <QStyle>
 
 namespace {
 constexpr QSize ButtonSize(22, 22);
 constexpr QSize IconSize(14, 14);
 constexpr int SideMargin = 6;
+constexpr int ActiveLine = 2;
 }
 
 PaneTitle::PaneTitle(QWidget* parent) : QWidget(parent), caption_(new QLabel(this)) {
@@ -28,6 +31,12 @@ PaneTitle::PaneTitle(QWidget* parent) : QWidget(parent), caption_(new QLabel(thi
     row->addWidget(close_);
     connect(pin_, &QToolButton::clicked, this, &PaneTitle::AutoHideAsked);
     connect(close_, &QToolButton::clicked, this, &PaneTitle::CloseAsked);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        const bool active = now && parentWidget() && parentWidget()->isAncestorOf(now);
+        if (active == active_) return;
+        active_ = active;
+        update();
+    });
     SetAutoHidden(false);
 }
 
@@ -62,6 +71,11 @@ void PaneTitle::ShowIcons() {
 void PaneTitle::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) ShowIcons();
+}
+
+// The same mark as on the tab of the active document: here is where the keys go.
+void PaneTitle::paintEvent(QPaintEvent*) {
+    if (active_) QPainter(this).fillRect(0, 0, width(), ActiveLine, palette().color(QPalette::Highlight));
 }
 
 void PaneTitle::contextMenuEvent(QContextMenuEvent* event) { emit MenuAsked(event->globalPos()); }

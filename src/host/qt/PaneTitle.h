@@ -22,6 +22,7 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -32,4 +33,5 @@ private:
     QToolButton* pin_;
     QToolButton* close_;
     bool autoHidden_ = false;
+    bool active_ = false; // the focus is in the pane
 };

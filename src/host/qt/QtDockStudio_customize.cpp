@@ -11,7 +11,8 @@ constexpr const char* OwnBar = "own-"; // begins the name of a bar that the user
 }
 
 void QtDockStudio::Customize() {
-    if (customizing_) {
+    // A closed one may still wait to be deleted.
+    if (customizing_ && customizing_->isVisible()) {
         customizing_->raise();
         return customizing_->activateWindow();
     }
@@ -27,7 +28,6 @@ void QtDockStudio::Customize() {
 
 void QtDockStudio::EndCustomizing() {
     if (customizing_) customizing_->close();
-    customizing_ = nullptr;
 }
 
 std::vector<CommandPlace> QtDockStudio::Places() {
