@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -183,6 +184,16 @@ void QtPane::MoveTo(Qt::DockWidgetArea area) {
     Show();
 }
 
+// In the middle of the window: where it stood docked it would look docked.
+void QtPane::Float() {
+    SetAutoHidden(false);
+    dock_->setFloating(true);
+    const QSize half = window_.size() / 2;
+    dock_->resize(dock_->size().boundedTo(half).expandedTo(half / 2));
+    dock_->move(window_.mapToGlobal(window_.rect().center()) - dock_->rect().center());
+    Show();
+}
+
 void QtPane::ShowMenu(const QPoint& global) {
     QMenu menu;
     const std::pair<QString, Qt::DockWidgetArea> sides[] = {{tr("Dock &Left"), Qt::LeftDockWidgetArea},
@@ -196,10 +207,7 @@ void QtPane::ShowMenu(const QPoint& global) {
     menu.addSeparator();
     QAction* floats = menu.addAction(tr("&Float"));
     floats->setEnabled(!dock_->isFloating());
-    connect(floats, &QAction::triggered, this, [this] {
-        SetAutoHidden(false);
-        dock_->setFloating(true);
-    });
+    connect(floats, &QAction::triggered, this, &QtPane::Float);
     QAction* hides = menu.addAction(tr("&Auto-Hide"));
     hides->setCheckable(true);
     hides->setChecked(autoHidden_);
@@ -210,6 +218,12 @@ void QtPane::ShowMenu(const QPoint& global) {
 
 // The toolkit tells nothing of a pane that is being dragged: it has begun once the pressed title has moved.
 bool QtPane::eventFilter(QObject* watched, QEvent* event) {
+    // With a title of its own the toolkit leaves a floating pane without its frame.
+    if (watched == dock_ && event->type() == QEvent::Paint && dock_->isFloating()) {
+        QPainter painter(dock_);
+        painter.setPen(dock_->palette().color(QPalette::Mid));
+        painter.drawRect(dock_->rect().adjusted(0, 0, -1, -1));
+    }
     if (watched == dock_ && event->type() == QEvent::MouseButtonPress)
         press_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
     if (watched == dock_ && event->type() == QEvent::MouseMove && !dragging_) {

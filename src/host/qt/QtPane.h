@@ -50,6 +50,7 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void RollAway(int extent);
     void RollBack();
+    void Float();
     void MoveTo(Qt::DockWidgetArea area);
     void ShowMenu(const QPoint& global);
     void ConnectTitle(PaneTitle& title);
