@@ -93,8 +93,9 @@ void PasteLines(benchmark::State& state, Change measured) {
     widget.hide();
 }
 
-// One key that opens the list, without its paint.
-void CompletionList(benchmark::State& state) {
+// The list for a word, without its paint: one that few of the names begin with, as it opens by itself, and
+// one that hundreds begin with, which opens when it is asked for.
+void CompletionList(benchmark::State& state, const char* word, bool asked) {
     constexpr int Names = 10000;
     const OpenSource source(1000);
     std::string text;
@@ -109,15 +110,16 @@ void CompletionList(benchmark::State& state) {
     Mod_Sci::ReplaceSel("\r\n");
     GoTo(0);
     Paint(widget, true);
-    for (const char key : {'q', 'n', 'a', 'm', 'e'}) {
-        Press(widget, 0, QString(QLatin1Char(key)));
+    for (const char* key = word; *key; ++key) {
+        Press(widget, 0, QString(QLatin1Char(*key)));
         Paint(widget, false);
     }
     double worst = 0;
     for (auto _ : state) {
         Mod_Sci::AutoCCancel();
         const double seconds = Seconds([&] {
-            ACForced = ACExplicitList = ACExplicitNow = true;
+            ACForced = true;
+            ACExplicitList = ACExplicitNow = asked;
             Mod_Parse::ColorCurrentLine(0, false);
             ACForced = ACExplicitNow = false;
         });
@@ -167,7 +169,14 @@ BENCHMARK_CAPTURE(PasteLines, undo, Change::Undo)
     ->Unit(benchmark::kMillisecond)
     ->UseManualTime()
     ->Iterations(Rounds);
-BENCHMARK(CompletionList)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(200);
+BENCHMARK_CAPTURE(CompletionList, few, "qname12", false)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(200);
+BENCHMARK_CAPTURE(CompletionList, hundreds, "qname", true)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(200);
 BENCHMARK(CursorHeld)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(5);
 
 } // namespace

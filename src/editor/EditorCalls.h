@@ -20,7 +20,7 @@ struct EditorCalls {
     std::function<void(const TipText& tip)> SetTipText;           // the tip box
     // The help page of a word; false when no page has it.
     std::function<bool(const std::string& word)> ShowBrowserHelp;
-    std::function<void()> UpdateSciCommandUI;                     // "Undo" and "Redo" enable
-    std::function<void(const std::string& path)> OpenFile;        // a file was dropped on a view
+    std::function<void()> UpdateSciCommandUI;              // "Undo" and "Redo" enable
+    std::function<void(const std::string& path)> OpenFile; // a file was dropped on a view
 };
 extern EditorCalls gEditorCalls; // written by the wiring of the application alone

@@ -25,8 +25,8 @@ public:
     // leaving a document. Another document may be the active one already.
     virtual void DeactivateCheck() = 0;
 
-    // Parses what waits and the line that is being edited, although the caret stands on it. An open undo group
-    // stays open, so that what the parser writes is undone with the edit.
+    // Parses what waits and the line that is being edited, although the caret stands on it. An open undo
+    // group stays open, so that what the parser writes is undone with the edit.
     virtual void ParseNow() = 0;
 };
 

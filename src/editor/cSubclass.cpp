@@ -12,6 +12,7 @@
 #include "engine/Mod_Parse.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -58,7 +59,7 @@ std::unique_ptr<Pipeline> MakePipeline(frmDoc& document) { return std::make_uniq
 PipelineState& cSubclass::State() { return mFrmDoc.State; }
 
 void cSubclass::OnNotify(const SciNotification& notification) {
-    if (gInErrorReport) return;
+    if (gInErrorReport) return ForgetLines(mFrmDoc.SciEdi_WndData);
     const ActiveSwap swap(mFrmDoc);
     Guarded("WindowProc", "cSubclass", [&] { Dispatch(notification); });
 }

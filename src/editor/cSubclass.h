@@ -29,6 +29,7 @@ private:
     void Painted();
     void MarginClick(const SciNotification& notification);
     void Modified(const SciNotification& notification);
+    void FollowLines(const SciNotification& notification);
     void BeforeDelete(const SciNotification& notification, int start, int end);
     void BeforeInsert(const SciNotification& notification, int start, int end);
     void AfterInsert(const SciNotification& notification);

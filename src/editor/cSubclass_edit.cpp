@@ -12,6 +12,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -105,7 +106,27 @@ void cSubclass::ShowLine(int line) {
     if (!Mod_Sci::GetLineVisible(line)) Mod_Sci::EnsureVisible(line);
 }
 
+// Tells where the lines below an edit have got to.
+void cSubclass::FollowLines(const SciNotification& notification) {
+    if (notification.linesAdded == 0) return;
+    const std::intptr_t view = mFrmDoc.SciEdi_WndData;
+    const auto position = notification.position;
+    const bool inserted = (notification.modificationType & SC_MOD_INSERTTEXT) != 0;
+    const auto end = inserted ? position + notification.length : position;
+    // Where a CR LF is put together or taken apart, the view counts lines in a way of its own.
+    if (Mod_Sci::GetCharAt(position - 1) == '\r' ||
+        (Mod_Sci::GetCharAt(end - 1) == '\r' && Mod_Sci::GetCharAt(end) == '\n'))
+        return ForgetLines(view);
+    const int line = LineOf(position);
+    const auto count = static_cast<int>(notification.linesAdded);
+    if (inserted)
+        LinesInserted(view, Mod_Sci::PositionFromLine(line) == position ? line : line + 1, count);
+    else
+        LinesRemoved(view, line, -count);
+}
+
 void cSubclass::Modified(const SciNotification& notification) {
+    if (notification.modificationType & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)) FollowLines(notification);
     if (Coloring) return;
     const InsideChange inside(changing_);
     const int type = notification.modificationType;

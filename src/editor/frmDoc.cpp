@@ -4,6 +4,7 @@
 #include "editor/SciOptions.h"
 #include "engine/ClsProject.h"
 #include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
 #include "host/Failure.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -12,6 +13,7 @@ frmDoc::frmDoc() {
     View = gHost.views->Create();
     if (!View) throw Failure(FailureFileNotFound, "The edit control could not be made");
     SciEdi_WndData = View->DirectPointer();
+    ForgetLines(SciEdi_WndData); // another view may have been there
     gSciDirect = View->DirectFunction();
     m_oSubclass = MakePipeline(*this);
     ShellClass = std::make_unique<StdShell>();

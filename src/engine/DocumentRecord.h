@@ -24,7 +24,7 @@ struct PipelineState {
     bool mSpaceTyped = false;
     bool mForceColor = false;
     bool mColoredAsCurrent = false; // a parsed line has the look of the line under the caret
-    bool UndoGroup = false; // an undo action is open in the view
+    bool UndoGroup = false;         // an undo action is open in the view
 };
 
 struct DocumentRecord {

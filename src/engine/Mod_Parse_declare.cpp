@@ -7,6 +7,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
 #include "engine/ScopeMoves.h"
+#include "engine/SymbolLine.h"
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 
@@ -31,6 +32,7 @@ void LineParser::Fill(Symbol& record, const std::string& name, int handle) const
     record.Handle = handle;
     record.File = gActiveDoc->Filename;
     record.SciWndData = gActiveDoc->SciEdi_WndData;
+    DeclaredOn(record, line_);
 }
 
 void LineParser::Label() {

@@ -52,7 +52,7 @@ bool LacksBracket(const ClsBBFunkcija& keyword, int index) {
 // Makes the function on a line the scope of the lines that follow. False when the table does not know it.
 bool EnterFunction(const std::string& name, int line) {
     if (!gCurrentProject->Funkcii.ExistsOnlyHash(name)) return false;
-    const SymbolPointer record = gCurrentProject->Funkcii.ItemDeclaredOn(name, line, SciWndData);
+    const SymbolPointer record = gCurrentProject->Funkcii.ItemHandle(name, line, SciWndData);
     if (!record) return false;
     CurrentFunctionName = name;
     CurrentLocals = static_cast<ClsFunkcija&>(*record).Locals;
@@ -157,7 +157,7 @@ private:
         if (!gCurrentProject->Types.ExistsHash(NextText())) return;
         ++index_;
         const std::string& name = At(index_).Text;
-        if (const SymbolPointer record = gCurrentProject->Types.ItemDeclaredOn(name, line_, SciWndData)) {
+        if (const SymbolPointer record = gCurrentProject->Types.ItemHandle(name, line_, SciWndData)) {
             CurrentTypeName = name;
             CurrentFields = static_cast<ClsType&>(*record).Fields;
         }

@@ -8,6 +8,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
 #include "engine/ScopeMoves.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -176,19 +177,13 @@ private:
             return;
         }
         auto& loose = gActiveDoc->tmpFields;
-        const auto named = [&](const auto& entry) { return entry.second->Ime == name; };
-        const auto first = std::find_if(loose.begin(), loose.end(), named);
-        if (first == loose.end()) return;
-        // One that has no namesake need not be asked for its line.
-        const bool alone = std::find_if(std::next(first), loose.end(), named) == loose.end();
-        for (auto at = first; at != loose.end(); ++at) {
-            if (!named(*at) || (!alone && Mod_Sci::MarkerLineFromHandle(at->first) != line_)) continue;
-            loose.erase(at);
-            return;
-        }
+        const auto at = std::find_if(loose.begin(), loose.end(), [&](const auto& entry) {
+            return entry.second->Ime == name && LineOf(*entry.second) == line_;
+        });
+        if (at != loose.end()) loose.erase(at);
     }
 
-    void Remove(clsHash& table, const std::string& name) { table.RemoveDeclaredOn(name, line_, SciWndData); }
+    void Remove(clsHash& table, const std::string& name) { table.Remove(name, line_, SciWndData); }
 
     int line_;
     bool sequential_;

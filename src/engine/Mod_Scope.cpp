@@ -50,8 +50,7 @@ ScopeFound FindScope(int line, int marker, std::string_view word, clsHash& table
         if (at < 0 || HasMarker(at, MarkerFoldCloses)) return {};
         const std::string name = NameBehind(KnownText(at), word);
         if (name.empty()) return {};
-        if (SymbolPointer record = table.ItemDeclaredOn(name, at, SciWndData))
-            return {name, std::move(record)};
+        if (SymbolPointer record = table.ItemHandle(name, at, SciWndData)) return {name, std::move(record)};
     }
     return {};
 }

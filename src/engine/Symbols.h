@@ -1,5 +1,5 @@
-// The symbol records: one for each declared name, owned by the tables of a project. A record holds no
-// line number; its marker handle is asked for the line.
+// The symbol records: one for each declared name, owned by the tables of a project. The marker on the
+// declaring line goes where the line goes; LineOf tells where that is.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +19,10 @@ struct Symbol {
     int Handle = 0;               // of the marker on the declaring line
     std::string File;             // Filename of its document
     std::intptr_t SciWndData = 0; // its view
+    // The line on which it was seen last, and the change of the view's lines before that. Written by LineOf
+    // and DeclaredOn alone.
+    mutable int SeenOn = -1;
+    mutable unsigned SeenAt = 0;
 
     // Fields that not every class declares; those that do not, leave them at their defaults.
     std::uint8_t Tip = TipInteger;

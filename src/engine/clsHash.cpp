@@ -2,10 +2,10 @@
 #include "engine/clsHash.h"
 
 #include "engine/Mod_Lexer.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Paths.h"
-#include "sci/Mod_Sci.h"
 
 #include <algorithm>
 
@@ -29,8 +29,7 @@ int HashForAdd(std::string_view upperKey) {
 }
 
 bool StandsOn(const Symbol& symbol, int line, std::intptr_t view) {
-    return symbol.SciWndData == view &&
-           Mod_Sci::SendTo(view, SCI_MARKERLINEFROMHANDLE, symbol.Handle) == line;
+    return symbol.SciWndData == view && LineOf(symbol) == line;
 }
 
 } // namespace
@@ -112,20 +111,6 @@ SymbolPointer clsHash::ItemHash(std::string_view key) {
 SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t view) {
     const int slot = FindWhere(key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view); });
     return slot == 0 ? nullptr : Slot(slot).Value;
-}
-
-SymbolPointer clsHash::ItemDeclaredOn(std::string_view key, int line, std::intptr_t view) {
-    int candidates = 0;
-    int last = 0;
-    LastKey = UCase(key);
-    for (int slot = ChainOf(HashOfUpper(LastKey)); slot != 0; slot = Slot(slot).NextItem) {
-        const SlotType& entry = Slot(slot);
-        if (entry.Key != LastKey || entry.Value->SciWndData != view) continue;
-        ++candidates;
-        last = slot;
-    }
-    if (candidates == 1) return Slot(last).Value;
-    return candidates == 0 ? nullptr : ItemHandle(key, line, view);
 }
 
 int clsHash::TakeSlot() {
@@ -216,11 +201,6 @@ void clsHash::Remove(std::string_view key, int line, std::intptr_t view) {
 
 void clsHash::RemovePoHandle(std::string_view key, int handle) {
     Unlink(key, "RemovePoHandle", [&](const Symbol& symbol) { return symbol.Handle == handle; });
-}
-
-void clsHash::RemoveDeclaredOn(std::string_view key, int line, std::intptr_t view) {
-    const SymbolPointer record = key.empty() ? nullptr : ItemDeclaredOn(key, line, view);
-    Unlink(key, "Remove", [&](const Symbol& symbol) { return &symbol == record.get(); });
 }
 
 void clsHash::RemoveRecord(std::string_view key, const Symbol& record) {

@@ -47,15 +47,10 @@ public:
     SymbolPointer ItemHash(std::string_view key);
     // The entry with the key whose marker stands on that line (from 0) of that view; null when none does.
     SymbolPointer ItemHandle(std::string_view key, int line, std::intptr_t view);
-    // The same for a line that is known to declare the name: a key that only one entry of the view has is not
-    // asked for its line, which costs a walk over all lines.
-    SymbolPointer ItemDeclaredOn(std::string_view key, int line, std::intptr_t view);
 
     // Take an entry out. No match is reported as failure 5 and changes nothing; an empty key does nothing.
     void Remove(std::string_view key, int line, std::intptr_t view);
     void RemovePoHandle(std::string_view key, int handle);
-    // For what ItemDeclaredOn finds.
-    void RemoveDeclaredOn(std::string_view key, int line, std::intptr_t view);
     // For a record in hand: namesakes of other views may have its handle too.
     void RemoveRecord(std::string_view key, const Symbol& record);
     void RemoveAll() { SetSize(hashSize_, listSize_, chunkSize_); }

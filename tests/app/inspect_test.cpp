@@ -165,4 +165,59 @@ TEST(InspectTest, WhatCannotBeUsedEndsWith2AndWhatCannotBeOpenedWith3) {
               std::string::npos);
 }
 
+// Symbols without the handles and lines of their history; text, folds and markers as they are.
+QJsonObject State(const QJsonObject& report) {
+    const QJsonObject document = First(report);
+    return {{"symbols", report["symbols"]},
+            {"text", document["text"]},
+            {"folds", document["folds"]},
+            {"markers", document["markers"]},
+            {"styles", document["styles"]}};
+}
+
+TEST(InspectTest, EditsLeaveWhatAFreshLoadOfTheirTextGives) {
+    const QTemporaryDir folder;
+    const std::string source = Put(folder, "a.bb", "Global score\r\nLocal total\r\nPrint total\r\n");
+    const std::string edits = Put(folder, "edits", R"({"op":"caret","pos":14}
+{"op":"type","text":"function sum(n)\n"}
+{"op":"caret","pos":9999}
+{"op":"type","text":"end function\nscore=2"}
+{"op":"newline"}
+{"op":"paste","text":"Const Most = 3\r\n.start\r\nGoto start"}
+{"op":"backspace"}
+{"op":"undo"}
+{"op":"caret","pos":0}
+{"op":"command","name":"Comment Selection"}
+{"op":"undo"}
+{"op":"redo"}
+{"op":"select","from":0,"to":1}
+{"op":"delete"}
+{"op":"settle"}
+)");
+    const QJsonObject edited =
+        Inspect({"--parts", "symbols,styles,folds,markers,text", "--time", "--edits", edits, source});
+    const QByteArray text = First(edited)["text"].toString().toLatin1();
+    EXPECT_EQ(text.toStdString(),
+              "Global score\r\nFunction sum(n)\r\n\tLocal total\r\nPrint total\r\nEnd Function\r\n"
+              "score=2\r\nConst Most = 3\r\n.start\r\nGoto start");
+    EXPECT_EQ(edited["time_us"].toObject()["edits"].toArray().size(), 15);
+    const QJsonObject loaded =
+        Inspect({"--parts", "symbols,styles,folds,markers,text", Put(folder, "a.bb", text)});
+    EXPECT_EQ(QJsonDocument(State(edited)).toJson().toStdString(),
+              QJsonDocument(State(loaded)).toJson().toStdString());
+}
+
+TEST(InspectTest, EditsThatAreNoneAreRefused) {
+    const QTemporaryDir folder;
+    const std::string source = Put(folder, "a.bb", "Print 1\r\n");
+    for (const char* line : {"type", R"({"op":"sing"})", R"({"op":"caret"})", R"({"op":"caret","pos":-1})",
+                             R"({"op":"type","text":3})", R"({"op":"command","name":"Nothing"})"}) {
+        const std::string edits = Put(folder, "edits", QByteArray(line) + "\n");
+        const Outcome run = RunProgram(ZOLTO_INSPECT_FILE, {"--edits", edits, source});
+        EXPECT_EQ(run.status, 4) << line;
+        EXPECT_EQ(run.output, "") << line;
+        EXPECT_NE(run.errors.find("line 1"), std::string::npos) << run.errors;
+    }
+}
+
 }

@@ -172,6 +172,16 @@ TEST_F(CompletionTest, MoreCandidatesThanTheListHoldsAreReported) {
     host.files.Remove(host.Path("error.log"));
 }
 
+TEST_F(CompletionTest, BeyondTheScreensEdgeNothingOpens) {
+    Declare({"Global numbers"});
+    auto* view = static_cast<QWidget*>(ActiveForm()->NativeWidget());
+    view->move(-5000, -5000);
+    EXPECT_EQ(ListFor("numb"), "-");
+    view->move(0, 0);
+    Type("e");
+    EXPECT_EQ(Listed(), "numbers");
+}
+
 TEST_F(CompletionTest, TheChosenNameIsPutInAndTheLineStaysTrue) {
     Declare({"Global numbers"});
     EXPECT_EQ(ListFor("numb"), "numbers");

@@ -7,6 +7,7 @@
 #include <Qsci/qsciscintillabase.h>
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <algorithm>
 #include <cstring>
 #include <vector>
@@ -75,6 +76,12 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
         }
         [[fallthrough]];
     default: answer = libraryFunction(pointer, message, wParam, lParam); break;
+    case Base::SCI_AUTOCSHOW: {
+        const ChangeEvents* events = Of(pointer);
+        if (events && !events->CaretOnScreen()) message = Base::SCI_AUTOCCANCEL;
+        answer = libraryFunction(pointer, message, wParam, lParam);
+        break;
+    }
     case Base::SCI_REPLACESEL:
     case Base::SCI_INSERTTEXT:
     case Base::SCI_ADDTEXT:
@@ -93,6 +100,17 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
     }
     if (owing) FlushPending();
     return answer;
+}
+
+// The library asks the screen under the caret how large a list may be, and ends the program where there is
+// none.
+bool ChangeEvents::CaretOnScreen() const {
+    const auto caret = view_.SendScintilla(Base::SCI_GETCURRENTPOS);
+    const auto x = view_.SendScintilla(Base::SCI_POINTXFROMPOSITION, 0L, caret);
+    const auto y = view_.SendScintilla(Base::SCI_POINTYFROMPOSITION, 0L, caret);
+    const QPoint point(static_cast<int>(x), static_cast<int>(y));
+    return QGuiApplication::screenAt(view_.viewport()->mapToGlobal(point)) &&
+           QGuiApplication::screenAt(view_.mapToGlobal(point));
 }
 
 void ChangeEvents::AccessibilityChanged() {

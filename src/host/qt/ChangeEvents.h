@@ -49,6 +49,7 @@ private:
     static std::intptr_t Direct(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
                                 std::intptr_t lParam);
     void ApplyMask();
+    bool CaretOnScreen() const;
     static void FlushPending();
     static ChangeEvents* Of(std::intptr_t pointer);
 

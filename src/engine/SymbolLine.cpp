@@ -1,0 +1,88 @@
+// Each view has a list of the changes of its lines. A symbol keeps the line on which it was last seen and how
+// many changes there were then; the later ones carry it to its line of today.
+#include "engine/SymbolLine.h"
+
+#include "sci/Mod_Sci.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace {
+
+// To follow more changes than this takes as long as to ask.
+constexpr std::size_t MostChanges = 20000;
+
+struct Change {
+    int line;
+    int count; // below 0: lines that went into `line`
+};
+
+class Changes {
+public:
+    unsigned Now() const { return first_ + static_cast<unsigned>(list_.size()); }
+
+    void Add(Change change) {
+        if (list_.size() == MostChanges) Forget();
+        list_.push_back(change);
+    }
+
+    void Forget() {
+        first_ = Now() + 1;
+        list_.clear();
+    }
+
+    // Where a line has got to since change number `since`; -1 when that is not known.
+    int Follow(int line, unsigned since) const {
+        if (since < first_) return -1;
+        for (std::size_t i = since - first_; i < list_.size(); ++i) {
+            const Change& change = list_[i];
+            if (change.count >= 0) {
+                if (line >= change.line) line += change.count;
+            } else if (line > change.line) {
+                line = line > change.line - change.count ? line + change.count : change.line;
+            }
+        }
+        return line;
+    }
+
+private:
+    unsigned first_ = 1;
+    std::vector<Change> list_;
+};
+
+std::unordered_map<std::intptr_t, Changes> changesOf;
+
+// The changes of the view that was asked for last, because it will be asked for again.
+Changes& Of(std::intptr_t view) {
+    static std::intptr_t lastView = 0;
+    static Changes* last = nullptr;
+    if (last == nullptr || lastView != view) {
+        lastView = view;
+        last = &changesOf[view];
+    }
+    return *last;
+}
+
+} // namespace
+
+void LinesInserted(std::intptr_t view, int line, int count) { Of(view).Add({line, count}); }
+void LinesRemoved(std::intptr_t view, int line, int count) { Of(view).Add({line, -count}); }
+void ForgetLines(std::intptr_t view) { Of(view).Forget(); }
+
+void DeclaredOn(Symbol& symbol, int line) {
+    symbol.SeenOn = line;
+    symbol.SeenAt = Of(symbol.SciWndData).Now();
+}
+
+int LineOf(const Symbol& symbol) {
+    const Changes& changes = Of(symbol.SciWndData);
+    const unsigned now = changes.Now();
+    if (symbol.SeenAt != now) {
+        const int line = changes.Follow(symbol.SeenOn, symbol.SeenAt);
+        symbol.SeenOn = line >= 0 ? line
+                                  : static_cast<int>(Mod_Sci::SendTo(
+                                        symbol.SciWndData, SCI_MARKERLINEFROMHANDLE, symbol.Handle));
+        symbol.SeenAt = now;
+    }
+    return symbol.SeenOn;
+}

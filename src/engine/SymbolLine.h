@@ -1,0 +1,19 @@
+// The lines that symbols stand on now. A view answers where a marker is with a walk over all its lines; here
+// the changes of its lines are remembered, and a symbol's line follows from where it was seen last.
+#pragma once
+
+#include "engine/Symbols.h"
+
+#include <cstdint>
+
+// Lines from `line` on have moved down by `count`.
+void LinesInserted(std::intptr_t view, int line, int count);
+// The `count` lines below `line` have become part of it.
+void LinesRemoved(std::intptr_t view, int line, int count);
+// What changed cannot be followed, or the view has gone: its markers will be asked again.
+void ForgetLines(std::intptr_t view);
+
+// The symbol has just been declared on a line of its view.
+void DeclaredOn(Symbol& symbol, int line);
+// The line (from 0) of a symbol's marker; -1 when it has none.
+int LineOf(const Symbol& symbol);
