@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
+#include <random>
 
 namespace {
 
@@ -217,6 +218,36 @@ TEST_F(ArrangementTest, WhatTheUserTookAwayStaysAwayAndWhatIsNewIsOffered) {
     // A key that another command has stays there.
     EXPECT_EQ(static_cast<QtCommand*>(dock.FindCommand("Print"))->Record().shortcuts,
               std::vector<std::string>{"Ctrl+P"});
+}
+
+// Whatever a file holds: it is refused with nothing changed, or it is loaded and the window goes on.
+TEST_F(ArrangementTest, ACutOrChangedFileNeverStopsTheWindow) {
+    Studio studio(factory);
+    Arrange(studio);
+    studio.dock.SaveLayout(saved);
+    const std::string good = host.files.Read(saved);
+    const auto load = [&](const std::string& bytes) {
+        const std::string before = studio.dock.WindowsText();
+        try {
+            studio.dock.LoadLayout(host.Put("Layouts/bad.mp", bytes));
+        } catch (const Failure&) {
+            EXPECT_EQ(studio.dock.WindowsText(), before);
+        }
+        EXPECT_EQ(studio.dock.DocumentWindows().size(), 4u);
+    };
+    for (std::size_t length = 0; length < good.size(); length += good.size() / 60)
+        load(good.substr(0, length));
+    std::mt19937 random(7);
+    for (int round = 0; round < 120; ++round) {
+        std::string bad = good;
+        for (int change = 0; change < 4; ++change)
+            bad[random() % bad.size()] = "\"{}[],:0aZ\xFF\0"[random() % 12];
+        load(bad);
+    }
+    QApplication::processEvents();
+    studio.dock.LoadLayout(saved);
+    Studio::Settle();
+    EXPECT_NE(studio.dock.FindCommand("Open"), nullptr);
 }
 
 }

@@ -16,9 +16,10 @@ enum : int { Normal = 0, Minimised = 1, Maximised = 2 };
 }
 
 void QtDockStudio::LoadLayout(const std::string& path) {
+    // Also where it cannot be read: then its text comes from elsewhere, and no later file takes its place.
+    if (factoryPath_.empty()) factoryPath_ = path;
     Layout layout = ParseLayout(QtFiles().Read(path));
     EndCustomizing();
-    if (factoryPath_.empty()) factoryPath_ = path;
     if (path == factoryPath_)
         factory_ = layout;
     else
