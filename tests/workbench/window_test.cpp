@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QTest>
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -147,6 +148,54 @@ TEST_F(WindowTest, TheTabsMenuHoldsWhatFitsTheDocument) {
                                       {"New Horizontal Tab Group", true},
                                       {"New Vertical Tab Group", false}}));
     static_cast<QtCommand*>(dock->FindCommand("TabsContextMenu"))->Menu()->close();
+}
+
+// The first press goes back to the tab before, and back again; while Control stays down, on through the
+// group.
+TEST_F(WindowTest, NextTabBeginsWithTheTabBefore) {
+    for (const char* name : {"a.bb", "b.bb", "c.bb"})
+        ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, "Print 1\r\n")));
+    const auto active = [&] {
+        return static_cast<frmDoc*>(dock->ActiveDocumentWindow()->HostedForm())->Filename;
+    };
+    const auto release = [&] { QTest::keyRelease(&dock->Window(), Qt::Key_Control); };
+    Options::gTabbingStartsWithPrevious = 1;
+    Click("Next File Tab");
+    release();
+    dock->FindDocumentWindow(host.Path("a.bb"))->Activate();
+    dock->FindDocumentWindow(host.Path("c.bb"))->Activate();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "a.bb");
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "b.bb");
+    release();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "a.bb");
+    release();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "b.bb");
+    Options::gTabbingStartsWithPrevious = 0;
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "c.bb");
+    Click("Previous File Tab");
+    EXPECT_EQ(active(), "b.bb");
+}
+
+TEST_F(WindowTest, ADoubleClickOnATabClosesASingleFileOnly) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    DocumentWindow& tab = *dock->ActiveDocumentWindow();
+    Options::gDoubleClickClosesTabs = 0;
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_TRUE(tab.Visible());
+    Options::gDoubleClickClosesTabs = 1;
+    gCurrentProject->SingleFile = false;
+    host.dialogs.WillAnswer(MessageAnswer::Ok);
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_EQ(host.dialogs.messages.back().text, "You can't close a file that is part of a project !  ");
+    EXPECT_TRUE(tab.Visible());
+    gCurrentProject->SingleFile = true;
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_TRUE(dock->DocumentWindows().empty());
 }
 
 }

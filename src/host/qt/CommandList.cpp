@@ -168,8 +168,8 @@ void CommandList::Narrow() {
     QTreeWidgetItem* first = nullptr;
     for (int at = 0; at < tree_->topLevelItemCount(); ++at) {
         QTreeWidgetItem* item = tree_->topLevelItem(at);
-        const QString text = item->text(Name) + ' ' + item->data(Name, Qt::UserRole).toString() + ' ' +
-                             item->text(Menu) + ' ' + item->text(Keys);
+        const QString text =
+            item->text(Name) + ' ' + item->data(Name, Qt::UserRole).toString() + ' ' + item->text(Keys);
         bool shown = menu.isEmpty() || item->text(Menu).section(Into, 0, 0).trimmed() == menu;
         for (const QString& word : words) shown = shown && text.contains(word, Qt::CaseInsensitive);
         item->setHidden(!shown);

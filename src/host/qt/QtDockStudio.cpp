@@ -191,7 +191,7 @@ void QtDockStudio::SuspendRepaint(bool suspend) {
 // What a right click on a bar or on the edge of a pane offers: which of them are shown.
 void QtDockStudio::FillBarMenu(QMenu& menu) {
     for (const auto& bar : bars_) {
-        if (bar->Record().kind == BarKind::Menu) continue;
+        if (!bar->ToolBar()) continue;
         QAction* action = menu.addAction(Shown(bar->Record().caption));
         action->setCheckable(true);
         action->setChecked(bar->Visible());
