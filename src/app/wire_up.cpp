@@ -18,6 +18,7 @@
 #include "workbench/frmCompiling.h"
 #include "workbench/frmError.h"
 #include "workbench/frmMain.h"
+#include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
 #include "workbench/frmSplash.h"
 
@@ -25,6 +26,7 @@ namespace {
 
 void WireEditor() {
     gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
+    gEngineCalls.PuniLista = [] { frmMainList::Instance().PuniLista(); };
     gEngineCalls.Autocomplete = Mod_SciFun::Autocomplete;
     gEngineCalls.AutocompleteType = Mod_SciFun::AutocompleteType;
     gEngineCalls.AutocompleteLabel = Mod_SciFun::AutocompleteLabel;
@@ -41,6 +43,7 @@ void WireEditor() {
 
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
     gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };
     gDocumentCalls.ShowMainWindow = [] {

@@ -4,6 +4,7 @@
 #include "host/EditorView.h"
 
 #include <memory>
+#include <string>
 
 class frmDoc;
 struct DocumentRecord;
@@ -13,6 +14,8 @@ struct DocumentRecord;
 extern bool gUndoGroupOpen;
 extern bool gUserEdited;
 extern bool gWaitCursor;
+// The window of the document whose pipeline ran last; written by the pipeline.
+extern std::string gLastDocumentID;
 
 // Begins an undo action in the active view. It ends at that view's next SCN_UPDATEUI, when its document is
 // left, or when another view begins one: ending it in a view that has none open would end the program.

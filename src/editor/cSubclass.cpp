@@ -4,6 +4,8 @@
 
 #include "editor/CharAdded.h"
 #include "editor/EditorCalls.h"
+#include "editor/Mod_SciFun_bookmarks.h"
+#include "editor/Mod_SciFun_edit.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -13,6 +15,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
+#include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -21,11 +24,13 @@ EditorCalls gEditorCalls;
 bool gUndoGroupOpen = false;
 bool gUserEdited = false;
 bool gWaitCursor = false;
+std::string gLastDocumentID;
 
 namespace {
 
 using namespace Mod_Parse;
 
+constexpr int MarkerMargin = 1;
 constexpr int FoldMargin = 2;
 
 // Makes a document the active one for as long as it lives, as if its view had the focus.
@@ -79,7 +84,7 @@ void cSubclass::ParseNow() {
 
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
-    case SCN_STYLENEEDED: StyleNeeded(); break;
+    case SCN_STYLENEEDED: StyleNeeded(notification.inPaint); break;
     case SCN_PAINTED: Painted(); break;
     case SCN_SAVEPOINTREACHED: mFrmDoc.SetDirty(false); break;
     case SCN_MARGINCLICK: MarginClick(notification); break;
@@ -108,10 +113,11 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) gEditorCalls.OpenFile(path);
 }
 
-void cSubclass::StyleNeeded() {
+void cSubclass::StyleNeeded(bool inPaint) {
     // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
-    // here, or the lines would be painted twice.
-    if (!Coloring && !changing_) ParseEdited();
+    // here, or the lines would be painted twice. The view also asks in the middle of an undo, where nothing
+    // may be changed.
+    if (inPaint && !Coloring) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
@@ -177,6 +183,13 @@ void cSubclass::Painted() {
 }
 
 void cSubclass::MarginClick(const SciNotification& notification) {
+    const int line = static_cast<int>(Mod_Sci::LineFromPosition(notification.position));
     if (notification.margin == FoldMargin)
-        Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(notification.position)));
+        Mod_Folding::ToggleFold(line);
+    else if (notification.margin != MarkerMargin)
+        return;
+    else if (gHost.desktop->ShiftDown())
+        Mod_SciFun::ToggleBookmark(notification.position);
+    else if (gHost.desktop->ControlDown())
+        Mod_SciFun::ToggleBreakPoint(line);
 }

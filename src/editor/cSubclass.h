@@ -24,7 +24,7 @@ public:
 
 private:
     void Dispatch(const SciNotification& notification);
-    void StyleNeeded();
+    void StyleNeeded(bool inPaint);
     void SiblingPass();
     void Painted();
     void MarginClick(const SciNotification& notification);
@@ -49,7 +49,6 @@ private:
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
-    bool changing_ = false; // a change of the text is being told; the view takes no other one
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

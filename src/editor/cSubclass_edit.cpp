@@ -5,6 +5,7 @@
 #include "editor/BraceHighlight.h"
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_tips.h"
+#include "editor/PositionBrowser.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -17,6 +18,7 @@
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -45,18 +47,6 @@ bool HasLineEnd(const SciNotification& notification) {
     const std::string_view text(notification.text, static_cast<std::size_t>(notification.length));
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
-
-// Raises a flag for as long as it lives.
-class InsideChange {
-public:
-    explicit InsideChange(bool& flag) : flag_(flag) { flag_ = true; }
-    ~InsideChange() { flag_ = false; }
-    InsideChange(const InsideChange&) = delete;
-    InsideChange& operator=(const InsideChange&) = delete;
-
-private:
-    bool& flag_;
-};
 
 DocumentRecord* undoGroupDocument = nullptr; // where the open undo action was begun
 
@@ -128,7 +118,6 @@ void cSubclass::FollowLines(const SciNotification& notification) {
 void cSubclass::Modified(const SciNotification& notification) {
     if (notification.modificationType & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)) FollowLines(notification);
     if (Coloring) return;
-    const InsideChange inside(changing_);
     const int type = notification.modificationType;
     State().mLastOperationUndoRedo = (type & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)) != 0;
     if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)) {
@@ -309,9 +298,11 @@ void cSubclass::LeaveCurrentLook() {
 }
 
 void cSubclass::UpdateUi() {
-    gUserEdited = false;
+    gLastDocumentID = mFrmDoc.m_strDocumentWindowID;
     if (ParseEdited()) mFrmDoc.Redraw();
-    int line = LineOf(Mod_Sci::GetCurrentPos());
+    const auto position = Mod_Sci::GetCurrentPos();
+    int line = LineOf(position);
+    if (std::exchange(gUserEdited, false)) Mod_SciFun::CheckCBrowser(position, line);
     if (line != mFrmDoc.Callback_OldLine) {
         LeaveCurrentLook();
         if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)

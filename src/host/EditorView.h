@@ -24,6 +24,7 @@ struct SciNotification {
     int x = 0;
     int y = 0;
     int updated = 0;
+    bool inPaint = false; // styles are needed for a paint, not in the middle of a change
 };
 
 class EditorViewEvents {

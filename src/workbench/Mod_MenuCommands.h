@@ -3,6 +3,7 @@
 
 #include "host/DockStudio.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -37,6 +38,9 @@ void cboCommandLine();
 // Shows a pane that is hidden, and hides one that is shown.
 void TogglePane(const char* pane);
 void ToggleStatusBar();
+// Shows the Code Explorer's list of that name and gives it the focus. Asks for a line and goes there.
+void ExploreFocusOn(const std::string& word);
+void AskGotoLine();
 void CloseFile();
 // Closes single files, then projects; a close that the user cancels ends it.
 void CloseAllFiles();

@@ -3,9 +3,13 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_complete.h"
 #include "editor/Mod_SciFun_edit.h"
+#include "editor/Mod_SciFun_goto.h"
+#include "editor/Mod_SciFun_navigation.h"
 #include "editor/Mod_SciFun_tips.h"
+#include "editor/PositionBrowser.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/Markers.h"
@@ -69,6 +73,8 @@ void ToggleFold(const Click&) {
     Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
+void Explore(const Click& click) { ExploreFocusOn(click.command.Name()); }
+
 void NotAvailable(const Click&) {
     gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
                          .icon = MessageIcon::Information});
@@ -108,17 +114,17 @@ const std::vector<RoutedCommand>& Routes() {
         {"Comment Selection", Run<Mod_SciFun::CommentSelection>},
         {"UnComment Selection", Run<Mod_SciFun::UnCommentSelection>},
         {"Block From Selection", Run<Mod_SciFun::BlockFromSelection>},
-        {"Goto Line", nullptr, true},
+        {"Goto Line", Run<AskGotoLine>, true},
         {"Goto Function", NotAvailable, true},
-        {"Goto Declaration", nullptr, true},
-        {"Goto Previous Position", nullptr, true},
-        {"Goto Next Position", nullptr, true},
+        {"Goto Declaration", Run<Mod_SciFun::GotoDeclaration>, true},
+        {"Goto Previous Position", Run<Mod_SciFun::GotoPreviousPosition>, true},
+        {"Goto Next Position", Run<Mod_SciFun::GotoNextPosition>, true},
         {"Toggle Fold", ToggleFold},
         {"KeywordHelp", [](const Click&) { Mod_SciFun::KeywordHelp(); }},
-        {"Toggle Bookmark", nullptr},
-        {"Previous Bookmark", nullptr, true},
-        {"Next Bookmark", nullptr, true},
-        {"Clear All Bookmarks", nullptr},
+        {"Toggle Bookmark", [](const Click&) { Mod_SciFun::ToggleBookmark(-1); }},
+        {"Previous Bookmark", Run<Mod_SciFun::GotoPrevBookmark>, true},
+        {"Next Bookmark", Run<Mod_SciFun::GotoNextBookmark>, true},
+        {"Clear All Bookmarks", Run<Mod_SciFun::ClearAllBookmarks>},
         {"Show Autocomplete", [](const Click&) { Mod_SciFun::ShowAutocomplete(); }},
         {"Show Calltip", [](const Click&) { Mod_SciFun::ShowCalltip(); }},
         {"Cycle Private", nullptr},
@@ -128,8 +134,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"Find Next", nullptr},
         {"Find Previous", nullptr},
         {"Replace", nullptr},
-        {"Next Function", nullptr},
-        {"Previous Function", nullptr},
+        {"Next Function", Run<Mod_SciFun::GotoNextFunction>},
+        {"Previous Function", Run<Mod_SciFun::GotoPreviousFunction>},
         {"Auto Indent Selection", Run<Mod_SciFun::AutoIndentSelection>},
         {"Auto Indent Function", Run<Mod_SciFun::AutoindentCurrentFunction>},
         {"Complete Scope", Run<Mod_SciFun::CompleteScope>},
@@ -181,12 +187,12 @@ const std::vector<RoutedCommand>& Routes() {
         {"Projects Manager", [](const Click&) { TogglePane("Projects"); }},
         {"Snippets Manager", [](const Click&) { TogglePane("Snippets"); }},
         {"Code Explorer", [](const Click&) { TogglePane("CodeExplorer"); }},
-        {"Functions", nullptr},
-        {"Types", nullptr},
-        {"Arrays", nullptr},
-        {"Globals", nullptr},
-        {"Constants", nullptr},
-        {"Labels", nullptr},
+        {"Functions", Explore},
+        {"Types", Explore},
+        {"Arrays", Explore},
+        {"Globals", Explore},
+        {"Constants", Explore},
+        {"Labels", Explore},
         {"StatusBar", [](const Click&) { ToggleStatusBar(); }},
         {"SwitchToLayout1", [](const Click&) { SwitchToLayout(1); }},
         {"SwitchToLayout2", [](const Click&) { SwitchToLayout(2); }},

@@ -17,6 +17,7 @@
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
 #include "workbench/FactoryLayout.h"
+#include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
 
 namespace {
@@ -105,6 +106,7 @@ void frmMain::UpdateSciCommandUI() {
 void frmMain::AddDockForms(bool addNew) {
     Guarded("AddDockForms", "frmMain", [&] {
         AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew);
+        AttachDockForm("CodeExplorer", "Code Explorer", "view-list-tree", frmMainList::Instance(), addNew);
         // A pane that is not there cannot be shown.
         for (const auto& toggle : PaneToggles)
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command))

@@ -18,6 +18,7 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 #include "workbench/Mod_MenuCommands.h"
+#include "workbench/frmMainList.h"
 
 namespace {
 
@@ -73,6 +74,8 @@ void frmMain::ActivateDocument(frmDoc& document) {
     document.State.mJustActivated = true;
     if (gCurrentProject) {
         TakeCompilerOf(document, *gCurrentProject);
+        // Another file is another set of symbols.
+        if (frmMainList::Instance().ShowOnlyFile()) frmMainList::Instance().Refresh();
         SetBox("cboCompilers", gCurrentProject->Compiler);
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
     }
@@ -104,6 +107,7 @@ void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {
         window.Attach(nullptr);
         if (document) UnloadDocument(document);
         gHost.dock->DropDocumentWindow(window);
+        frmMainList::Instance().PuniLista(); // a project that has gone is forgotten
         UpdateCommandUI();
     });
 }

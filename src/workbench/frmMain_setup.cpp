@@ -52,8 +52,7 @@ void AddMissingCommands() {
 void HideUnbuiltCommands() {
     for (const auto& route : Mod_MenuCommands::Routes()) {
         DockCommand* command = gHost.dock->FindCommand(std::string(route.name));
-        // The status pane of this name shows the current function, and a click on it is all that is missing.
-        if (command && route.name != "Functions") command->SetVisible(route.run != nullptr);
+        if (command) command->SetVisible(route.run != nullptr);
     }
 }
 

@@ -18,8 +18,11 @@
 #include "workbench/Mod_MenuCommands.h"
 #include "workbench/frmMain.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QTest>
 #include <algorithm>
 #include <filesystem>
@@ -100,8 +103,7 @@ TEST_F(WindowTest, MenusOfferOnlyWhatWorks) {
             const auto* command = static_cast<QtCommand*>(dock->FindCommand(entry.command));
             if (!command->Visible()) continue;
             ++shown;
-            EXPECT_TRUE(command->Menu() || routed[entry.command] || entry.command == "Functions")
-                << popup->Name() << ": " << entry.command;
+            EXPECT_TRUE(command->Menu() || routed[entry.command]) << popup->Name() << ": " << entry.command;
         }
         EXPECT_GT(shown, 0) << popup->Name();
     }
@@ -196,6 +198,31 @@ TEST_F(WindowTest, ADoubleClickOnATabClosesASingleFileOnly) {
     gCurrentProject->SingleFile = true;
     window.DS_DocumentWindowDoubleClick(tab, 3);
     EXPECT_TRUE(dock->DocumentWindows().empty());
+}
+
+// What the keyboard can reach says what it is.
+TEST_F(WindowTest, EveryControlIsNamedForAssistiveTechnology) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    for (const bool rolled : {false, true}) {
+        dock->FindPane("Output")->SetAutoHidden(rolled);
+        dock->FindPane("Output")->Show();
+        QApplication::processEvents();
+        int seen = 0;
+        for (QWidget* widget : dock->Window().findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+            // Frames that hand the focus on to what they hold.
+            if (widget->focusProxy() || qobject_cast<QStackedWidget*>(widget) ||
+                qobject_cast<QTabWidget*>(widget))
+                continue;
+            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(told, nullptr);
+            EXPECT_FALSE(told->text(QAccessible::Name).isEmpty())
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString() << " in "
+                << widget->parentWidget()->metaObject()->className();
+            ++seen;
+        }
+        EXPECT_GT(seen, 6);
+    }
 }
 
 }

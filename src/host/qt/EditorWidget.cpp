@@ -53,8 +53,9 @@ QByteArray EditorWidget::InDocument(const QString& text) const {
 
 void EditorWidget::ConnectNotifications() {
     using Base = QsciScintillaBase;
-    connect(this, &Base::SCN_STYLENEEDED, this,
-            [this](int position) { Notify({.code = StyleNeeded, .position = position}); });
+    connect(this, &Base::SCN_STYLENEEDED, this, [this](int position) {
+        Notify({.code = StyleNeeded, .position = position, .inPaint = painting_});
+    });
     connect(this, &Base::SCN_CHARADDED, this, [this](int ch) { Notify({.code = CharAdded, .ch = ch}); });
     connect(this, &Base::SCN_SAVEPOINTREACHED, this, [this] { Notify({.code = SavePointReached}); });
     connect(this, &Base::SCN_SAVEPOINTLEFT, this, [this] { Notify({.code = SavePointLeft}); });
@@ -154,6 +155,12 @@ void EditorWidget::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     const auto paths = LocalFiles(event->mimeData());
     if (events_ && !paths.empty()) events_->OnDropFiles(paths);
+}
+
+void EditorWidget::paintEvent(QPaintEvent* event) {
+    painting_ = true;
+    QsciScintillaBase::paintEvent(event);
+    painting_ = false;
 }
 
 void EditorWidget::keyPressEvent(QKeyEvent* event) {

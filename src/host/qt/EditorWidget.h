@@ -25,6 +25,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
@@ -35,5 +36,6 @@ private:
     QByteArray InDocument(const QString& text) const;
 
     EditorViewEvents* events_ = nullptr;
+    bool painting_ = false;
     mutable ChangeEvents changes_;
 };

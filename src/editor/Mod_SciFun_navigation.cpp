@@ -1,0 +1,83 @@
+// The declaration of the word at the caret.
+#include "editor/Mod_SciFun_navigation.h"
+
+#include "editor/Mod_SciFun_goto.h"
+#include "editor/PositionBrowser.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsProject.h"
+#include "engine/LineStyles.h"
+#include "engine/Mod_Parse.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
+#include "host/ErrorLog.h"
+#include "host/Paths.h"
+#include "sci/Mod_Sci.h"
+
+namespace Mod_SciFun {
+
+namespace {
+
+constexpr std::intptr_t StyleBits = 0xFF;
+
+// The table in which a word of that style is declared; null when it is no such word.
+clsHash* TableOf(std::intptr_t style, int line) {
+    ClsProject& project = *gCurrentProject;
+    switch (style) {
+    case STYLE_Function: return &project.Funkcii;
+    case STYLE_GlobalVar: return &project.Globals;
+    case STYLE_Constant: return &project.Constants;
+    case STYLE_Label: return &project.Labels;
+    case STYLE_ArrayVar: return &project.Arrays;
+    case STYLE_LocalVar: Mod_Parse::CurrentFunction(line); return CurrentLocals.get();
+    default: return nullptr;
+    }
+}
+
+// Of namesakes the one of the active document, else the oldest.
+SymbolPointer Declaration(clsHash& table, const std::string& word) {
+    SymbolPointer first = table.ItemHash(word);
+    if (!first || first->SciWndData == SciWndData) return first;
+    for (SymbolPointer& symbol : table.Items())
+        if (symbol->SciWndData == SciWndData && EqualNoCase(symbol->Ime, word)) return std::move(symbol);
+    return first;
+}
+
+const frmDoc* DocumentOf(const Symbol& symbol) {
+    for (const auto& source : gCurrentProject->Sources)
+        if (source.record->SciEdi_WndData == symbol.SciWndData)
+            return static_cast<const frmDoc*>(source.record.get());
+    return nullptr;
+}
+
+void RememberCaret() {
+    if (!OptionsEdit::CBrowserRememberOnGotoDefinition) return;
+    const auto caret = Mod_Sci::GetCurrentPos();
+    CheckCBrowser(caret, Mod_Sci::LineFromPosition(caret));
+}
+
+} // namespace
+
+void GotoDeclaration() {
+    Guarded("GotoDeclaration", "Mod_SciFun", [] {
+        if (!DocumentActive() || !gCurrentProject) return;
+        const auto caret = Mod_Sci::GetCurrentPos();
+        const auto start = Mod_Sci::WordStartPosition(caret, 1);
+        const std::string word = Mod_Sci::GetTextRange(start, Mod_Sci::WordEndPosition(caret, 1));
+        if (word.empty()) return;
+        clsHash* table = TableOf(Mod_Sci::GetStyleAt(start) & StyleBits,
+                                 static_cast<int>(Mod_Sci::LineFromPosition(caret)));
+        const SymbolPointer symbol = table == nullptr ? nullptr : Declaration(*table, word);
+        if (!symbol || symbol->File.empty()) return;
+        const frmDoc* document = DocumentOf(*symbol);
+        if (document == nullptr) return; // closed, and its view with it
+        const int line = LineOf(*symbol);
+        if (line < 0) return;
+        RememberCaret();
+        if (!BringToFront(*document)) return;
+        GotoLine(line);
+        RememberCaret();
+    });
+}
+
+} // namespace Mod_SciFun

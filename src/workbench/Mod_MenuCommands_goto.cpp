@@ -1,0 +1,28 @@
+// The commands that lead to a list of the Code Explorer and to a line.
+#include "workbench/Mod_MenuCommands.h"
+
+#include "editor/frmDoc.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "workbench/MainWindow.h"
+#include "workbench/frmGotoLine.h"
+#include "workbench/frmMainList.h"
+
+namespace Mod_MenuCommands {
+
+void ExploreFocusOn(const std::string& word) {
+    Guarded("ExploreFocusOn", "Mod_MenuCommands", [&] {
+        frmMainList::Instance().ShowConstruct(word);
+        const DockPane* pane = gHost.dock->FindPane("CodeExplorer");
+        if (pane && !pane->Visible()) TogglePane("CodeExplorer");
+        frmMainList::Instance().FocusList();
+    });
+}
+
+void AskGotoLine() {
+    if (!DocumentActive()) return;
+    frmGotoLine(MainWindow()).exec();
+    if (const frmDoc* document = ActiveForm()) document->View->GrabFocus();
+}
+
+} // namespace Mod_MenuCommands

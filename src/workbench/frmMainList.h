@@ -1,0 +1,53 @@
+// The Code Explorer pane: a button for each kind of symbol, the scope, a filter, and the lists.
+#pragma once
+
+#include "host/DockStudio.h"
+
+#include <QObject>
+#include <QPointer>
+#include <array>
+#include <functional>
+#include <string>
+
+class QLineEdit;
+class QToolButton;
+class frmList;
+
+class frmMainList : public QObject, public Form {
+public:
+    // The one pane, made on first use.
+    static frmMainList& Instance();
+    frmMainList();
+    ~frmMainList() override;
+
+    void* NativeWidget() override;
+
+    // Raises all dirty flags of the current project, so that every list is reconciled when it is shown next.
+    static void AllConstructsDirty();
+    // Refreshes the shown list.
+    void PuniLista();
+    // AllConstructsDirty and PuniLista: for changes that no flag tells of.
+    void Refresh();
+    // Chooses a construct by its name, as a click on its button does.
+    void ShowConstruct(const std::string& name);
+    // Gives the list that is shown the keyboard focus.
+    void FocusList();
+    // Whether only the active document's symbols are listed.
+    bool ShowOnlyFile() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QToolButton* AddButton(const char* name, const std::function<void()>& clicked);
+    void SetScope(bool onlyFile);
+    void CheckButtons();
+    bool FilterKey(int key);
+
+    QPointer<QWidget> pane_;
+    QPointer<frmList> lists_;
+    QPointer<QLineEdit> filter_;
+    std::array<QToolButton*, 7> constructs_{};
+    QToolButton* file_ = nullptr;
+    QToolButton* project_ = nullptr;
+};
