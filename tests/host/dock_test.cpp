@@ -102,6 +102,8 @@ TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
     EXPECT_EQ(Take(), (Events{"activate a", "create b", "leave a", "activate b"}));
     EXPECT_TRUE(second.InFront());
     EXPECT_FALSE(first.InFront());
+    second.SetCaption("b.bb*");
+    EXPECT_EQ(dock.Window().windowTitle(), "b.bb* - Zolto");
     EXPECT_THROW(dock.AddDocumentWindow("A", "again", &c), Failure);
 
     recorder.cancelHiding = true;
@@ -116,8 +118,10 @@ TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
     EXPECT_EQ(Take(), (Events{"hiding b", "leave b", "hidden b", "activate a"}));
     EXPECT_EQ(dock.FindDocumentWindow("b"), nullptr);
     EXPECT_EQ(dock.ActiveDocumentWindow(), &first);
+    EXPECT_EQ(dock.Window().windowTitle(), "a.bb - Zolto");
     first.SetVisible(false);
     EXPECT_EQ(dock.ActiveDocumentWindow(), nullptr);
+    EXPECT_EQ(dock.Window().windowTitle(), "Zolto");
 }
 
 TEST_F(DockTest, GroupsHaveFrontsOfTheirOwnAndVanishWhenEmpty) {

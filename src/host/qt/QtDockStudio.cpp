@@ -2,6 +2,7 @@
 #include "host/qt/QtDockStudio.h"
 
 #include "host/Failure.h"
+#include "host/Paths.h"
 #include "host/qt/CustomizeDialog.h"
 #include "host/qt/QtText.h"
 #include "host/qt/StartPage.h"
@@ -29,6 +30,7 @@ QtDockStudio::QtDockStudio()
         Settle();
         if (events_) events_->DS_Resize();
     };
+    QObject::connect(area_, &QtDocumentArea::Changed, &window_, [this] { ShowTitle(); });
     window_.fillBarMenu = [this](QMenu& menu) { FillBarMenu(menu); };
     window_.dropped = [this](const std::vector<std::string>& paths) {
         if (events_) events_->DS_FilesDropped(paths);
@@ -48,6 +50,7 @@ QtDockStudio::QtDockStudio()
 QtDockStudio::~QtDockStudio() {
     SetEvents(nullptr);
     delete customizing_;
+    area_->disconnect(&window_);
     window_.mayClose = nullptr;
     window_.resized = nullptr;
     // The documents go first, while the window that holds their pages is still whole.
@@ -184,8 +187,20 @@ std::string QtDockStudio::WindowsText() { return DocumentsToLine(area_->Record()
 void QtDockStudio::SetWindowsText(const std::string& text) { area_->Restore(DocumentsFromLine(text), true); }
 
 void QtDockStudio::SuspendRepaint(bool suspend) {
-    suspended_ += suspend ? 1 : -1;
-    window_.setUpdatesEnabled(suspended_ <= 0);
+    // Within a stop of somebody else's the painting stays stopped.
+    if (suspend && suspended_++ == 0) {
+        painted_ = window_.updatesEnabled();
+        window_.setUpdatesEnabled(false);
+    } else if (!suspend && --suspended_ == 0) {
+        window_.setUpdatesEnabled(painted_);
+    }
+}
+
+// Task lists and screen readers know a window by its title.
+void QtDockStudio::ShowTitle() {
+    const QtDocumentWindow* active = area_->Active();
+    const QString program = Shown(ProgramName);
+    window_.setWindowTitle(active ? Shown(active->Caption()) + " - " + program : program);
 }
 
 // What a right click on a bar or on the edge of a pane offers: which of them are shown.

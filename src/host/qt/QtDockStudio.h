@@ -82,6 +82,7 @@ private:
     void RestoreSizes();
     void Settle();
     void AddPane(const LayoutPane& record);
+    void ShowTitle();
     void FillBarMenu(QMenu& menu);
 
     StudioWindow window_;
@@ -104,4 +105,5 @@ private:
     DockStudioEvents* events_ = nullptr;
     int wantedState_ = 0;
     int suspended_ = 0;
+    bool painted_ = true; // before the first of the stops
 };

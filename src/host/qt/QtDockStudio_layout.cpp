@@ -45,6 +45,8 @@ Layout QtDockStudio::Present() {
 }
 
 void QtDockStudio::Apply(const Layout& layout) {
+    // Whoever stopped the painting before is also the one to let it go on.
+    const bool paints = window_.updatesEnabled();
     window_.setUpdatesEnabled(false);
     window_.menuBar()->clear();
     table_.Replace(layout.commands);
@@ -59,7 +61,7 @@ void QtDockStudio::Apply(const Layout& layout) {
     settling_.start();
     if (!documents_.area.parts.empty()) area_->Restore(documents_, false);
     RestoreSizes();
-    window_.setUpdatesEnabled(suspended_ <= 0);
+    window_.setUpdatesEnabled(paints);
 }
 
 // A bar that is there already keeps its object: the click that loads a layout may come from it.

@@ -108,6 +108,7 @@ void QtDocumentArea::SetActive(QtDocumentWindow* window) {
     QtDocumentWindow* old = active_;
     active_ = window;
     ShowActive();
+    emit Changed();
     if (!events) return;
     if (old) events->DS_DocumentWindowDeactivate(*old);
     if (active_ && active_ == window) events->DS_DocumentWindowActivate(*window, false);

@@ -49,7 +49,7 @@ public:
     void CaptionsChanged() override { emit Changed(); }
 
 signals:
-    // Windows came or went, or a caption is another.
+    // Windows came or went, another is the active one, or a caption changed.
     void Changed();
 
 private:
