@@ -17,6 +17,7 @@
 #include "workbench/Shown.h"
 #include "workbench/frmCompiling.h"
 #include "workbench/frmError.h"
+#include "workbench/frmFind.h"
 #include "workbench/frmMain.h"
 #include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
@@ -43,6 +44,7 @@ void WireEditor() {
 
 void WireDocuments() {
     gDocumentCalls.UpdateCommandUI = [] { frmMain::Instance().UpdateCommandUI(); };
+    gDocumentCalls.UnloadFind = [] { frmFind::Unload(); };
     gDocumentCalls.RefreshCodeExplorer = [] { frmMainList::Instance().Refresh(); };
     gDocumentCalls.SplashStatus = [](const std::string& text) { frmSplash::SetStatus(text); };
     gDocumentCalls.CreateMainWindow = [] { frmMain::Instance().Form_Load(); };

@@ -5,6 +5,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
+#include "documents/RecentFiles.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -150,6 +151,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     MakeActive(document.get());
     Mod_Sci::EmptyUndoBuffer();
     Mod_Sci::GrabFocus();
+    AddRecentFile(path);
     if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
     return true;
 }

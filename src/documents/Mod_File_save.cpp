@@ -3,6 +3,7 @@
 
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_Project.h"
+#include "documents/RecentFiles.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -164,6 +165,7 @@ bool SaveFileAs(frmDoc* document) {
         if (OpenElsewhere(*document, path)) return false;
         if (!WriteActive(path, GetFileParameters())) return false;
         Rebind(*document, path);
+        if (document->SingleFile) AddRecentFile(path);
         return true;
     });
 }

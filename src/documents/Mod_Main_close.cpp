@@ -1,9 +1,11 @@
 // The window's place in the settings, the save prompt, and the fixed order of shutdown.
 #include "documents/Mod_Main.h"
 
+#include "documents/ClsMRU.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/Desktop.h"
@@ -105,6 +107,8 @@ void QueryUnload(bool& cancel) {
         // As on closing it: a project is saved without being asked for.
         for (const auto& entry : gProjects)
             if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
+        Mod_File::SaveRecentFilesProjects();
+        MRUCommandLine.Save();
         const WindowPlace place = gHost.dock->Place();
         if (place.state != Minimised) {
             // The place is kept even where the arrangement cannot be written.

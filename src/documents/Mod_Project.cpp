@@ -4,6 +4,7 @@
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/DocumentLoading.h"
+#include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "host/Desktop.h"
@@ -231,6 +232,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             gCurrentProject = project;
             OpenMembers(*project, fromWorkspace);
         }
+        Mod_File::AddRecentProject(path);
         if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
         if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
         if (SciWndData != 0) Mod_Sci::GrabFocus();

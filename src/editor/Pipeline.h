@@ -3,6 +3,7 @@
 
 #include "host/EditorView.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -31,6 +32,10 @@ public:
     // Parses what waits and the line that is being edited, although the caret stands on it. An open undo
     // group stays open, so that what the parser writes is undone with the edit.
     virtual void ParseNow() = 0;
+
+    // Runs a change all over the text that nobody hears of, and parses all lines anew. Indentation stays, and
+    // so do closed folds as long as no line comes or goes.
+    virtual void ChangeMany(const std::function<void()>& change) = 0;
 };
 
 // The pipeline of a new document.

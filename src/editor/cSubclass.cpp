@@ -6,6 +6,7 @@
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_edit.h"
+#include "editor/SciOptions.h"
 #include "editor/StyleTable.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -33,26 +34,22 @@ using namespace Mod_Parse;
 constexpr int MarkerMargin = 1;
 constexpr int FoldMargin = 2;
 
-// Makes a document the active one for as long as it lives, as if its view had the focus.
-class ActiveSwap {
+// Nobody hears of changes for as long as it lives.
+class Unheard {
 public:
-    explicit ActiveSwap(frmDoc& document)
-        : before_(ActiveForm()), view_(SciWndData), swapped_(gActiveDoc != &document) {
-        if (swapped_) MakeActive(&document);
-    }
-    ~ActiveSwap() {
-        if (!swapped_) return;
-        MakeActive(before_);
-        SciWndData = view_;
-    }
-    ActiveSwap(const ActiveSwap&) = delete;
-    ActiveSwap& operator=(const ActiveSwap&) = delete;
-
-private:
-    frmDoc* before_;
-    std::intptr_t view_;
-    bool swapped_;
+    Unheard() { Mod_Sci::SetModEventMask(0); }
+    ~Unheard() { Mod_Sci::SetModEventMask(EventMask); }
+    Unheard(const Unheard&) = delete;
+    Unheard& operator=(const Unheard&) = delete;
 };
+
+std::vector<int> FoldedLines() {
+    std::vector<int> lines;
+    constexpr int Opens = MaskOf(MarkerFoldOpens);
+    for (auto line = Mod_Sci::MarkerNext(0, Opens); line >= 0; line = Mod_Sci::MarkerNext(line + 1, Opens))
+        if (!Mod_Sci::GetFoldExpanded(line)) lines.push_back(static_cast<int>(line));
+    return lines;
+}
 
 // A number as text with a place for its sign.
 std::string Signed(std::intptr_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }
@@ -82,9 +79,39 @@ void cSubclass::ParseNow() {
     mFrmDoc.Redraw();
 }
 
+void cSubclass::ChangeMany(const std::function<void()>& change) {
+    const ActiveSwap swap(mFrmDoc);
+    ParseNow();
+    const std::vector<int> folded = FoldedLines();
+    const auto lines = Mod_Sci::GetLineCount();
+    ForgetFile();
+    {
+        const Unheard unheard;
+        change();
+        mFrmDoc.SetDirty(true);
+        State().mLastOperationUndoRedo = false;
+        CurrentFunctionName = MainProgram;
+        CurrentLocals = gCurrentProject->MainFunLocals;
+        CurrentTypeName.clear();
+        FoldLevel = 0;
+        IndentLevel = 0;
+        ParseAllLines();
+    }
+    // The parser opens the folds that it comes by. Where lines came or went they cannot be told any more.
+    for (const int line : folded)
+        if (lines == Mod_Sci::GetLineCount() && HasMarker(line, MarkerFoldOpens) &&
+            Mod_Sci::GetFoldExpanded(line))
+            Mod_Sci::ToggleFold(line);
+    mFrmDoc.Redraw();
+}
+
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
-    case SCN_STYLENEEDED: StyleNeeded(notification.inPaint); break;
+    // The view also asks in the middle of an undo, or while a parse opens a fold: nothing may be changed
+    // there, and the scope that the colourers write belongs to the parser.
+    case SCN_STYLENEEDED:
+        if (notification.inPaint && !parsing_) StyleNeeded();
+        break;
     case SCN_PAINTED: Painted(); break;
     case SCN_SAVEPOINTREACHED: mFrmDoc.SetDirty(false); break;
     case SCN_MARGINCLICK: MarginClick(notification); break;
@@ -113,11 +140,10 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) gEditorCalls.OpenFile(path);
 }
 
-void cSubclass::StyleNeeded(bool inPaint) {
+void cSubclass::StyleNeeded() {
     // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
-    // here, or the lines would be painted twice. The view also asks in the middle of an undo, where nothing
-    // may be changed.
-    if (inPaint && !Coloring) ParseEdited();
+    // here, or the lines would be painted twice.
+    if (!Coloring) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
@@ -164,6 +190,7 @@ void cSubclass::SiblingPass() {
         sibling->State.mOldStartLine = -100;
         SciNotification restyle;
         restyle.code = SCN_STYLENEEDED;
+        restyle.inPaint = true;
         sibling->m_oSubclass->OnNotify(restyle);
     }
 }

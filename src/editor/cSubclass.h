@@ -21,10 +21,11 @@ public:
 
     void DeactivateCheck() override;
     void ParseNow() override;
+    void ChangeMany(const std::function<void()>& change) override;
 
 private:
     void Dispatch(const SciNotification& notification);
-    void StyleNeeded(bool inPaint);
+    void StyleNeeded();
     void SiblingPass();
     void Painted();
     void MarginClick(const SciNotification& notification);
@@ -49,6 +50,7 @@ private:
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
+    bool parsing_ = false; // the scope that the colourers write belongs to the parser
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

@@ -48,6 +48,18 @@ bool HasLineEnd(const SciNotification& notification) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
+// Raises a flag for as long as it lives.
+class Raised {
+public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+private:
+    bool& flag_;
+};
+
 DocumentRecord* undoGroupDocument = nullptr; // where the open undo action was begun
 
 } // namespace
@@ -255,6 +267,7 @@ std::vector<int> cSubclass::TakeQueue() {
 }
 
 void cSubclass::ParseQueue() {
+    const Raised parsing(parsing_);
     const std::vector<int> lines = TakeQueue();
     int expect = -100;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -324,6 +337,7 @@ void cSubclass::UpdateUi() {
 void cSubclass::ParseWaiting() {
     CloseUndoGroup(&mFrmDoc);
     const ColoringScope own;
+    const Raised parsing(parsing_);
     if (State().UnparsedLine >= 0) {
         if (HasMarker(State().UnparsedLine, MarkerQueued)) SetStopErrorLog(StopQueuedTwiceFlush);
         TakeBackEditedLine(true);

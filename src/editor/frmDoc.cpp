@@ -2,6 +2,7 @@
 #include "editor/frmDoc.h"
 
 #include "editor/SciOptions.h"
+#include "engine/ClosedFiles.h"
 #include "engine/ClsProject.h"
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
@@ -69,6 +70,7 @@ void UnloadDocument(frmDoc* document) {
     // Held until the end: removing it from its project may be what destroys it.
     const auto held = project->Sources.Find(document->FullFilename);
     if (!held) return;
+    if (!document->SingleFile) CloseSymbols(*project, document->SciEdi_WndData);
     project->Sources.RemoveKey(document->FullFilename);
     if (document->SingleFile) gProjects.RemoveKey(document->PrjFullPath);
 }

@@ -7,6 +7,7 @@
 #include "host/DockStudio.h"
 #include "host/EditorView.h"
 #include "host/StdShell.h"
+#include "sci/Mod_Sci.h"
 
 #include <memory>
 #include <string>
@@ -48,6 +49,27 @@ frmDoc* ActiveForm();
 // Makes a document the one that all editor code works on: gActiveDoc, SciWndData and, when its project
 // is open, gCurrentProject.
 void MakeActive(frmDoc* document);
+
+// Makes a document the active one for as long as it lives, as if its view had the focus.
+class ActiveSwap {
+public:
+    explicit ActiveSwap(frmDoc& document)
+        : before_(ActiveForm()), view_(SciWndData), swapped_(gActiveDoc != &document) {
+        if (swapped_) MakeActive(&document);
+    }
+    ~ActiveSwap() {
+        if (!swapped_) return;
+        MakeActive(before_);
+        SciWndData = view_;
+    }
+    ActiveSwap(const ActiveSwap&) = delete;
+    ActiveSwap& operator=(const ActiveSwap&) = delete;
+
+private:
+    frmDoc* before_;
+    std::intptr_t view_;
+    bool swapped_;
+};
 
 // Takes a document out of its project and destroys it; a single file's project goes with it.
 void UnloadDocument(frmDoc* document);

@@ -56,6 +56,7 @@ public:
     bool Expanded = false;
     CollectionTools<DocumentRecord> Sources; // the open documents, by FullFilename
     std::shared_ptr<clsHash> MainFunLocals;
+    bool HasClosedSymbols = false; // a member was closed since the project was opened
 
     // Raised by the parser when a table changed, lowered by the list that shows it.
     bool GlobalsDirty = false;

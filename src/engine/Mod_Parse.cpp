@@ -2,6 +2,7 @@
 // level and indentation are set. What a keyword declares stands in Mod_Parse_declare.cpp.
 #include "engine/Mod_Parse.h"
 
+#include "engine/ClosedFiles.h"
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
 #include "engine/EngineCalls.h"
@@ -201,6 +202,7 @@ int Parseline(int line, bool sequential) {
 
 void ParseAllLines() {
     const WaitCursor wait;
+    DropClosedSymbols(*gCurrentProject);
     ParsingFile = true;
     const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
     for (int line = 0; line <= last; ++line) Parseline(line, true);

@@ -18,6 +18,9 @@ void ParseFile();
 void ParseAllLines();
 // Takes back every line of the current document, then has the Code Explorer refilled.
 void UnParseFile();
+// Forgets what the lines of the current document declared, and takes the parser's markers off all of them, in
+// one go. No line may be waiting or being edited. ParseAllLines is to follow.
+void ForgetFile();
 // Parses one line that is not parsed; `sequential` tells that the line above was parsed just before.
 // Answers the handle of the line's marker 3.
 int Parseline(int line, bool sequential);

@@ -75,6 +75,7 @@ void DeclaredOn(Symbol& symbol, int line) {
 }
 
 int LineOf(const Symbol& symbol) {
+    if (symbol.SciWndData == 0) return -1;
     const Changes& changes = Of(symbol.SciWndData);
     const unsigned now = changes.Now();
     if (symbol.SeenAt != now) {

@@ -15,5 +15,5 @@ void ForgetLines(std::intptr_t view);
 
 // The symbol has just been declared on a line of its view.
 void DeclaredOn(Symbol& symbol, int line);
-// The line (from 0) of a symbol's marker; -1 when it has none.
+// The line (from 0) of a symbol's marker; -1 when it has none, or when its file is not open.
 int LineOf(const Symbol& symbol);

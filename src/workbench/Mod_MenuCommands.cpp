@@ -1,6 +1,7 @@
 // The routines behind commands of the main window itself.
 #include "workbench/Mod_MenuCommands.h"
 
+#include "documents/ClsMRU.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
@@ -75,7 +76,12 @@ void cboCompilers() {
 
 void cboCommandLine() {
     const DockCommand* box = gHost.dock->FindCommand("cboCommandLine");
-    if (box && gCurrentProject) gCurrentProject->CommandLine = box->Text();
+    if (!box) return;
+    if (gCurrentProject) gCurrentProject->CommandLine = box->Text();
+    if (box->Text().empty()) return;
+    MRUCommandLine.Add(box->Text());
+    MRUCommandLine.Save();
+    frmMain::Instance().PopulateCboCommandLine();
 }
 
 void TogglePane(const char* pane) {

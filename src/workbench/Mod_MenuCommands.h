@@ -33,7 +33,7 @@ void ChangeStrictMode();
 // Makes the compiler that was picked in the box the active project's one; the old name comes back when
 // its keywords cannot be loaded.
 void cboCompilers();
-// Makes the text in the box the command line of the active project.
+// Makes the text in the box the command line of the active project, and the first of those to choose from.
 void cboCommandLine();
 // Shows a pane that is hidden, and hides one that is shown.
 void TogglePane(const char* pane);

@@ -3,6 +3,7 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "documents/RecentFiles.h"
 #include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_complete.h"
 #include "editor/Mod_SciFun_edit.h"
@@ -21,6 +22,7 @@
 #include "sci/Mod_Sci.h"
 #include "toolchain/Mod_Compiler.h"
 #include "workbench/frmAbout.h"
+#include "workbench/frmFind.h"
 
 namespace Mod_MenuCommands {
 
@@ -73,6 +75,13 @@ void ToggleFold(const Click&) {
     Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
 }
 
+void OpenRecentFile(const Click& click) {
+    if (const auto path = Mod_File::RecentFile(click.item)) Mod_File::OpenFile(*path);
+}
+
+void OpenRecentProject(const Click& click) {
+    if (const auto path = Mod_File::RecentProject(click.item)) Mod_Project::LoadProject(*path);
+}
 void Explore(const Click& click) { ExploreFocusOn(click.command.Name()); }
 
 void NotAvailable(const Click&) {
@@ -130,10 +139,10 @@ const std::vector<RoutedCommand>& Routes() {
         {"Cycle Private", nullptr},
         {"Copy Private", nullptr},
         {"Paste Private", nullptr},
-        {"Find", nullptr},
-        {"Find Next", nullptr},
-        {"Find Previous", nullptr},
-        {"Replace", nullptr},
+        {"Find", [](const Click&) { frmFind::Instance().StartFind(false); }},
+        {"Find Next", [](const Click&) { frmFind::Instance().FindNext(true); }},
+        {"Find Previous", [](const Click&) { frmFind::Instance().FindPrevious(true); }},
+        {"Replace", [](const Click&) { frmFind::Instance().StartFind(true); }},
         {"Next Function", Run<Mod_SciFun::GotoNextFunction>},
         {"Previous Function", Run<Mod_SciFun::GotoPreviousFunction>},
         {"Auto Indent Selection", Run<Mod_SciFun::AutoIndentSelection>},
@@ -177,8 +186,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"Rename", nullptr},
         {"Set As Main File", nullptr},
         {"Add Folder With Files", nullptr},
-        {"FileRecentFiles", nullptr},
-        {"FileRecentProjects", nullptr},
+        {"FileRecentFiles", OpenRecentFile},
+        {"FileRecentProjects", OpenRecentProject},
         {"WindowList", [](const Click& click) { ActivateWindow(click.item); }},
         {"New Horizontal Tab Group", [](const Click&) { gHost.dock->NewTabGroup(false); }},
         {"New Vertical Tab Group", [](const Click&) { gHost.dock->NewTabGroup(true); }},

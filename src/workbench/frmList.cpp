@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QSplitter>
 #include <algorithm>
-#include <unordered_set>
 
 const std::array<Construct, ConstructCount> Constructs = {{
     {"Functions", "lvFunctions", "imgFunctions", &ClsProject::Funkcii, &ClsProject::FunctionsDirty, {true}},
@@ -176,11 +175,7 @@ void frmList::RefreshLines() {
     const auto project = lists_[Functions].project.lock();
     if (construct_ != Functions || !isVisible() || !project) return;
     Guarded("RefreshLines", "frmList", [&] {
-        std::unordered_set<std::intptr_t> open;
-        for (const auto& source : project->Sources) open.insert(source.record->SciEdi_WndData);
-        lists_[Functions].list->Rows().SetLines([&](const Symbol& function) {
-            return open.contains(function.SciWndData) ? LineOf(function) : -1;
-        });
+        lists_[Functions].list->Rows().SetLines(LineOf);
     });
 }
 

@@ -22,13 +22,6 @@ frmDoc* DocumentOf(const ClsProject& project, const Symbol& symbol) {
     return nullptr;
 }
 
-// Takes the symbols of a document that was closed out of a table; its file declares them anew.
-void DropClosed(const ClsProject& project, clsHash& table) {
-    for (const SymbolPointer& symbol : table.Items())
-        if (symbol->SciWndData != 0 && DocumentOf(project, *symbol) == nullptr)
-            table.RemoveRecord(symbol->Ime, *symbol);
-}
-
 // Brings an open file to the front, as it stands there. False when it isn't open.
 bool ShowOpenFile(const std::string& path) {
     for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
@@ -82,7 +75,6 @@ bool frmList::OpenFileOf(const SymbolPointer& symbol) {
     const auto file = project->Files.Find(symbol->File);
     if (!file) return false;
     const std::string path = CollapseSeparators(project->Path + ToDisk(file->AbsPath));
-    for (const Construct& construct : Constructs) DropClosed(*project, project.get()->*construct.table);
     gCurrentProject = project;
     return Mod_File::OpenProjectsFile(gHost.files->Find(path), false);
 }

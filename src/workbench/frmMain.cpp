@@ -1,10 +1,12 @@
 // The main window: start-up, enabling, and the events that aren't about document windows.
 #include "workbench/frmMain.h"
 
+#include "documents/ClsMRU.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
+#include "documents/RecentFiles.h"
 #include "editor/EditorCalls.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -51,7 +53,10 @@ void frmMain::Form_Load() {
         AdditionalUISetup();
         AddDockForms(true);
         Mod_Main::PlaceMainWindow();
+        Mod_File::LoadRecentFilesProjects();
         FillCompilers();
+        MRUCommandLine.Load();
+        PopulateCboCommandLine();
         if (Options::gOpenBrowserAtStartup != 0 && gDocumentCalls.OpenBrowser) {
             gDocumentCalls.OpenBrowser("");
             if (Options::gDefaultHelpPage.size() > 4) gDocumentCalls.OpenBrowser(Options::gDefaultHelpPage);
@@ -64,6 +69,10 @@ void frmMain::FillCompilers() {
     std::vector<std::string> names;
     for (const auto& entry : gCompilers) names.push_back(entry.record->Name);
     if (DockCommand* box = gHost.dock->FindCommand("cboCompilers")) box->SetItems(names);
+}
+
+void frmMain::PopulateCboCommandLine() {
+    if (DockCommand* box = gHost.dock->FindCommand("cboCommandLine")) box->SetItems(MRUCommandLine.Items());
 }
 
 frmDoc* frmMain::ActiveDocument() {

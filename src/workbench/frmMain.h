@@ -40,6 +40,8 @@ public:
     void AddDockForms(bool addNew);
     // Puts the names of all compilers into their box.
     void FillCompilers();
+    // Puts the command lines that were used last into theirs.
+    void PopulateCboCommandLine();
 
     void SetPositionText(const std::string& text);
     void SetFunctionText(const std::string& text);

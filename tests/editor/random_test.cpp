@@ -3,6 +3,7 @@
 // the last. A series comes from a seed, and one that fails is shrunk before it is told.
 #include "engine/fixture/SourceTest.h"
 
+#include "editor/FindRun.h"
 #include "editor/Mod_SciFun_edit.h"
 #include "host/Paths.h"
 
@@ -61,6 +62,12 @@ constexpr const char* KindNames[] = {"insert line", "paste",     "delete", "dele
                                      "new line",    "backspace", "undo",   "redo",        "move",
                                      "move away",   "drain",     "command"};
 
+void ReplaceAll(const std::string& text, const std::string& by) {
+    FindOptions options;
+    options.text = text;
+    FindRun().ReplaceAll(options, by);
+}
+
 constexpr struct {
     const char* name;
     void (*run)();
@@ -78,6 +85,9 @@ constexpr struct {
     {"breakpoint", [] { Mod_SciFun::ToggleBreakPoint(); }},
     {"fold", [] { Mod_SciFun::FoldEverything(Mod_SciFun::AnyFold); }},
     {"unfold", [] { Mod_SciFun::UnFoldEverything(Mod_SciFun::AnyFold); }},
+    {"replace", [] { ReplaceAll("e", "ee"); }},
+    {"replace words", [] { ReplaceAll("local", "Global"); }},
+    {"replace back", [] { ReplaceAll("global", "Local"); }},
     {"upper case", [] { Mod_Sci::UpperCase(); }},
     {"lower case", [] { Mod_Sci::LowerCase(); }},
 };
@@ -275,13 +285,13 @@ private:
     }
 
     // Left out: two words that open or close a scope on one line, which have no meaning that could be kept; a
-    // field in front of the end of its type, because what a type takes in ends with the line above its end;
+    // field in front of the beginning or the end of a type, which count for all of their line;
     // and a tab inside a string, which ends it for one scanner and not for the other.
     static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
         std::string changed = Mod_Sci::GetText();
         changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
         static const std::regex left(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))"
-                                     R"(|\bfield\b[^\r\n]*\bend[ \t]+type\b|"[^\r\n]*\t)",
+                                     R"(|\bfield\b[^\r\n]*\btype\b|"[^\r\n]*\t)",
                                      std::regex::icase);
         return !std::regex_search(changed, left);
     }

@@ -1,0 +1,116 @@
+// The recent lists: paths here, their captions in the command that shows them.
+#include "documents/RecentFiles.h"
+
+#include "documents/Options.h"
+#include "documents/StoredList.h"
+#include "host/Dialogs.h"
+#include "host/DockStudio.h"
+#include "host/ErrorLog.h"
+#include "host/Files.h"
+#include "host/Host.h"
+#include "host/Paths.h"
+#include "host/SettingsStore.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace Mod_File {
+
+namespace {
+
+class RecentList {
+public:
+    RecentList(const char* command, const char* section) : command_(command), section_(section) {}
+
+    void Add(const std::string& path) {
+        Drop(path);
+        paths_.insert(paths_.begin(), path);
+        Changed();
+    }
+    void Forget(const std::string& path) {
+        Drop(path);
+        Changed();
+    }
+    void Clear() {
+        paths_.clear();
+        Changed();
+    }
+    void Load() {
+        paths_ = ReadStoredList(section_);
+        const auto count = std::strtoul(gHost.settings->Get(section_, "Count", "0").c_str(), nullptr, 10);
+        if (paths_.size() > count) paths_.resize(count);
+        Show();
+    }
+    void Save() {
+        Cut();
+        WriteStoredList(section_, paths_);
+        gHost.settings->Save(section_, "Count", std::to_string(paths_.size()));
+    }
+    // The path of an entry that is still there; nothing where it is gone.
+    std::optional<std::string> Choose(int item) {
+        if (item < 0 || item >= static_cast<int>(paths_.size())) return {};
+        const std::string path = paths_[static_cast<std::size_t>(item)];
+        if (gHost.files->Kind(gHost.files->Find(path)) != PathKind::None) return path;
+        if (gHost.dialogs->Show(
+                {.text = "File: " + path + " does not exists !\r\nDo you want to remove it from the list ?",
+                 .icon = MessageIcon::Exclamation,
+                 .buttons = MessageButtons::YesNo}) == MessageAnswer::Yes)
+            Forget(path);
+        return {};
+    }
+
+private:
+    void Drop(const std::string& path) {
+        std::erase_if(paths_, [&](const std::string& entry) { return EqualNoCase(entry, path); });
+    }
+    void Cut() {
+        const auto most = static_cast<std::size_t>(std::max(0, Options::gRecentFiles));
+        if (paths_.size() > most) paths_.resize(most);
+    }
+    void Changed() {
+        Save();
+        Show();
+    }
+    void Show() const {
+        DockCommand* command = gHost.dock->FindCommand(command_);
+        if (command == nullptr) return;
+        std::vector<std::string> captions;
+        for (const std::string& path : paths_)
+            captions.push_back(Options::gShowRecentFull == 1 ? path : GetFileName(path));
+        command->SetItems(captions);
+    }
+
+    const char* command_;
+    const char* section_;
+    std::vector<std::string> paths_; // newest first
+};
+
+RecentList files("FileRecentFiles", "RecentFilenames");
+RecentList projects("FileRecentProjects", "RecentProjects");
+
+} // namespace
+
+void AddRecentFile(const std::string& path) { files.Add(path); }
+void AddRecentProject(const std::string& path) { projects.Add(path); }
+void ClearRecentFiles() { files.Clear(); }
+void ClearRecentProjects() { projects.Clear(); }
+
+void LoadRecentFilesProjects() {
+    Guarded("LoadRecentFilesProjects", "Mod_File", [] {
+        files.Load();
+        projects.Load();
+    });
+}
+
+void SaveRecentFilesProjects() {
+    Guarded("SaveRecentFilesProjects", "Mod_File", [] {
+        files.Save();
+        projects.Save();
+    });
+}
+
+std::optional<std::string> RecentFile(int item) { return files.Choose(item); }
+std::optional<std::string> RecentProject(int item) { return projects.Choose(item); }
+
+} // namespace Mod_File

@@ -1,0 +1,10 @@
+// A list of texts in a section of the settings store, under the keys "1", "2" and so on.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// All entries up to the first key that is missing.
+std::vector<std::string> ReadStoredList(const std::string& section);
+// Writes the entries and deletes those that stood behind them. Writes nothing that has not changed.
+void WriteStoredList(const std::string& section, const std::vector<std::string>& entries);

@@ -1,0 +1,32 @@
+// The open documents in the order of their windows.
+#include "editor/OpenDocuments.h"
+
+#include "engine/ClsProject.h"
+#include "host/Desktop.h"
+#include "host/Host.h"
+
+#include <algorithm>
+
+std::vector<frmDoc*> DocumentsFrom(bool ofProject) {
+    std::vector<frmDoc*> documents;
+    for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
+        // The help tab is a window without a document.
+        auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
+        if (document == nullptr) continue;
+        if (ofProject && !(gCurrentProject && gCurrentProject->Sources.Exist_Item(document))) continue;
+        documents.push_back(document);
+    }
+    const auto active = std::find(documents.begin(), documents.end(), gActiveDoc);
+    if (active == documents.end()) return {};
+    std::rotate(documents.begin(), active, documents.end());
+    return documents;
+}
+
+void BringToFront(frmDoc& document) {
+    if (gActiveDoc == &document) return;
+    gHost.desktop->LockWindowUpdate(true);
+    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(document.m_strDocumentWindowID))
+        window->Activate();
+    MakeActive(&document);
+    gHost.desktop->LockWindowUpdate(false);
+}

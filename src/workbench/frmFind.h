@@ -1,0 +1,86 @@
+// The dialog that finds, replaces and counts. It stays open beside the text, and is hidden rather than
+// closed.
+#pragma once
+
+#include "editor/FindRun.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+class frmFind : public QDialog {
+public:
+    // The one dialog, made on first use.
+    static frmFind& Instance();
+    // Stores the options and ends the dialog, where there is one.
+    static void Unload();
+
+    // Fills the dialog from the text round the caret and shows it; `replaceMode`: with what replaces.
+    void StartFind(bool replaceMode);
+    // Select the next or previous hit; without a text to look for they show the dialog. `interactive`: with
+    // questions and messages.
+    bool FindNext(bool interactive);
+    bool FindPrevious(bool interactive);
+
+    void reject() override { cmdCancel_Click(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit frmFind(QWidget* parent);
+    ~frmFind() override;
+
+    void MakeControls();
+    void Arrange();
+    void Connect();
+    QGroupBox* Group(const char* name, const QString& title, QButtonGroup* buttons,
+                     const QStringList& captions);
+    void LoadOptions();
+    void SaveOptions() const;
+    void Place();
+
+    void cmdReplace_Click();
+    void cmdReplaceAll_Click();
+    void cmdMarkAll_Click();
+    void cmdCancel_Click();
+    void InsertWordUnderCursor();
+
+    bool Search(bool interactive, bool (FindRun::*search)(const FindOptions&, bool));
+    FindOptions Options() const;
+    void Remember();
+    void Expand(bool expanded);
+    void Enable();
+    void NewRun();
+    void ShowRun();
+    void ShowFound(bool found, bool interactive);
+    void RepositionDialog(std::intptr_t start, std::intptr_t end);
+
+    FindRun run_;
+    bool expanded_ = false;
+    QComboBox* cboFind;
+    QComboBox* cboReplace;
+    QLabel* lblFind;
+    QLabel* lblReplace;
+    QLabel* lblStatus;
+    QPushButton* cmdFind;
+    QPushButton* cmdFindPrev;
+    QPushButton* cmdInsertWordUnderCursor;
+    QPushButton* cmdMarkAll;
+    QPushButton* cmdReplace;
+    QPushButton* cmdReplaceAll;
+    QPushButton* cmdCancel;
+    QCheckBox* chkMatchCase;
+    QCheckBox* chkWholeWord;
+    QCheckBox* chkWordStart;
+    QCheckBox* chkRegExp;
+    QButtonGroup* optStartAt;
+    QButtonGroup* optSearchIn;
+    QGroupBox* startAt_;
+};
