@@ -28,7 +28,7 @@ using Texts = std::vector<std::string>;
 class ExplorerTest : public SourceTest {
 protected:
     ExplorerTest() {
-        host.dock.panes["CodeExplorer"] = std::make_unique<FakePane>(host.dock, "CodeExplorer");
+        host.dock.panes["CodeExplorer"] = std::make_unique<HeadlessPane>(host.dock, "CodeExplorer");
         for (const char* name : {"Functions", "Globals", "Goto Declaration", "Goto Previous Position",
                                  "Goto Next Position", "Next Bookmark", "Previous Bookmark", "Goto Line"})
             host.dock.Make(name, "View");
