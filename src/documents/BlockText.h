@@ -1,4 +1,5 @@
-// The form of project and workspace files: blocks between whole lines, values between quotes without escaping.
+// The form of project and workspace files: blocks between whole lines, values between quotes without
+// escaping.
 #pragma once
 
 #include <string>

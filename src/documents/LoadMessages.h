@@ -1,4 +1,5 @@
-// What could not be loaded: said at once, or, where many things are loaded together, all of it in one message.
+// What could not be loaded: said at once, or, where many things are loaded together, all of it in one
+// message.
 #pragma once
 
 #include "host/Dialogs.h"

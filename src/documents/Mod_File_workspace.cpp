@@ -144,18 +144,20 @@ void Activate(const Workspace& workspace) {
     DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
     const auto windows = gHost.dock->DocumentWindows();
     if (window == nullptr && !windows.empty()) {
-        windows.front()->Activate();
+        const auto front = std::find_if(windows.begin(), windows.end(),
+                                        [](const DocumentWindow* other) { return other->InFront(); });
+        (front == windows.end() ? windows.front() : *front)->Activate();
         window = gHost.dock->ActiveDocumentWindow();
     }
     MakeActive(window == nullptr ? nullptr : DocumentOf(*window));
     if (window == nullptr) return;
     if (gDocumentCalls.DocumentWindowActivated) gDocumentCalls.DocumentWindowActivated(*window);
     const frmDoc* document = ActiveForm();
-    const bool known = document == nullptr ||
-                       std::any_of(workspace.views.begin(), workspace.views.end(),
-                                   [&](const WorkspaceView& view) {
-                                       return EqualNoCase(view.path, document->FullFilename);
-                                   });
+    const bool known =
+        document == nullptr ||
+        std::any_of(workspace.views.begin(), workspace.views.end(), [&](const WorkspaceView& view) {
+            return EqualNoCase(view.path, document->FullFilename);
+        });
     if (!known && workspace.caret < Mod_Sci::GetLength()) Mod_Sci::GotoPos(workspace.caret);
 }
 

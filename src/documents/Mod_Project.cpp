@@ -65,8 +65,8 @@ void ReadFile(ClsProject& project, const std::string& line) {
     const std::string path = MemberPath(project, *file);
     if (gHost.files->Kind(path) == PathKind::None) {
         Mod_File::TellLoadFailure({" File " + path + " that is part of this project is missing " +
-                                 "\r\n This file will be removed from this project",
-                             MessageIcon::Exclamation, "File not found"});
+                                       "\r\n This file will be removed from this project",
+                                   MessageIcon::Exclamation, "File not found"});
         return;
     }
     DodajFileSorted(std::move(file), project);
@@ -87,8 +87,7 @@ void OpenMembers(ClsProject& project, bool fromWorkspace) {
     std::vector<std::string> paths;
     for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
     for (const std::string& path : paths)
-        if (!Mod_File::OpenProjectsFile(path, fromWorkspace))
-            Mod_File::TellUnloadable(path);
+        if (!Mod_File::OpenProjectsFile(path, fromWorkspace)) Mod_File::TellUnloadable(path);
     gHost.desktop->SetWaitCursor(false);
 }
 
@@ -192,13 +191,13 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             return false;
         }
         if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
-                Mod_File::TellLoadFailure(
-                    {"Some of the files in this project are already opened in Zolto as single file "
-                     "or as part of another project:\r\n" +
-                         open + "\r\nSorry, in this release you can't have same file opened multiple times",
-                     MessageIcon::Exclamation, "Project loading aborted..."});
-                return false;
-            }
+            Mod_File::TellLoadFailure(
+                {"Some of the files in this project are already opened in Zolto as single file "
+                 "or as part of another project:\r\n" +
+                     open + "\r\nSorry, in this release you can't have same file opened multiple times",
+                 MessageIcon::Exclamation, "Project loading aborted..."});
+            return false;
+        }
         gProjects.Add(project, project->FullPath);
         {
             const PipelineRest rest;
@@ -216,10 +215,10 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
 bool SaveProject(ClsProject& project) {
     return Guarded("SaveProject", "Mod_File", false, [&] {
         std::string text = std::string(Header) + "\r\n<Settings>\r\n";
-        text += BlockValue("Version", "1") + "\r\n" + BlockValue("Expanded", BlockBoolean(project.Expanded)) + "\r\n" +
-                BlockValue("Icon", project.Icon) + "\r\n" + BlockValue("MainFile", project.MainFile) + "\r\n" +
-                BlockValue("Compiler", project.Compiler) + "\r\n" + BlockValue("CommandLine", project.CommandLine) +
-                "\r\n";
+        text += BlockValue("Version", "1") + "\r\n" + BlockValue("Expanded", BlockBoolean(project.Expanded)) +
+                "\r\n" + BlockValue("Icon", project.Icon) + "\r\n" +
+                BlockValue("MainFile", project.MainFile) + "\r\n" + BlockValue("Compiler", project.Compiler) +
+                "\r\n" + BlockValue("CommandLine", project.CommandLine) + "\r\n";
         text += "</Settings>\r\n<Folders>\r\n";
         for (const auto& entry : project.Folders)
             text += BlockValue("AbsPath", entry.record->AbsPath) +
@@ -228,8 +227,10 @@ bool SaveProject(ClsProject& project) {
         for (const auto& entry : project.Files) {
             const clsFile& file = *entry.record;
             text += BlockValue("AbsPath", file.AbsPath) + BlockValue("PrjFolder", file.PrjFolder) +
-                    BlockValue("Line", std::to_string(file.Line)) + BlockValue("Column", std::to_string(file.Column)) +
-                    BlockValue("Tip", std::to_string(file.Tip)) + BlockValue("Visible", BlockBoolean(file.Visible)) + "\r\n";
+                    BlockValue("Line", std::to_string(file.Line)) +
+                    BlockValue("Column", std::to_string(file.Column)) +
+                    BlockValue("Tip", std::to_string(file.Tip)) +
+                    BlockValue("Visible", BlockBoolean(file.Visible)) + "\r\n";
         }
         text += "</Files>\r\n";
         gHost.files->Write(project.FullPath, text);

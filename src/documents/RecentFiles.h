@@ -1,5 +1,5 @@
-// The files, projects and workspaces that were open last, in lists of the menus. Each change is stored at once, so
-// that a program that dies forgets none.
+// The files, projects and workspaces that were open last, in lists of the menus. Each change is stored at
+// once, so that a program that dies forgets none.
 #pragma once
 
 #include <optional>

@@ -65,7 +65,8 @@ std::string WorkspaceText(const Workspace& workspace) {
     text += std::string("</Workspace>") + LineEnd + "<Projects>" + LineEnd;
     for (const WorkspaceEntry& entry : workspace.entries)
         if (FitsALine(entry.path))
-            text += BlockValue("Path", entry.path) + BlockValue("Single", BlockBoolean(entry.single)) + LineEnd;
+            text +=
+                BlockValue("Path", entry.path) + BlockValue("Single", BlockBoolean(entry.single)) + LineEnd;
     text += std::string("</Projects>") + LineEnd;
     if (workspace.views.empty()) return text;
     text += std::string("<Views>") + LineEnd;

@@ -151,6 +151,27 @@ void HeadlessDock::DropDocumentWindow(DocumentWindow& window) {
     windows_.erase(at);
 }
 
+std::string HeadlessDock::WindowsText() {
+    std::string text = "windows\t" + (active_ ? active_->Key() : std::string());
+    for (const auto& window : windows_) text += "\t" + window->Key() + "\t" + window->caption;
+    return text;
+}
+
+void HeadlessDock::SetWindowsText(const std::string& text) {
+    std::vector<std::string> parts;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t end = std::min(text.find('\t', from), text.size());
+        parts.push_back(text.substr(from, end - from));
+        from = end + 1;
+    }
+    if (parts.size() % 2 != 0 || parts[0] != "windows")
+        throw Failure(FailureFileAccess, "The arrangement of the windows is damaged");
+    for (std::size_t at = 2; at < parts.size(); at += 2)
+        if (!parts[at].empty() && !FindDocumentWindow(parts[at]))
+            AddDocumentWindow(parts[at], parts[at + 1], nullptr);
+    if (DocumentWindow* active = FindDocumentWindow(parts[1])) active->Activate();
+}
+
 void HeadlessDock::NextTab(int step) {
     const auto size = static_cast<int>(windows_.size());
     for (int at = 0; at < size; ++at)

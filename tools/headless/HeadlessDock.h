@@ -118,8 +118,9 @@ public:
     void NextTab(int step) override;
     void NewTabGroup(bool vertical) override { groups.push_back(vertical); }
     void MoveToTabGroup(int) override {}
-    std::string WindowsText() override { return windowsText; }
-    void SetWindowsText(const std::string& text) override { windowsText = text; }
+    // The windows alone: there are no groups here.
+    std::string WindowsText() override;
+    void SetWindowsText(const std::string& text) override;
     void SuspendRepaint(bool suspend) override { suspended += suspend ? 1 : -1; }
     void Customize() override { ++customized; }
     void RemoveFromBar(const std::string& bar, const std::string& command) override;
@@ -140,7 +141,6 @@ public:
     std::vector<std::string> shownPopups, loadedLayouts, savedLayouts;
     std::vector<std::string> missingLayouts; // loading one of these fails
     std::vector<bool> groups;
-    std::string windowsText;
     WindowPlace place;
     bool shown = false, closed = false;
     int suspended = 0, broughtToFront = 0, customized = 0, factoryTexts = 0;
