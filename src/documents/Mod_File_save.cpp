@@ -2,7 +2,9 @@
 #include "documents/Mod_File.h"
 
 #include "documents/DocumentCalls.h"
+#include "documents/Mod_File_backup.h"
 #include "documents/Mod_Project.h"
+#include "documents/Options.h"
 #include "documents/RecentFiles.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
@@ -140,6 +142,7 @@ bool SaveFile(frmDoc* document) {
         const std::string path = document->FullFilename;
         if (path.find('/') == std::string::npos) return SaveFileAs(document);
         const ActiveFor active(*document);
+        if (Options::gBackupEnabled && document->Dirty) BackupFile(path);
         const std::string block = document->IsSnippet ? std::string() : GetFileParameters();
         if (!WriteActive(path, block)) return false;
         AfterWrite(*document);

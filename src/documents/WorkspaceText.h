@@ -24,8 +24,8 @@ struct Workspace {
     std::string version = "1";
     long caret = 0;      // of the active document; 0 where there was none
     std::string windows; // the arrangement of the windows, one line without a double quote
-    std::vector<WorkspaceEntry> entries;
-    std::vector<WorkspaceView> views;
+    std::vector<WorkspaceEntry> entries = {};
+    std::vector<WorkspaceView> views = {};
     bool whole = true; // false where the text ends before its end
     bool operator==(const Workspace&) const = default;
 };

@@ -34,6 +34,8 @@ public:
     // The local date and time as the log writes them.
     virtual std::string Date() = 0;
     virtual std::string Time() = 0;
+    // A date as the user's language writes it in short.
+    virtual std::string ShortDate(int year, int month, int day) = 0;
     // Name, version and build of the operating system.
     virtual std::string OsName() = 0;
     virtual std::string OsVersion() = 0;

@@ -3,6 +3,7 @@
 
 #include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Main.h"
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
@@ -91,6 +92,32 @@ std::string ReadProject(const std::string& bytes) {
     return {};
 }
 
+// In the bytes "@" stands for the folder of the session.
+std::string ReadWorkspace(const std::string& bytes) {
+    Place place;
+    place.session.host.Put("a.bb", "a = 1\r\n");
+    place.session.host.Put("Lib/b.bb", "Function Twice(n)\r\nEnd Function\r\n");
+    place.session.host.Put("Game.zpf",
+                           "[Zolto Project file]\r\n<Files>\r\n AbsPath=\"Lib\\b.bb\"\r\n</Files>\r\n");
+    std::string text;
+    for (const char byte : bytes)
+        if (byte == '@')
+            text += place.session.host.folder;
+        else
+            text += byte;
+    const std::string again = place.session.host.Path("again.zws");
+    if (Mod_File::LoadWorkSpace(place.session.host.Put("input.zws", text))) {
+        for (const DocumentWindow* window : place.session.host.dock.DocumentWindows())
+            if (window->HostedForm() == nullptr) return "a window without a document is left";
+        const auto open = place.session.WindowKeys();
+        Mod_File::SaveWorkSpace(again);
+        if (!Mod_File::LoadWorkSpace(again)) return "what was written is no workspace";
+        if (place.session.WindowKeys() != open) return "what was written has other windows";
+    }
+    place.CloseAll();
+    return {};
+}
+
 std::string ReadStyle(const std::string& bytes) {
     Place place;
     place.session.host.Put("Styles/input.style", bytes);
@@ -173,6 +200,16 @@ std::vector<std::string> Projects() {
         "Visible=\"False\"\r\n</Files>\r\n"};
 }
 
+std::vector<std::string> Workspaces() {
+    return {"[Zolto WorkSpace File]\r\n<Settings>\r\n Version=\"1\"\r\n "
+            "CPOS=\"3\"\r\n</Settings>\r\n<Workspace>\r\n"
+            " Windows=\"windows\t@/a.bb\t@/Lib/b.bb\tb.bb\t@/a.bb\ta.bb*\"\r\n</Workspace>\r\n<Projects>\r\n"
+            " Path=\"@/a.bb\" Single=\"True\"\r\n Path=\"@/Game.zpf\" "
+            "Single=\"False\"\r\n</Projects>\r\n<Views>\r\n"
+            " Path=\"@/a.bb\" Caret=\"3\" Anchor=\"1\" Top=\"0\"\r\n"
+            " Path=\"@/Lib/b.bb\" Caret=\"20\" Anchor=\"20\" Top=\"1\"\r\n</Views>\r\n"};
+}
+
 std::vector<std::string> Built(const char* name) {
     return {QtFiles().Read(std::string(ZOLTO_APPDIR) + name)};
 }
@@ -189,6 +226,7 @@ const std::vector<Reader>& Readers() {
     static const std::vector<Reader> readers{
         {"source", ReadSource, Sources, 60},
         {"project", ReadProject, Projects, 30},
+        {"workspace", ReadWorkspace, Workspaces, 40},
         {"style", ReadStyle, [] { return Built("/Styles/Default.style"); }, 60},
         {"keywords", ReadKeywords, [] { return Built("/Conf/ZoltoBasic.lng"); }, 20},
         {"compilers", ReadCompilers, [] { return Built("/Conf/compilers.dat"); }, 30},

@@ -68,6 +68,11 @@ private:
                                              "<Files>",
                                              " AbsPath=\"",
                                              "[Zolto Project file]",
+                                             "[Zolto WorkSpace File]",
+                                             "<Views>",
+                                             "</Projects>",
+                                             " Path=\"@/a.bb\" Single=\"True\"\r\n",
+                                             " CPOS=\"",
                                              "#TRUE#",
                                              "Compiling",
                                              std::string(300, 'x'),
@@ -111,7 +116,8 @@ TEST_P(MutationTest, NothingBreaks) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Readers, MutationTest,
-                         testing::Values("source", "project", "style", "keywords", "compilers", "output"),
+                         testing::Values("source", "project", "workspace", "style", "keywords", "compilers",
+                                         "output"),
                          [](const auto& reader) { return std::string(reader.param); });
 
 }

@@ -76,9 +76,41 @@ void FakeSettings::Delete(const std::string& section, const std::string& key) {
     values.erase(Folded(section, key));
 }
 
+void FakeFiles::Try(const std::string& access) const {
+    for (const auto& [beginning, text] : failing)
+        if (access.starts_with(beginning)) throw Failure(FailureFileAccess, access.substr(1) + ": " + text);
+}
+
+std::string FakeFiles::Read(const std::string& path) {
+    Try("r" + path);
+    return QtFiles::Read(path);
+}
+
 void FakeFiles::Write(const std::string& path, std::string_view bytes) {
+    Try("w" + path);
     if (writesFail) throw Failure(FailureFileAccess, path + ": No space left on device");
     QtFiles::Write(path, bytes);
+}
+
+void FakeFiles::Remove(const std::string& path) {
+    Try("w" + path);
+    QtFiles::Remove(path);
+}
+
+void FakeFiles::Rename(const std::string& from, const std::string& to) {
+    Try("w" + from);
+    Try("w" + to);
+    QtFiles::Rename(from, to);
+}
+
+void FakeFiles::MakeFolders(const std::string& path) {
+    Try("w" + path);
+    QtFiles::MakeFolders(path);
+}
+
+std::vector<std::string> FakeFiles::List(const std::string& folder) {
+    Try("r" + folder);
+    return QtFiles::List(folder);
 }
 
 void FakeDesktop::Pump() { QCoreApplication::processEvents(); }

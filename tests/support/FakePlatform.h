@@ -25,11 +25,22 @@ public:
 
 class FakeFiles : public QtFiles {
 public:
+    std::string Read(const std::string& path) override;
     void Write(const std::string& path, std::string_view bytes) override;
+    void Remove(const std::string& path) override;
+    void Rename(const std::string& from, const std::string& to) override;
+    void MakeFolders(const std::string& path) override;
+    std::vector<std::string> List(const std::string& folder) override;
     void OpenWithDesktop(const std::string& path) override { openedWithDesktop.push_back(path); }
 
+    // What begins like a key fails with the text of it: "r" for reading, "w" for changing anything, and a
+    // path.
+    std::map<std::string, std::string> failing;
     bool writesFail = false; // with the number FailureFileAccess and the text "No space left on device"
     std::vector<std::string> openedWithDesktop;
+
+private:
+    void Try(const std::string& access) const;
 };
 
 class FakeDesktop : public Desktop {
@@ -44,8 +55,9 @@ public:
     bool ControlDown() override { return control; }
     ScreenSize Screen() override { return {1920 * 15, 1080 * 15}; }
     std::string FontFor(const std::string& name) override;
-    std::string Date() override { return "2001-02-03"; }
-    std::string Time() override { return "04:05:06"; }
+    std::string Date() override { return date; }
+    std::string Time() override { return time; }
+    std::string ShortDate(int, int, int) override { return shortDate; }
     std::string OsName() override { return "TestOS"; }
     std::string OsVersion() override { return "1.2"; }
     std::string OsBuild() override { return "3"; }
@@ -60,6 +72,7 @@ public:
 
     bool shift = false, control = false, waitCursor = false;
     int beeps = 0, locks = 0;
+    std::string date = "2001-02-03", time = "04:05:06", shortDate = "25.12.93";
 
 private:
     struct Timer {

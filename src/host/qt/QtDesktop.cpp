@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QFontDatabase>
+#include <QLocale>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
@@ -94,6 +95,9 @@ std::string QtDesktop::FontFor(const std::string& name) {
 }
 
 std::string QtDesktop::Date() { return Typed(QDate::currentDate().toString(Qt::ISODate)); }
+std::string QtDesktop::ShortDate(int year, int month, int day) {
+    return Typed(QLocale::system().toString(QDate(year, month, day), QLocale::ShortFormat));
+}
 std::string QtDesktop::Time() { return Typed(QTime::currentTime().toString(Qt::ISODate)); }
 
 std::string QtDesktop::OsName() {

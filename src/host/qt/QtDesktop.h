@@ -23,6 +23,7 @@ public:
     std::string FontFor(const std::string& name) override;
     std::string Date() override;
     std::string Time() override;
+    std::string ShortDate(int year, int month, int day) override;
     std::string OsName() override;
     std::string OsVersion() override;
     std::string OsBuild() override;

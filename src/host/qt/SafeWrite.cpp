@@ -37,7 +37,7 @@ std::string RealPath(const std::string& path) {
 
 std::string FolderOf(const std::string& path) {
     const auto separator = path.find_last_of('/');
-    return separator == path.npos ? "." : path.substr(0, separator + 1);
+    return separator == path.npos ? "./" : path.substr(0, separator + 1);
 }
 
 bool MustWriteInPlace(const std::string& path, const struct stat& status) {
@@ -112,7 +112,8 @@ mode_t NewFileMode() {
 // A new file beside the old one, complete and on the disk before it takes the old one's name.
 void WriteBeside(const std::string& path, std::string_view bytes, mode_t mode) {
     const std::string target = RealPath(path);
-    std::string name = target + ".XXXXXX";
+    // Not the target's name and something more, which could be longer than a name may be.
+    std::string name = FolderOf(target) + ".zolto-new-XXXXXX";
     FileHandle file(mkostemp(name.data(), O_CLOEXEC));
     if (!file) FailWith(errno, path);
     try {

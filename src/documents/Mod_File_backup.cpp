@@ -1,0 +1,102 @@
+// Backups: stamped with date and time, all of them kept; or numbered, the newest with 1, and a few kept.
+#include "documents/Mod_File_backup.h"
+
+#include "documents/Options.h"
+#include "host/Desktop.h"
+#include "host/ErrorLog.h"
+#include "host/Failure.h"
+#include "host/Files.h"
+#include "host/Host.h"
+#include "host/Paths.h"
+
+#include <algorithm>
+#include <charconv>
+#include <functional>
+#include <vector>
+
+namespace Mod_File {
+
+namespace {
+
+constexpr int Stamped = 1;  // gBackupType
+constexpr int InFolder = 1; // gBackupStoreType
+
+std::string StoreFolder() { return CollapseSeparators(Options::gBackupStoreFolder + "/"); }
+
+// One level only: where the folder above is missing, a disk may not be there, and the copies would lie hidden
+// below its place.
+void MakeStoreFolder(const std::string& folder) {
+    if (gHost.files->Kind(folder) == PathKind::Folder) return;
+    const std::string above = GetFolder(std::string_view(folder).substr(0, folder.size() - 1));
+    if (!above.empty() && gHost.files->Kind(above) != PathKind::Folder)
+        throw Failure(FailurePathNotFound, above + ": Path not found");
+    gHost.files->MakeFolders(folder);
+}
+
+// From the clock's year-month-day and hour:minute:second.
+std::string Stamp() {
+    const std::string date = gHost.desktop->Date();
+    const std::string time = gHost.desktop->Time();
+    const std::string year = date.substr(0, 4), month = date.substr(5, 2), day = date.substr(8, 2);
+    const bool monthFirst = gHost.desktop->ShortDate(1993, 12, 25).starts_with("12");
+    return "_" + (monthFirst ? month + "." + day : day + "." + month) + "." + year + "_" + time.substr(0, 2) +
+           "." + time.substr(3, 2) + ".bak";
+}
+
+// The numbers behind a stem that files in its folder have, the greatest first: one look into the folder,
+// because the setting may ask for more copies than could be tried one by one.
+std::vector<int> NumbersBehind(const std::string& stem) {
+    std::vector<int> numbers;
+    const std::string folder = GetFolder(stem);
+    const std::string name = GetFileName(stem);
+    for (const std::string& entry : gHost.files->List(folder.empty() ? "." : folder)) {
+        if (!entry.starts_with(name)) continue;
+        const char* end = entry.data() + entry.size();
+        int number = 0;
+        const auto read = std::from_chars(entry.data() + name.size(), end, number);
+        if (read.ec == std::errc() && read.ptr == end && entry == name + std::to_string(number))
+            numbers.push_back(number);
+    }
+    std::sort(numbers.begin(), numbers.end(), std::greater<>());
+    return numbers;
+}
+
+// Makes room for a new copy 1: each moves up by one, and the oldest goes. What cannot move stays.
+void Rotate(const std::string& stem) {
+    const auto ignoring = [](const auto& step) {
+        try {
+            step();
+        } catch (const Failure&) {
+            // An older copy that stays in the way is no reason to have no new one.
+        }
+    };
+    const int most = Options::gBackupBakIncrement;
+    const std::string oldest = stem + std::to_string(most);
+    if (gHost.files->Kind(oldest) != PathKind::Folder) ignoring([&] { gHost.files->Remove(oldest); });
+    ignoring([&] {
+        for (const int number : NumbersBehind(stem))
+            if (number >= 1 && number < most)
+                ignoring([&] {
+                    gHost.files->Rename(stem + std::to_string(number), stem + std::to_string(number + 1));
+                });
+    });
+}
+
+} // namespace
+
+void BackupFile(const std::string& path) {
+    Guarded("BackupFile", "Mod_File", [&] {
+        const bool inFolder = Options::gBackupStoreType == InFolder;
+        const std::string name = GetFileName(path);
+        const std::string folder = inFolder ? StoreFolder() : std::string();
+        // Read first: a file that cannot be read costs no older copy its place.
+        const std::string bytes = gHost.files->Read(path);
+        const bool stamped = Options::gBackupType == Stamped;
+        if (!stamped) Rotate((inFolder ? folder + name : path) + ".bak");
+        if (inFolder) MakeStoreFolder(folder);
+        // Without a folder in front the copy goes to the folder that the program runs in.
+        gHost.files->Write(folder + name + (stamped ? Stamp() : ".bak1"), bytes);
+    });
+}
+
+} // namespace Mod_File
