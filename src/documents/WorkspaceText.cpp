@@ -36,7 +36,9 @@ void ReadEntry(Workspace& workspace, const std::string& line) {
     WorkspaceEntry entry;
     std::string rest;
     if (!SplitAtPath(line, "Single", entry.path, rest)) return;
-    entry.single = IsBlockTrue(BlockAttribute(rest, "Single"));
+    const std::string single = BlockAttribute(rest, "Single");
+    if (single.empty()) return; // cut in the middle
+    entry.single = IsBlockTrue(single);
     if (std::find(workspace.entries.begin(), workspace.entries.end(), entry) == workspace.entries.end())
         workspace.entries.push_back(std::move(entry));
 }
@@ -47,7 +49,9 @@ void ReadView(Workspace& workspace, const std::string& line) {
     if (!SplitAtPath(line, "Caret", view.path, rest)) return;
     view.caret = Number(BlockAttribute(rest, "Caret"));
     view.anchor = Number(BlockAttribute(rest, "Anchor"));
-    view.top = Number(BlockAttribute(rest, "Top"));
+    const std::string top = BlockAttribute(rest, "Top");
+    if (top.empty()) return;
+    view.top = Number(top);
     workspace.views.push_back(std::move(view));
 }
 

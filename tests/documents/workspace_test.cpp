@@ -5,6 +5,7 @@
 #include "documents/Options.h"
 #include "documents/Session.h"
 #include "documents/WorkspaceText.h"
+#include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
 #include "sci/Mod_Sci.h"
 
@@ -33,7 +34,9 @@ TEST(WorkspaceTextTest, AnyPathComesBackAsItWas) {
 
 // A cut file gives a beginning of the whole one, and says that it is one.
 TEST(WorkspaceTextTest, ACutFileGivesWhatStandsInFrontOfTheCut) {
-    const std::string text = WorkspaceText(Sample);
+    Workspace whole = Sample;
+    whole.entries.erase(whole.entries.begin() + 1); // its first part looks like a whole line
+    const std::string text = WorkspaceText(whole);
     const std::size_t projectsEnd = text.find("<Views>");
     const std::string last = "</Views>\r\n";
     for (std::size_t length = text.find('\r'); length < text.size() - last.size(); ++length) {
@@ -41,9 +44,9 @@ TEST(WorkspaceTextTest, ACutFileGivesWhatStandsInFrontOfTheCut) {
         ASSERT_TRUE(workspace) << length;
         const bool atABlocksEnd = length + 2 >= projectsEnd && length < projectsEnd + 7;
         EXPECT_EQ(workspace->whole, atABlocksEnd) << length;
-        ASSERT_LE(workspace->entries.size(), Sample.entries.size());
+        ASSERT_LE(workspace->entries.size(), whole.entries.size());
         for (std::size_t at = 0; at < workspace->entries.size(); ++at)
-            EXPECT_EQ(workspace->entries[at], Sample.entries[at]) << length;
+            EXPECT_TRUE(workspace->entries[at] == whole.entries[at]) << length;
     }
 }
 
@@ -241,16 +244,20 @@ TEST_F(WorkspaceTest, TheEndWritesTheDeskAndTheStartBringsItBack) {
     EXPECT_TRUE(session.host.dock.closed);
     EXPECT_TRUE(session.WindowKeys().empty());
     session.host.settings.Save("Options", "gStartUp", "1");
-    ASSERT_TRUE(Mod_Main::Main(""));
+    const auto start = [](const std::string& commandLine) {
+        gCompilers.RemoveAll();
+        ASSERT_TRUE(Mod_Main::Main(commandLine));
+    };
+    start("");
     EXPECT_EQ(session.WindowKeys(), Keys{path});
     ExpectLook(path, 30, 30, 100);
     session.Close(path);
     session.host.files.Remove(Mod_File::LastWorkspace());
     dialogs.WillAnswer(MessageAnswer::Ok);
-    ASSERT_TRUE(Mod_Main::Main(""));
+    start("");
     EXPECT_EQ(session.LastMessage(), "No valid workspace file found !");
     const std::string other = session.host.Put("b.bb", "");
-    ASSERT_TRUE(Mod_Main::Main(other)); // a command line comes first
+    start(other); // a command line comes first
     EXPECT_EQ(session.WindowKeys(), Keys{other});
 }
 
