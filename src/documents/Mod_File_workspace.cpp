@@ -123,7 +123,7 @@ void CleanUp() {
 }
 
 // A place that the text no longer has is left out, since the file may have been changed meanwhile.
-void ShowView(const frmDoc& document, const WorkspaceView& view) {
+void ShowView(frmDoc& document, const WorkspaceView& view) {
     const auto send = [&](unsigned message, std::intptr_t w = 0, std::intptr_t l = 0) {
         return Mod_Sci::SendTo(document.SciEdi_WndData, message, w, l);
     };
@@ -131,12 +131,15 @@ void ShowView(const frmDoc& document, const WorkspaceView& view) {
     if (view.caret <= length && view.anchor <= length) send(SCI_SETSEL, view.anchor, view.caret);
     if (view.top < send(SCI_GETLINECOUNT))
         send(SCI_SETFIRSTVISIBLELINE, send(SCI_VISIBLEFROMDOCLINE, view.top));
+    // Without the focus, as all but one will be; what its first paint tells of the caret is no news.
+    document.m_oSubclass->OnKillFocus();
+    document.Callback_OldLine = static_cast<int>(send(SCI_LINEFROMPOSITION, send(SCI_GETCURRENTPOS)));
 }
 
 void ShowViews(const Workspace& workspace) {
     for (const WorkspaceView& view : workspace.views)
         if (const DocumentWindow* window = gHost.dock->FindDocumentWindow(view.path))
-            if (const frmDoc* document = DocumentOf(*window)) ShowView(*document, view);
+            if (frmDoc* document = DocumentOf(*window)) ShowView(*document, view);
 }
 
 // The window in front is so without having told of it, or it told before it had a document.
@@ -151,6 +154,7 @@ void Activate(const Workspace& workspace) {
     }
     MakeActive(window == nullptr ? nullptr : DocumentOf(*window));
     if (window == nullptr) return;
+    if (frmDoc* document = ActiveForm()) document->m_oSubclass->OnSetFocus();
     if (gDocumentCalls.DocumentWindowActivated) gDocumentCalls.DocumentWindowActivated(*window);
     const frmDoc* document = ActiveForm();
     const bool known =
