@@ -1,4 +1,5 @@
 // The Code Explorer on real edits, and navigation through several documents by the commands themselves.
+#include "ForgetFrame.h"
 #include "engine/fixture/SourceTest.h"
 
 #include "documents/DocumentCalls.h"
@@ -43,6 +44,7 @@ protected:
     }
     ~ExplorerTest() override {
         host.dock.SetEvents(nullptr);
+        ForgetFrame();
         gDocumentCalls = {};
         Pane().hide();
     }
