@@ -148,10 +148,11 @@ void cSubclass::Modified(const SciNotification& notification) {
 void cSubclass::BeforeDelete(const SciNotification& notification, int start, int end) {
     if (end - start > LongChange) BeginLongChange();
     const int edited = State().UnparsedLine;
-    // A line being edited that lies inside the range is going away and is not queued.
-    // With the whole text the view forgets every marker.
+    // A line being edited that lies inside the range is going away and is not queued. One that takes in the
+    // lines below it is parsed at once: one of them may close a function, and what waits below reads its
+    // scope off it. With the whole text the view forgets every marker.
     const bool whole = notification.length == Mod_Sci::GetLength();
-    if (edited >= 0 && (edited != start || whole))
+    if (edited >= 0 && (edited != start || whole || end > start))
         TakeBackEditedLine(whole || edited < start || edited > end);
     if (State().UnparsedLine < 0) {
         if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {

@@ -34,6 +34,13 @@ int DeriveLevel(int line) {
     return level;
 }
 
+// A closed fold whose level changes opens: the lines that it hides may belong to another one afterwards.
+void SetLevel(int line, int level) {
+    if (LevelOf(line) != (level & SC_FOLDLEVELNUMBERMASK) && !Mod_Sci::GetFoldExpanded(line))
+        Mod_Sci::EnsureVisible(line + 1);
+    Mod_Sci::SetFoldLevel(line, level);
+}
+
 } // namespace
 
 void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
@@ -41,14 +48,14 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
     if (derived) FoldLevel = DeriveLevel(line);
     if (foldDelta > 0) {
         if (functionLine) FoldLevel = TopLevel;
-        Mod_Sci::SetFoldLevel(line, FoldLevel | SC_FOLDLEVELHEADERFLAG);
+        SetLevel(line, FoldLevel | SC_FOLDLEVELHEADERFLAG);
         ++FoldLevel;
     } else if (functionLine) {
-        Mod_Sci::SetFoldLevel(line, FunctionLevel);
+        SetLevel(line, FunctionLevel);
         FoldLevel = TopLevel;
     } else {
         if (!Mod_Sci::GetLineVisible(line + 1)) Mod_Sci::EnsureVisible(line + 1);
-        Mod_Sci::SetFoldLevel(line, FoldLevel);
+        SetLevel(line, FoldLevel);
         if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
     }
     // Below an unchanged level the function may be another one all the same.
@@ -67,7 +74,7 @@ void CheckFold(int line, int level) {
         const bool opens = (markers & MaskOf(MarkerFoldOpens)) != 0;
         const bool closes = (markers & MaskOf(MarkerFoldCloses)) != 0;
         // A line that opens and closes is no fold, as in a parse.
-        Mod_Sci::SetFoldLevel(at, opens && !closes ? level | SC_FOLDLEVELHEADERFLAG : level);
+        SetLevel(at, opens && !closes ? level | SC_FOLDLEVELHEADERFLAG : level);
         if (opens && !closes) ++level;
         if (closes && !opens) level = Lowered(level);
         MarkMainProgram(at);

@@ -285,14 +285,15 @@ private:
     }
 
     // Left out: two words that open or close a scope on one line, which have no meaning that could be kept; a
-    // field in front of the beginning or the end of a type, which count for all of their line;
+    // field or a local in front of the beginning or the end of a scope, which count for all of their line;
     // and a tab inside a string, which ends it for one scanner and not for the other.
     static bool Meaningful(std::intptr_t start, std::intptr_t end, const std::string& text) {
         std::string changed = Mod_Sci::GetText();
         changed.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), text);
-        static const std::regex left(R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))"
-                                     R"(|\bfield\b[^\r\n]*\btype\b|"[^\r\n]*\t)",
-                                     std::regex::icase);
+        static const std::regex left(
+            R"((\b(function|type)\b|;\[)[^\r\n]*(\b(function|type)\b|;\[))"
+            R"(|\bfield\b[^\r\n]*\btype\b|\blocal\b[^\r\n]*\bfunction\b|"[^\r\n]*\t)",
+            std::regex::icase);
         return !std::regex_search(changed, left);
     }
 
