@@ -12,9 +12,9 @@ constexpr int MiddleLightness = 128;
 class PaletteFollower : public QObject {
 public:
     PaletteFollower() : QObject(qApp) {
-        // A desktop that has a theme of its own keeps it; the fallback serves what it lacks.
         const QString name = QIcon::themeName();
-        ownChoice_ = name.isEmpty() || name == "hicolor" || name.startsWith("breeze");
+        ownChoice_ =
+            name.isEmpty() || name == "hicolor" || name.startsWith("breeze") || !HasDevelopersIcons();
         Choose();
         qApp->installEventFilter(this);
     }
@@ -26,6 +26,17 @@ protected:
     }
 
 private:
+    // A desktop's own theme is kept where it is whole: icons of two hands on one bar look unfinished.
+    static bool HasDevelopersIcons() {
+        const QString fallback = QIcon::fallbackThemeName();
+        QIcon::setFallbackThemeName({});
+        bool all = true;
+        for (const char* name : {"document-save-all", "run-build", "debug-run", "edit-find-replace"})
+            all = all && QIcon::hasThemeIcon(name);
+        QIcon::setFallbackThemeName(fallback);
+        return all;
+    }
+
     void Choose() {
         const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < MiddleLightness;
         const QString breeze = dark ? "breeze-dark" : "breeze";

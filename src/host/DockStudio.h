@@ -67,7 +67,9 @@ class DockPane {
 public:
     virtual ~DockPane() = default;
     virtual bool Visible() const = 0;
+    // Rolled away to an edge of the window, from where it slides out on demand. It counts as visible.
     virtual bool AutoHidden() const = 0;
+    virtual void SetAutoHidden(bool autoHidden) = 0;
     virtual void Show() = 0; // and gives it the focus
     virtual void Hide() = 0;
 };
@@ -99,6 +101,10 @@ public:
                                                bool& cancel) = 0;
     virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
     virtual void DS_PaneShown(const std::string& pane, bool shown) = 0;
+    // A pane begins to be dragged, or was let go.
+    virtual void DS_PaneDragged(const std::string& /*pane*/, bool /*begins*/) {}
+    // The user begins to change commands, keys and bars, or has ended it.
+    virtual void DS_Customization(bool /*begins*/) {}
     // A shortcut is about to fire; when cancelled the key goes on to the focused widget.
     virtual void DS_ShortcutFiring(DockCommand& command, bool& cancel) = 0;
     virtual void DS_FilesDropped(const std::vector<std::string>& paths) = 0;
@@ -152,12 +158,29 @@ public:
     virtual void DropDocumentWindow(DocumentWindow& window) = 0;
     virtual void NextTab(int step) = 0; // of the active tab group
     virtual void NewTabGroup(bool vertical) = 0;
+    // Moves the active document window into the tab group behind its own (1) or before it (-1).
+    virtual void MoveToTabGroup(int step) = 0;
+
+    // The document windows with their keys, captions and groups, as one line without a double quote.
+    virtual std::string WindowsText() = 0;
+    // Makes the document windows of such a text, without forms where they aren't there yet, and puts all of
+    // them in their places. Throws a Failure and changes nothing when the text is damaged.
+    virtual void SetWindowsText(const std::string& text) = 0;
 
     virtual void SuspendRepaint(bool suspend) = 0;
 
+    // Opens the window in which the user changes keys, bars and menus. It stays open beside the main window.
+    virtual void Customize() = 0;
+    // Takes a command out of a bar or pop-up; nothing where it is not there.
+    virtual void RemoveFromBar(const std::string& bar, const std::string& command) = 0;
+
     // The whole arrangement. Loading throws a Failure and changes nothing when the file is missing or
-    // damaged; saving throws when it could not be written.
+    // damaged; saving throws when it could not be written. What is loaded first is the factory's
+    // arrangement: later ones gain what they don't know of it, and loading that file again brings back all
+    // of it.
     virtual void LoadLayout(const std::string& path) = 0;
+    // The factory's arrangement from a text, for when its file cannot be read.
+    virtual void LoadFactoryText(const std::string& text) = 0;
     virtual void SaveLayout(const std::string& path) = 0;
 
     virtual WindowPlace Place() = 0;

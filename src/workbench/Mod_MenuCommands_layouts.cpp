@@ -1,17 +1,21 @@
 // Layouts: an arrangement in a file below AppDir, and the window's place in a section of the settings store.
 #include "workbench/Mod_MenuCommands.h"
 
+#include "documents/RecentFiles.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
+#include "host/Failure.h"
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
+#include "workbench/FactoryLayout.h"
 #include "workbench/frmMain.h"
 
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <string>
 
 namespace {
@@ -28,12 +32,12 @@ int Stored(const std::string& section, const char* key, int byDefault) {
 }
 
 // Loads an arrangement while nothing is painted, and brings it up to date.
-void LoadArrangement(const std::string& path) {
+void LoadArrangement(const std::function<void()>& load) {
     struct Lock {
         Lock() { gHost.desktop->LockWindowUpdate(true); }
         ~Lock() { gHost.desktop->LockWindowUpdate(false); }
     } lock;
-    gHost.dock->LoadLayout(path);
+    load();
     frmMain& main = frmMain::Instance();
     main.AdditionalUISetup();
     main.AddDockForms(false);
@@ -62,13 +66,17 @@ void Mod_MenuCommands::SaveAsLayout(int number) {
 void Mod_MenuCommands::SwitchToLayout(int number) {
     Guarded("SwitchToLayout", "Mod_MenuCommands", [number] {
         const std::string path = LayoutPath(number);
-        if (gHost.files->Kind(path) != PathKind::File) {
+        try {
+            if (gHost.files->Kind(path) != PathKind::File)
+                throw Failure(FailureFileNotFound, path + ": not there");
+            LoadArrangement([&] { gHost.dock->LoadLayout(path); });
+        } catch (const Failure&) {
+            // Nothing was changed: an arrangement is read whole before anything of it is used.
             gHost.dialogs->Show({.text = "Layout" + std::to_string(number) +
                                          " is not created yet or is incorrect UI version !",
                                  .icon = MessageIcon::Exclamation});
             return;
         }
-        LoadArrangement(path);
         const std::string section = LayoutName(number);
         WindowPlace place = gHost.dock->Place();
         place.state = Stored(section, "MainState", Normal);
@@ -90,6 +98,9 @@ void Mod_MenuCommands::ResetLayout() {
              .icon = MessageIcon::Question,
              .title = "Zolto - Reset Layout",
              .buttons = MessageButtons::YesNo});
-        if (answer == MessageAnswer::Yes) LoadArrangement(AppPath("Layout.mp"));
+        if (answer != MessageAnswer::Yes) return;
+        Mod_File::SaveRecentFilesProjects();
+        LoadArrangement(LoadFactoryLayout);
+        Mod_File::LoadRecentFilesProjects();
     });
 }

@@ -243,6 +243,9 @@ const std::vector<RoutedCommand>& Routes() {
         {"Refresh Snippets", nullptr},
         {"Edit As File", nullptr},
         {"Stop Program", [](const Click&) { Mod_Compiler::StopRunning(); }},
+        {"Customize", [](const Click&) { gHost.dock->Customize(); }},
+        {"Move To Next Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(1); }},
+        {"Move To Previous Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(-1); }},
     };
     return table;
 }

@@ -18,8 +18,22 @@
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
+#include "workbench/FactoryLayout.h"
 #include "workbench/frmMainList.h"
 #include "workbench/frmOutput.h"
+
+namespace {
+
+constexpr struct {
+    const char* pane;
+    const char* command;
+} PaneToggles[] = {{"Projects", "Projects Manager"},
+                   {"FileExplorer", "File Explorer"},
+                   {"Output", "Output Window"},
+                   {"Snippets", "Snippets Manager"},
+                   {"CodeExplorer", "Code Explorer"}};
+
+}
 
 frmMain& frmMain::Instance() {
     static frmMain window;
@@ -30,7 +44,7 @@ void frmMain::Form_Load() {
     Guarded("Form_Load", "frmMain", [this] {
         gHost.settings->Save("Instance", "Handle", gHost.instances->Publish(Mod_Main::TextReceived));
         gHost.dock->SetEvents(this);
-        gHost.dock->LoadLayout(AppPath("Layout.mp"));
+        LoadFactoryLayout();
         try {
             gHost.dock->LoadLayout(AppPath("Layouts\\Layout0.8_0.mp"));
         } catch (const Failure&) {
@@ -102,6 +116,10 @@ void frmMain::AddDockForms(bool addNew) {
     Guarded("AddDockForms", "frmMain", [&] {
         AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew);
         AttachDockForm("CodeExplorer", "Code Explorer", "view-list-tree", frmMainList::Instance(), addNew);
+        // A pane that is not there cannot be shown.
+        for (const auto& toggle : PaneToggles)
+            if (DockCommand* command = gHost.dock->FindCommand(toggle.command))
+                command->SetVisible(gHost.dock->FindPane(toggle.pane) != nullptr);
     });
 }
 
@@ -127,17 +145,16 @@ void frmMain::DS_ComboTextChanged(DockCommand&) {}
 void frmMain::DS_ComboTextCommitted(DockCommand& command) { DS_CommandClick(command, -1); }
 
 void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
-    static constexpr struct {
-        const char* pane;
-        const char* command;
-    } Toggles[] = {{"Projects", "Projects Manager"},
-                   {"FileExplorer", "File Explorer"},
-                   {"Output", "Output Window"},
-                   {"Snippets", "Snippets Manager"},
-                   {"CodeExplorer", "Code Explorer"}};
-    for (const auto& toggle : Toggles)
+    for (const auto& toggle : PaneToggles)
         if (pane == toggle.pane)
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
+}
+
+// The context menu of the text stands in the menu bar for as long as the user can edit it there.
+void frmMain::DS_Customization(bool begins) {
+    if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);
+    gHost.dock->RemoveFromBar("MainMenu", "PopupMenu1");
+    ApplyCommandsAutoRepeat();
 }
 
 void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {

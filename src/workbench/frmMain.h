@@ -60,6 +60,7 @@ public:
                                        bool& cancel) override;
     void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) override;
     void DS_PaneShown(const std::string& pane, bool shown) override;
+    void DS_Customization(bool begins) override;
     void DS_ShortcutFiring(DockCommand& command, bool& cancel) override;
     void DS_FilesDropped(const std::vector<std::string>& paths) override;
     void DS_QueryUnload(bool& cancel) override;

@@ -5,6 +5,7 @@
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Host.h"
+#include "workbench/Mod_MenuCommands.h"
 
 namespace {
 
@@ -47,6 +48,14 @@ void AddMissingCommands() {
         InsertBehind("Settings", "Edit HotCodes", "External Tools");
 }
 
+// A command without a routine would be a promise, wherever an arrangement puts it.
+void HideUnbuiltCommands() {
+    for (const auto& route : Mod_MenuCommands::Routes()) {
+        DockCommand* command = gHost.dock->FindCommand(std::string(route.name));
+        if (command) command->SetVisible(route.run != nullptr);
+    }
+}
+
 }
 
 void frmMain::AdditionalUISetup() {
@@ -63,6 +72,7 @@ void frmMain::AdditionalUISetup() {
         ShowProgressPane(false);
         ApplyCommandsAutoRepeat();
         AddMissingCommands();
+        HideUnbuiltCommands();
         for (const char* pane : {"Projects", "FileExplorer", "Output", "Snippets", "CodeExplorer"})
             if (DockPane* found = dock.FindPane(pane)) DS_PaneShown(pane, found->Visible());
         DockBar* status = dock.FindBar("StatusBar");

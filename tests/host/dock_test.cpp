@@ -5,7 +5,9 @@
 #include "support/FakeHost.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -54,6 +56,10 @@ struct Recorder : DockStudioEvents {
     void DS_PaneShown(const std::string& pane, bool shown) override {
         events.push_back("pane " + pane + (shown ? " on" : " off"));
     }
+    void DS_PaneDragged(const std::string& pane, bool begins) override {
+        events.push_back((begins ? "drag " : "let go ") + pane);
+    }
+    void DS_Customization(bool begins) override { events.push_back(begins ? "customize" : "customized"); }
     void DS_ShortcutFiring(DockCommand&, bool& cancel) override { cancel = cancelShortcut; }
     void DS_FilesDropped(const std::vector<std::string>&) override {}
     void DS_QueryUnload(bool& cancel) override {
@@ -96,6 +102,8 @@ TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
     EXPECT_EQ(Take(), (Events{"activate a", "create b", "leave a", "activate b"}));
     EXPECT_TRUE(second.InFront());
     EXPECT_FALSE(first.InFront());
+    second.SetCaption("b.bb*");
+    EXPECT_EQ(dock.Window().windowTitle(), "b.bb* - Zolto");
     EXPECT_THROW(dock.AddDocumentWindow("A", "again", &c), Failure);
 
     recorder.cancelHiding = true;
@@ -110,8 +118,10 @@ TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
     EXPECT_EQ(Take(), (Events{"hiding b", "leave b", "hidden b", "activate a"}));
     EXPECT_EQ(dock.FindDocumentWindow("b"), nullptr);
     EXPECT_EQ(dock.ActiveDocumentWindow(), &first);
+    EXPECT_EQ(dock.Window().windowTitle(), "a.bb - Zolto");
     first.SetVisible(false);
     EXPECT_EQ(dock.ActiveDocumentWindow(), nullptr);
+    EXPECT_EQ(dock.Window().windowTitle(), "Zolto");
 }
 
 TEST_F(DockTest, GroupsHaveFrontsOfTheirOwnAndVanishWhenEmpty) {
@@ -195,6 +205,42 @@ TEST_F(DockTest, ClosingTheWindowAsks) {
     dock.CloseWindow();
     EXPECT_EQ(Take(), Events{"close?"});
     EXPECT_TRUE(dock.Window().isVisible());
+}
+
+// A pane that is rolled away slides out on demand and gives the focus back to the text.
+TEST_F(DockTest, ARolledPaneSlidesOutByCommandAndBackByEscape) {
+    QPlainTextEdit text;
+    struct TextForm : Form {
+        explicit TextForm(QWidget& shown) : widget(shown) {}
+        void* NativeWidget() override { return &widget; }
+        QWidget& widget;
+    } form(text);
+    dock.AttachPane("Output", "Output", "", form, true);
+    dock.AddDocumentWindow("a", "a", &a).Activate();
+    DockPane& pane = *dock.FindPane("Output");
+    ASSERT_TRUE(pane.Visible());
+    Take();
+    pane.SetAutoHidden(true);
+    EXPECT_TRUE(pane.Visible()); // its tab is
+    EXPECT_TRUE(pane.AutoHidden());
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_EQ(Take(), Events{}); // it was neither shown nor closed
+    QWidget* editor = QApplication::focusWidget();
+    pane.Show();
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &text);
+    QTest::keyClick(&text, Qt::Key_Escape);
+    QTest::qWait(300);
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), editor);
+    pane.Hide();
+    EXPECT_FALSE(pane.Visible());
+    pane.Show(); // back at its edge, and out
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_EQ(Take(), (Events{"pane Output off", "pane Output on"}));
+    pane.SetAutoHidden(false);
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_TRUE(qobject_cast<QDockWidget*>(text.parentWidget()));
 }
 
 }

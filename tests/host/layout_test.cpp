@@ -102,4 +102,17 @@ TEST_F(LayoutTest, CommandsAreAddedOnceAndWhereTheyBelong) {
     }
 }
 
+// The file of the factory is damaged and its text comes from elsewhere: the next file is still the user's.
+TEST_F(LayoutTest, WithoutTheFactorysFileAUsersFileDoesNotTakeItsPlace) {
+    QtDockStudio dock;
+    EXPECT_THROW(dock.LoadLayout(host.Put("Layout.mp", "damaged")), Failure);
+    dock.LoadFactoryText(WriteLayout(Small()));
+    Layout old = Small();
+    old.commands.erase(old.commands.begin() + 2); // it knows no Exit
+    old.commands[0].entries.pop_back();
+    old.bars[1].entries = {};
+    dock.LoadLayout(host.Put("user.mp", WriteLayout(old)));
+    EXPECT_NE(dock.FindCommand("Exit"), nullptr);
+}
+
 }

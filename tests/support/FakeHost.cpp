@@ -19,6 +19,7 @@ FakeHost::FakeHost() : oldAppDir_(AppDir()) {
     gShowErrorDialog = nullptr;
     gCountOpenFiles = nullptr;
     gErrorDialogShown = false;
+    dock.showsForms = true;
 }
 
 FakeHost::~FakeHost() {

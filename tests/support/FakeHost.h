@@ -1,8 +1,8 @@
 // The whole platform for one test: a folder of its own as AppDir, and every service scripted or in memory.
 #pragma once
 
+#include "HeadlessDock.h"
 #include "support/FakeDialogs.h"
-#include "support/FakeDock.h"
 #include "support/FakePlatform.h"
 
 #include <string>
@@ -34,7 +34,7 @@ public:
     FakeDesktop desktop;
     FakeInstances instances;
     FakeViews views;
-    FakeDock dock;
+    HeadlessDock dock;
 
 private:
     std::string oldAppDir_;

@@ -1,4 +1,5 @@
 // The commands by their names: what the table and the default arrangement have to agree on.
+#include "ForgetFrame.h"
 #include "app/wire_up.h"
 #include "engine/ParserState.h"
 #include "host/Files.h"
@@ -7,10 +8,12 @@
 #include "host/qt/Layout.h"
 #include "host/qt/QtCommand.h"
 #include "support/FakeHost.h"
+#include "workbench/FactoryLayout.h"
 #include "workbench/Mod_MenuCommands.h"
 #include "workbench/frmMain.h"
 
 #include <QKeySequence>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -167,7 +170,10 @@ const std::vector<std::string> Names{"New Line",
                                      "New Snippet",
                                      "Refresh Snippets",
                                      "Edit As File",
-                                     "Stop Program"};
+                                     "Stop Program",
+                                     "Customize",
+                                     "Move To Next Tab Group",
+                                     "Move To Previous Tab Group"};
 
 Layout DefaultLayout() {
     return ParseLayout(QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/data/Layout.mp"));
@@ -206,17 +212,36 @@ TEST(CommandsTest, NoKeyIsTakenTwiceAndEveryKeyIsOne) {
     }
 }
 
-// Every entry of a shown menu does something: an entry without a routine would be a promise.
-TEST(CommandsTest, MenusOfferOnlyWhatWorks) {
+// Whoever looks for a command finds it in a menu or on a bar.
+TEST(CommandsTest, EveryCommandHasAPlace) {
     const Layout layout = DefaultLayout();
-    std::set<std::string> working;
-    for (const auto& route : Mod_MenuCommands::Routes())
-        if (route.run) working.emplace(route.name);
-    for (const LayoutCommand& command : layout.commands)
-        if (command.kind != CommandKind::Item) working.insert(command.name);
-    for (const LayoutCommand& command : layout.commands)
-        for (const LayoutEntry& entry : command.entries)
-            EXPECT_EQ(working.count(entry.command), 1u) << command.name << ": " << entry.command;
+    const auto placed = PlacedCommands(layout);
+    for (const std::string& name : Names)
+        EXPECT_NE(std::find(placed.begin(), placed.end(), name), placed.end()) << name;
+}
+
+TEST(CommandsTest, NoMnemonicStandsTwiceInAMenu) {
+    const Layout layout = DefaultLayout();
+    std::map<std::string, std::string> captions;
+    for (const LayoutCommand& command : layout.commands) captions[command.name] = command.caption;
+    const auto check = [&](const std::string& menu, const LayoutEntries& entries) {
+        std::map<char, std::string> taken;
+        for (const LayoutEntry& entry : entries) {
+            const std::string& caption = captions[entry.command];
+            const auto mark = caption.find('&');
+            if (mark == caption.npos) continue;
+            const auto letter = static_cast<char>(std::tolower(caption[mark + 1]));
+            EXPECT_EQ(taken.count(letter), 0u) << menu << ": " << taken[letter] << " and " << caption;
+            taken[letter] = caption;
+        }
+    };
+    for (const LayoutCommand& command : layout.commands) check(command.name, command.entries);
+    for (const LayoutBar& bar : layout.bars)
+        if (bar.kind == BarKind::Menu) check(bar.name, bar.entries);
+}
+
+TEST(CommandsTest, TheBuiltInArrangementIsTheInstalledOne) {
+    EXPECT_EQ(ParseLayout(FactoryLayoutText()), DefaultLayout());
 }
 
 struct RoutingTest : testing::Test {
@@ -225,7 +250,10 @@ struct RoutingTest : testing::Test {
         for (const std::string& name : Names) host.dock.Make(name, "File");
         host.dock.SetEvents(&frmMain::Instance());
     }
-    void TearDown() override { host.dock.SetEvents(nullptr); }
+    void TearDown() override {
+        host.dock.SetEvents(nullptr);
+        ForgetFrame();
+    }
     void Click(const char* name) { frmMain::Instance().DS_CommandClick(*host.dock.FindCommand(name), -1); }
 };
 
@@ -252,14 +280,14 @@ TEST_F(RoutingTest, CommandsThatNeedADocumentDoNothingWithoutOne) {
 }
 
 TEST_F(RoutingTest, PanesToggleAndTheirMarksFollow) {
-    host.dock.panes["Output"] = std::make_unique<FakePane>(host.dock, "Output");
+    host.dock.panes["Output"] = std::make_unique<HeadlessPane>(host.dock, "Output");
     DockPane& pane = *host.dock.FindPane("Output");
     Click("Output Window");
     EXPECT_FALSE(pane.Visible());
     Click("Output Window");
     EXPECT_TRUE(pane.Visible());
     EXPECT_TRUE(host.dock.FindCommand("Output Window")->Checked());
-    static_cast<FakePane&>(pane).autoHidden = true;
+    static_cast<HeadlessPane&>(pane).autoHidden = true;
     Click("Output Window"); // shown, but rolled away: it comes out instead of closing
     EXPECT_TRUE(pane.Visible());
     Click("Projects Manager"); // a pane that isn't there
@@ -300,8 +328,32 @@ TEST_F(RoutingTest, LayoutsKeepArrangementAndPlace) {
     EXPECT_EQ(host.dock.savedLayouts.size(), 1u);
 }
 
+TEST_F(RoutingTest, WhatHasNoRoutineIsNotOffered) {
+    host.dock.FindCommand("Undo")->SetVisible(false); // as an arrangement of an older program may have it
+    frmMain::Instance().AdditionalUISetup();
+    for (const auto& route : Mod_MenuCommands::Routes()) {
+        const bool visible = host.dock.FindCommand(std::string(route.name))->Visible();
+        EXPECT_EQ(visible, route.run != nullptr) << route.name;
+    }
+    EXPECT_TRUE(host.dock.FindCommand("Undo")->Visible());
+    EXPECT_FALSE(host.dock.FindCommand("Add Folder With Files")->Visible());
+}
+
+TEST_F(RoutingTest, ADamagedLayoutIsToldAndChangesNothing) {
+    host.Put("Layouts/Layout0.8_3.mp", "damaged");
+    host.dock.missingLayouts = {host.Path("Layouts/Layout0.8_3.mp"), host.Path("Layout.mp")};
+    host.dialogs.WillAnswer(MessageAnswer::Ok);
+    Click("SwitchToLayout3");
+    EXPECT_EQ(host.dialogs.messages.back().text, "Layout3 is not created yet or is incorrect UI version !");
+    host.dialogs.WillAnswer(MessageAnswer::Yes);
+    host.dialogs.WillAnswer(MessageAnswer::Ok);
+    Click("ResetLayout"); // the factory's own file is gone: the built-in text stands in for it
+    EXPECT_EQ(host.dock.factoryTexts, 1);
+    EXPECT_EQ(host.desktop.locks, 0);
+}
+
 TEST_F(RoutingTest, AnOlderArrangementIsBroughtUpToDateOnce) {
-    FakeDock old;
+    HeadlessDock old;
     gHost.dock = &old;
     old.Make("Save File As", "Sci");
     old.entries["File"] = {"Save File As", "Exit"};

@@ -1,4 +1,5 @@
 // The Code Explorer on real edits, and navigation through several documents by the commands themselves.
+#include "ForgetFrame.h"
 #include "engine/fixture/SourceTest.h"
 
 #include "documents/DocumentCalls.h"
@@ -28,7 +29,7 @@ using Texts = std::vector<std::string>;
 class ExplorerTest : public SourceTest {
 protected:
     ExplorerTest() {
-        host.dock.panes["CodeExplorer"] = std::make_unique<FakePane>(host.dock, "CodeExplorer");
+        host.dock.panes["CodeExplorer"] = std::make_unique<HeadlessPane>(host.dock, "CodeExplorer");
         for (const char* name : {"Functions", "Globals", "Goto Declaration", "Goto Previous Position",
                                  "Goto Next Position", "Next Bookmark", "Previous Bookmark", "Goto Line"})
             host.dock.Make(name, "View");
@@ -43,6 +44,7 @@ protected:
     }
     ~ExplorerTest() override {
         host.dock.SetEvents(nullptr);
+        ForgetFrame();
         gDocumentCalls = {};
         Pane().hide();
     }

@@ -1,61 +1,107 @@
-// The document windows of a run without a main window.
+// The frame of the main window without a window.
 #include "HeadlessDock.h"
 
-#include "host/Desktop.h"
 #include "host/Failure.h"
-#include "host/Host.h"
 #include "host/Paths.h"
 
+#include <QWidget>
 #include <algorithm>
+#include <cstdio>
 
-class HeadlessDock::Window : public DocumentWindow {
-public:
-    Window(HeadlessDock& dock, std::string key, std::string caption)
-        : dock_(dock), key_(std::move(key)), caption_(std::move(caption)) {}
+HeadlessDocumentWindow::~HeadlessDocumentWindow() = default;
 
-    std::string Key() const override { return key_; }
-    void SetKey(const std::string& key) override { key_ = key; }
-    void SetCaption(const std::string& caption) override { caption_ = caption; }
-    Form* HostedForm() const override { return form_; }
-    void Attach(Form* form) override { form_ = form; }
-    bool Visible() const override { return visible_; }
-    void SetVisible(bool visible) override {
-        if (!visible && visible_ && form_ != nullptr && dock_.Hiding && !dock_.Hiding(*form_)) return;
-        visible_ = visible;
-        if (visible)
-            Activate();
-        else
-            dock_.DropDocumentWindow(*this);
+void HeadlessDocumentWindow::Attach(Form* form) {
+    form_ = form;
+    if (form && dock_.showsForms) static_cast<QWidget*>(form->NativeWidget())->show();
+}
+
+void HeadlessDocumentWindow::SetVisible(bool visible) {
+    if (visible) {
+        visible_ = true;
+        Activate();
+    } else {
+        dock_.Hide(*this);
     }
-    void Activate() override {
-        dock_.active_ = this;
-        if (form_ != nullptr && dock_.Activated) dock_.Activated(*form_);
-    }
-    bool InFront() const override { return dock_.active_ == this; }
+}
 
-private:
-    HeadlessDock& dock_;
-    std::string key_;
-    std::string caption_;
-    Form* form_ = nullptr;
-    bool visible_ = false;
-};
+void HeadlessDocumentWindow::Activate() { dock_.SetActive(this); }
 
-HeadlessDock::HeadlessDock() = default;
-HeadlessDock::~HeadlessDock() = default;
+bool HeadlessDocumentWindow::InFront() const { return dock_.active_ == this; }
 
-DockCommand& HeadlessDock::AddCommand(const std::string& name, const std::string&, const std::string&, bool) {
-    throw Failure(FailureOutOfRange, "No commands without a window: " + name);
+void HeadlessPane::Set(bool visible) {
+    if (visible_ == visible) return;
+    visible_ = visible;
+    if (dock_.events) dock_.events->DS_PaneShown(name_, visible);
+}
+
+HeadlessCommand& HeadlessDock::Make(const std::string& name, const std::string& category) {
+    commands_.push_back(std::make_unique<HeadlessCommand>(name, name, category));
+    return *commands_.back();
+}
+
+DockCommand* HeadlessDock::FindCommand(const std::string& name) {
+    for (const auto& command : commands_)
+        if (command->Name() == name) return command.get();
+    return nullptr;
+}
+
+DockCommand& HeadlessDock::AddCommand(const std::string& name, const std::string& caption,
+                                      const std::string& category, bool isPopup) {
+    if (FindCommand(name)) throw Failure(FailureDuplicateKey, "The command exists already");
+    if (isPopup) entries[name];
+    commands_.push_back(std::make_unique<HeadlessCommand>(name, caption, category));
+    return *commands_.back();
+}
+
+std::vector<DockCommand*> HeadlessDock::Commands() {
+    std::vector<DockCommand*> all;
+    for (const auto& command : commands_) all.push_back(command.get());
+    return all;
+}
+
+int HeadlessDock::IndexInBar(const std::string& bar, const std::string& command) {
+    const auto& names = entries[bar];
+    const auto at = std::find(names.begin(), names.end(), command);
+    return at == names.end() ? -1 : static_cast<int>(at - names.begin());
+}
+
+void HeadlessDock::InsertIntoBar(const std::string& bar, const std::string& command, int index, bool) {
+    auto& names = entries[bar];
+    const auto size = static_cast<int>(names.size());
+    names.insert(names.begin() + (index < 0 || index > size ? size : index), command);
+}
+
+void HeadlessDock::RemoveFromBar(const std::string& bar, const std::string& command) {
+    std::erase(entries[bar], command);
+}
+
+DockBar* HeadlessDock::FindBar(const std::string& name) {
+    const auto at = bars.find(name);
+    return at == bars.end() ? nullptr : &at->second;
+}
+
+DockPane* HeadlessDock::FindPane(const std::string& name) {
+    const auto at = panes.find(name);
+    return at == panes.end() ? nullptr : at->second.get();
+}
+
+void HeadlessDock::AttachPane(const std::string& name, const std::string&, const std::string&, Form&,
+                              bool addNew) {
+    if (addNew && !FindPane(name)) panes[name] = std::make_unique<HeadlessPane>(*this, name);
 }
 
 DocumentWindow& HeadlessDock::AddDocumentWindow(const std::string& key, const std::string& caption,
                                                 Form* form) {
-    if (!key.empty() && FindDocumentWindow(key) != nullptr)
+    if (!key.empty() && FindDocumentWindow(key))
         throw Failure(FailureDuplicateKey, "A document window has this key already");
-    windows_.push_back(
-        std::make_unique<Window>(*this, key.empty() ? gHost.desktop->UniqueId() : key, caption));
-    windows_.back()->Attach(form);
-    return *windows_.back();
+    char unique[64];
+    std::snprintf(unique, sizeof unique, "{11111111-0000-0000-0000-%012d}", ++lastKey_);
+    windows_.push_back(std::make_unique<HeadlessDocumentWindow>(*this, key.empty() ? unique : key));
+    HeadlessDocumentWindow& window = *windows_.back();
+    window.caption = caption;
+    window.Attach(form);
+    if (events) events->DS_DocumentWindowActivate(window, true);
+    return window;
 }
 
 DocumentWindow* HeadlessDock::FindDocumentWindow(const std::string& key) {
@@ -64,15 +110,62 @@ DocumentWindow* HeadlessDock::FindDocumentWindow(const std::string& key) {
     return nullptr;
 }
 
-DocumentWindow* HeadlessDock::ActiveDocumentWindow() { return active_; }
-
 std::vector<DocumentWindow*> HeadlessDock::DocumentWindows() {
     std::vector<DocumentWindow*> all;
     for (const auto& window : windows_) all.push_back(window.get());
     return all;
 }
 
+void HeadlessDock::SetActive(HeadlessDocumentWindow* window) {
+    if (window == active_) return;
+    HeadlessDocumentWindow* old = active_;
+    active_ = window;
+    if (!events) return;
+    if (old) events->DS_DocumentWindowDeactivate(*old);
+    if (active_ && active_ == window) events->DS_DocumentWindowActivate(*active_, false);
+}
+
+void HeadlessDock::Hide(HeadlessDocumentWindow& window) {
+    if (!window.visible_) return;
+    bool cancel = false;
+    if (events) events->DS_DocumentWindowHiding(window, cancel);
+    if (cancel) return;
+    const bool wasActive = active_ == &window;
+    if (wasActive && events) events->DS_DocumentWindowDeactivate(window);
+    window.visible_ = false;
+    if (wasActive) active_ = nullptr;
+    if (events) events->DS_DocumentWindowHidden(window);
+    if (!wasActive || active_) return;
+    for (const auto& left : windows_)
+        if (left->visible_) return SetActive(left.get());
+}
+
 void HeadlessDock::DropDocumentWindow(DocumentWindow& window) {
+    const auto at = std::find_if(windows_.begin(), windows_.end(),
+                                 [&](const auto& owned) { return owned.get() == &window; });
+    if (at == windows_.end()) return;
     if (active_ == &window) active_ = nullptr;
-    std::erase_if(windows_, [&](const auto& entry) { return entry.get() == &window; });
+    (*at)->visible_ = false;
+    (*at)->form_ = nullptr;
+    dropped_.push_back(std::move(*at));
+    windows_.erase(at);
+}
+
+void HeadlessDock::NextTab(int step) {
+    const auto size = static_cast<int>(windows_.size());
+    for (int at = 0; at < size; ++at)
+        if (windows_[static_cast<std::size_t>(at)].get() == active_)
+            return windows_[static_cast<std::size_t>((at + step + size) % size)]->Activate();
+}
+
+void HeadlessDock::LoadLayout(const std::string& path) {
+    if (std::find(missingLayouts.begin(), missingLayouts.end(), path) != missingLayouts.end())
+        throw Failure(FailureFileNotFound, path + ": No such file or directory");
+    loadedLayouts.push_back(path);
+}
+
+void HeadlessDock::CloseWindow() {
+    bool cancel = false;
+    if (events) events->DS_QueryUnload(cancel);
+    closed = !cancel;
 }

@@ -42,15 +42,22 @@ MessageAnswer QuietDialogs::Show(const Message& message) {
     return asks ? MessageAnswer::Yes : MessageAnswer::Ok;
 }
 
+void DocumentEvents::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
+    if (!creating && window.HostedForm()) MakeActive(static_cast<frmDoc*>(window.HostedForm()));
+}
+
+void DocumentEvents::DS_DocumentWindowHidden(DocumentWindow& window) {
+    auto* document = static_cast<frmDoc*>(window.HostedForm());
+    window.Attach(nullptr);
+    if (document) UnloadDocument(document);
+    gHost.dock->DropDocumentWindow(window);
+}
+
 HeadlessHost::HeadlessHost(const std::string& appDir) : application_(OffscreenArguments(), arguments) {
     settings_ = std::make_unique<QtSettingsStore>((folder_.path() + "/settings.ini").toStdString());
     SetAppDir(appDir);
     gHost = {&dialogs_, &files_, settings_.get(), &processes_, &desktop_, nullptr, &views_, &dock};
-    dock.Activated = [](Form& form) { MakeActive(static_cast<frmDoc*>(&form)); };
-    dock.Hiding = [](Form& form) {
-        UnloadDocument(static_cast<frmDoc*>(&form));
-        return true;
-    };
+    dock.SetEvents(&events_);
     gShowErrorDialog = [] {
         std::fprintf(stderr, "failure: %s %s: %d %s\n", gLastError.fileName.c_str(),
                      gLastError.methodName.c_str(), gLastError.number, gLastError.description.c_str());
@@ -58,6 +65,7 @@ HeadlessHost::HeadlessHost(const std::string& appDir) : application_(OffscreenAr
 }
 
 HeadlessHost::~HeadlessHost() {
+    dock.SetEvents(nullptr);
     gProjects.RemoveAll();
     gCompilers.RemoveAll();
     gActiveCompiler.reset();

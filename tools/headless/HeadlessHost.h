@@ -27,6 +27,25 @@ public:
     }
 };
 
+// What the main window does about documents, and no more of it.
+class DocumentEvents : public DockStudioEvents {
+public:
+    void DS_CommandClick(DockCommand&, int) override {}
+    void DS_ComboTextChanged(DockCommand&) override {}
+    void DS_ComboTextCommitted(DockCommand&) override {}
+    void DS_DocumentWindowActivate(DocumentWindow& window, bool creating) override;
+    void DS_DocumentWindowDeactivate(DocumentWindow&) override {}
+    void DS_DocumentWindowHiding(DocumentWindow&, bool&) override {}
+    void DS_DocumentWindowHidden(DocumentWindow& window) override;
+    void DS_DocumentWindowContextClick(DocumentWindow&, int, int, int, bool&) override {}
+    void DS_DocumentWindowDoubleClick(DocumentWindow&, int) override {}
+    void DS_PaneShown(const std::string&, bool) override {}
+    void DS_ShortcutFiring(DockCommand&, bool&) override {}
+    void DS_FilesDropped(const std::vector<std::string>&) override {}
+    void DS_QueryUnload(bool&) override {}
+    void DS_Resize() override {}
+};
+
 class HeadlessHost {
 public:
     // Starts the toolkit on the offscreen platform. `appDir`: the program directory to use.
@@ -42,6 +61,7 @@ public:
     HeadlessDock dock;
 
 private:
+    DocumentEvents events_;
     QTemporaryDir folder_;
     QApplication application_;
     QuietDialogs dialogs_;

@@ -46,6 +46,14 @@ void CommandTable::Fire(QtCommand& command, int item) const {
     if (events && command.Enabled()) events->DS_CommandClick(command, item);
 }
 
+QtCommand* CommandTable::OwnerOf(QKeyCombination key) const {
+    for (const auto& command : commands_) {
+        const auto& keys = command->Shortcuts();
+        if (std::find(keys.begin(), keys.end(), key) != keys.end()) return command.get();
+    }
+    return nullptr;
+}
+
 QtCommand* CommandTable::OfKey(QKeyCombination key) const {
     for (const auto& command : commands_) {
         const auto& keys = command->Shortcuts();

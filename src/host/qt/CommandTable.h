@@ -21,6 +21,9 @@ public:
     // The enabled command of a key, null where there is none.
     QtCommand* OfKey(QKeyCombination key) const;
 
+    // The command that has a key, enabled or not; null where none has it.
+    QtCommand* OwnerOf(QKeyCombination key) const;
+
     DockStudioEvents* events = nullptr; // written by the frame alone
 
 private:

@@ -63,6 +63,7 @@ CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* par
     setInsertPolicy(QComboBox::NoInsert);
     setMinimumWidth(record.width > 0 ? record.width : 160);
     setAccessibleName(command.PlainCaption());
+    setProperty("command", Shown(record.name));
     setToolTip(command.PlainCaption());
     setFocusPolicy(isEditable() ? Qt::StrongFocus : Qt::ClickFocus);
     if (isEditable()) {

@@ -135,6 +135,8 @@ QMimeData* EditorWidget::toMimeData(const QByteArray& text, bool rectangular) co
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event) { event->ignore(); }
 
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event) {
+    // What it could not take must not leave a caret where it passed by.
+    if (!event->mimeData()->hasUrls() && !canInsertFromMimeData(event->mimeData())) return event->ignore();
     if (event->mimeData()->hasUrls())
         event->acceptProposedAction();
     else

@@ -136,6 +136,9 @@ LayoutPane ReadPane(const QJsonObject& object) {
     pane.icon = Text(object, "icon");
     pane.area = Text(object, "area");
     pane.visible = object.value(QLatin1String("visible")).toBool(true);
+    pane.tabbedWith = Text(object, "tabbedWith");
+    pane.autoHidden = object.value(QLatin1String("autoHidden")).toBool();
+    pane.extent = object.value(QLatin1String("extent")).toInt();
     return pane;
 }
 
@@ -180,6 +183,8 @@ Layout ParseLayout(std::string_view bytes) {
     for (const QJsonValue& item : root.value(QLatin1String("panes")).toArray())
         layout.panes.push_back(ReadPane(item.toObject()));
     layout.start = ReadTexts(root.value(QLatin1String("start")));
+    layout.offered = ReadTexts(root.value(QLatin1String("offered")));
+    layout.documents = ReadDocuments(root.value(QLatin1String("documents")).toObject());
     layout.windowState = Text(root, "windowState");
     Check(layout);
     return layout;
@@ -199,13 +204,18 @@ std::string WriteLayout(const Layout& layout) {
                                  {"caption", Shown(pane.caption)},
                                  {"icon", Shown(pane.icon)},
                                  {"area", Shown(pane.area)},
-                                 {"visible", pane.visible}});
+                                 {"visible", pane.visible},
+                                 {"tabbedWith", Shown(pane.tabbedWith)},
+                                 {"autoHidden", pane.autoHidden},
+                                 {"extent", pane.extent}});
     const QJsonObject root{{"format", Format},
                            {"version", Version},
                            {"commands", commands},
                            {"bars", bars},
                            {"panes", panes},
                            {"start", TextsToJson(layout.start)},
+                           {"offered", TextsToJson(layout.offered)},
+                           {"documents", DocumentsToJson(layout.documents)},
                            {"windowState", Shown(layout.windowState)}};
     return QJsonDocument(root).toJson(QJsonDocument::Indented).toStdString();
 }

@@ -1,6 +1,8 @@
 // An arrangement of the main window as it stands in a layout file: commands, bars, panes and where they are.
 #pragma once
 
+#include "host/qt/LayoutDocuments.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,6 +50,9 @@ struct LayoutPane {
     std::string icon = {};
     std::string area = "bottom"; // left, right, top or bottom
     bool visible = true;
+    std::string tabbedWith = {}; // a pane of the same area onto which it stands as a tab
+    bool autoHidden = false;     // rolled away to the edge of its area
+    int extent = 0;              // pixels that it takes of the window; 0: as it needs
     bool operator==(const LayoutPane&) const = default;
 };
 
@@ -55,8 +60,10 @@ struct Layout {
     std::vector<LayoutCommand> commands;
     std::vector<LayoutBar> bars;
     std::vector<LayoutPane> panes;
-    std::vector<std::string> start; // commands offered while no document is open
-    std::string windowState;        // the toolkit's own record of sizes and places, base64
+    std::vector<std::string> start;   // commands offered while no document is open
+    std::vector<std::string> offered; // commands that the program's own arrangement had a place for
+    LayoutDocuments documents;
+    std::string windowState; // the toolkit's own record of sizes and places, base64
     bool operator==(const Layout&) const = default;
 };
 
@@ -64,6 +71,9 @@ struct Layout {
 Layout ParseLayout(std::string_view bytes);
 std::string WriteLayout(const Layout& layout);
 
-// Adds to a stored arrangement what the present one has and it does not know: commands, bars and panes that
-// are newer than the file. So an arrangement of an older version of the program keeps working.
-void AddWhatIsNew(const Layout& present, Layout& stored);
+// The commands that stand in a bar or a pop-up, each once.
+std::vector<std::string> PlacedCommands(const Layout& layout);
+// Adds to a stored arrangement what the factory's has and it does not know: commands, bars and panes that
+// are newer than the file. So an arrangement of an older version of the program keeps working, and what the
+// user took away stays away.
+void AddWhatIsNew(const Layout& factory, Layout& stored);

@@ -13,19 +13,10 @@ Record* Named(std::vector<Record>& records, const std::string& name) {
     return at == records.end() ? nullptr : &*at;
 }
 
-std::set<std::string> Placed(const Layout& layout) {
-    std::set<std::string> names;
-    for (const LayoutCommand& command : layout.commands)
-        for (const LayoutEntry& entry : command.entries) names.insert(entry.command);
-    for (const LayoutBar& bar : layout.bars)
-        for (const LayoutEntry& entry : bar.entries) names.insert(entry.command);
-    return names;
-}
-
-// Adds the present entries that stand nowhere in the stored arrangement, each behind its neighbour.
-void AddEntries(const LayoutEntries& present, LayoutEntries& stored, const std::set<std::string>& placed) {
+// Adds the factory's entries that the stored arrangement was never offered, each behind its neighbour.
+void AddEntries(const LayoutEntries& present, LayoutEntries& stored, const std::set<std::string>& offered) {
     for (auto entry = present.begin(); entry != present.end(); ++entry) {
-        if (placed.count(entry->command) != 0) continue;
+        if (offered.count(entry->command) != 0) continue;
         auto place = stored.end();
         for (auto before = entry; before != present.begin();) {
             --before;
@@ -41,14 +32,35 @@ void AddEntries(const LayoutEntries& present, LayoutEntries& stored, const std::
     }
 }
 
+// A key that the user gave to another command stays with that one.
+void DropTakenKeys(LayoutCommand& added, const Layout& stored) {
+    std::erase_if(added.shortcuts, [&](const std::string& key) {
+        return std::any_of(stored.commands.begin(), stored.commands.end(), [&](const LayoutCommand& other) {
+            return std::find(other.shortcuts.begin(), other.shortcuts.end(), key) != other.shortcuts.end();
+        });
+    });
 }
 
-void AddWhatIsNew(const Layout& present, Layout& stored) {
-    const std::set<std::string> placed = Placed(stored);
-    for (const LayoutCommand& command : present.commands) {
+}
+
+std::vector<std::string> PlacedCommands(const Layout& layout) {
+    std::set<std::string> names;
+    for (const LayoutCommand& command : layout.commands)
+        for (const LayoutEntry& entry : command.entries) names.insert(entry.command);
+    for (const LayoutBar& bar : layout.bars)
+        for (const LayoutEntry& entry : bar.entries) names.insert(entry.command);
+    return {names.begin(), names.end()};
+}
+
+void AddWhatIsNew(const Layout& factory, Layout& stored) {
+    std::set<std::string> offered(stored.offered.begin(), stored.offered.end());
+    for (const std::string& name : PlacedCommands(stored)) offered.insert(name);
+    for (const LayoutCommand& command : factory.commands) {
         LayoutCommand* known = Named(stored.commands, command.name);
         if (!known) {
-            stored.commands.push_back(command);
+            LayoutCommand added = command;
+            DropTakenKeys(added, stored);
+            stored.commands.push_back(std::move(added));
             continue;
         }
         // What a user cannot change follows the program; keys, marks and places follow the file.
@@ -57,15 +69,16 @@ void AddWhatIsNew(const Layout& present, Layout& stored) {
         known->icon = command.icon;
         known->tip = command.tip;
         known->width = command.width;
-        AddEntries(command.entries, known->entries, placed);
+        AddEntries(command.entries, known->entries, offered);
     }
-    for (const LayoutBar& bar : present.bars) {
+    for (const LayoutBar& bar : factory.bars) {
         if (LayoutBar* known = Named(stored.bars, bar.name))
-            AddEntries(bar.entries, known->entries, placed);
+            AddEntries(bar.entries, known->entries, offered);
         else
             stored.bars.push_back(bar);
     }
-    for (const LayoutPane& pane : present.panes)
+    for (const LayoutPane& pane : factory.panes)
         if (!Named(stored.panes, pane.name)) stored.panes.push_back(pane);
-    if (stored.start.empty()) stored.start = present.start;
+    if (stored.start.empty()) stored.start = factory.start;
+    stored.offered = PlacedCommands(factory);
 }

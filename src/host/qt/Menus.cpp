@@ -3,6 +3,8 @@
 
 #include "host/qt/QtText.h"
 
+#include <algorithm>
+
 void Menus::Prepare(QtCommand& popup) {
     popup.Menu()->disconnect(&popup);
     QObject::connect(popup.Menu(), &QMenu::aboutToShow, &popup, [this, &popup] { Fill(popup); });
@@ -15,7 +17,9 @@ void Menus::Fill(QtCommand& popup) {
     for (const LayoutEntry& entry : popup.Entries()) {
         QtCommand* command = table_.Find(entry.command);
         if (!command) continue;
+        Watch(popup, *command);
         if (entry.beginGroup) menu.addSeparator();
+        if (!command->Visible()) continue;
         if (command->Record().kind == CommandKind::List)
             AddList(menu, *command, command->Items());
         else if (command->Record().kind == CommandKind::Windows)
@@ -23,6 +27,20 @@ void Menus::Fill(QtCommand& popup) {
         else
             menu.addAction(command->Action());
     }
+}
+
+// A menu in which nothing is left to choose is not offered.
+void Menus::Watch(QtCommand& popup, QtCommand& entry) {
+    const auto show = [this, &popup] {
+        const LayoutEntries& entries = popup.Entries();
+        popup.SetVisible(entries.empty() ||
+                         std::any_of(entries.begin(), entries.end(), [this](const LayoutEntry& other) {
+                             const QtCommand* command = table_.Find(other.command);
+                             return command && command->Visible();
+                         }));
+    };
+    QObject::disconnect(&entry, &QtCommand::StateChanged, &popup, nullptr);
+    QObject::connect(&entry, &QtCommand::StateChanged, &popup, show);
 }
 
 void Menus::AddList(QMenu& menu, QtCommand& command, const std::vector<std::string>& items) {

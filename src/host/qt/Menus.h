@@ -16,6 +16,7 @@ public:
     void Fill(QtCommand& popup);
 
 private:
+    void Watch(QtCommand& popup, QtCommand& entry);
     void AddList(QMenu& menu, QtCommand& command, const std::vector<std::string>& items);
 
     CommandTable& table_;

@@ -16,6 +16,12 @@ QtBar::QtBar(LayoutBar record, QMainWindow& window, CommandTable& table)
         toolBar_->setObjectName("bar-" + Shown(record_.name));
         window_.addToolBar(toolBar_);
     }
+    Replace(std::move(record_));
+}
+
+void QtBar::Replace(LayoutBar record) {
+    record_ = std::move(record);
+    if (toolBar_) toolBar_->setWindowTitle(Shown(record_.caption));
     Rebuild();
     if (record_.kind != BarKind::Menu) Native()->setVisible(record_.visible);
 }
@@ -23,6 +29,8 @@ QtBar::QtBar(LayoutBar record, QMainWindow& window, CommandTable& table)
 QtBar::~QtBar() {
     if (toolBar_) {
         window_.removeToolBar(toolBar_);
+        // Without a name, so that no record of places finds it any more.
+        toolBar_->setObjectName({});
         toolBar_->deleteLater();
     }
     for (const auto& widget : statusWidgets_) {
@@ -70,18 +78,43 @@ void QtBar::FillMenuBar() {
 
 void QtBar::FillToolBar() {
     toolBar_->clear();
+    for (const auto& action : ownActions_)
+        if (action) action->deleteLater();
+    ownActions_.clear();
     for (const LayoutEntry& entry : record_.entries) {
         QtCommand* command = table_.Find(entry.command);
         if (!command) continue;
-        if (entry.beginGroup) toolBar_->addSeparator();
+        // One connection for each entry, however often the bar is built.
+        QObject::disconnect(command, &QtCommand::StateChanged, toolBar_, nullptr);
+        QObject::connect(command, &QtCommand::StateChanged, toolBar_,
+                         [bar = toolBar_.data()] { ShowSeparators(*bar); });
+        if (entry.beginGroup) ownActions_.emplace_back(toolBar_->addSeparator());
         const CommandKind kind = command->Record().kind;
         if (kind == CommandKind::Combo || kind == CommandKind::EditCombo) {
-            toolBar_->addWidget(new CommandCombo(*command, table_, toolBar_));
+            ownActions_.emplace_back(toolBar_->addWidget(new CommandCombo(*command, table_, toolBar_)));
             continue;
         }
         toolBar_->addAction(command->Action());
         auto* button = qobject_cast<QToolButton*>(toolBar_->widgetForAction(command->Action()));
         if (button && kind == CommandKind::Popup) button->setPopupMode(QToolButton::InstantPopup);
+        if (button) button->setAccessibleName(command->PlainCaption());
+    }
+    ShowSeparators(*toolBar_);
+}
+
+// A separator stands only between two entries that are shown.
+void QtBar::ShowSeparators(QToolBar& bar) {
+    QAction* waiting = nullptr;
+    bool any = false;
+    for (QAction* action : bar.actions()) {
+        if (action->isSeparator()) {
+            action->setVisible(false);
+            waiting = any ? action : nullptr;
+        } else if (action->isVisible()) {
+            if (waiting) waiting->setVisible(true);
+            waiting = nullptr;
+            any = true;
+        }
     }
 }
 

@@ -51,6 +51,14 @@ void QtCommand::Show() {
     emit StateChanged();
 }
 
+void QtCommand::SetShortcuts(const std::vector<QKeyCombination>& keys) {
+    shortcuts_ = keys;
+    record_.shortcuts.clear();
+    for (const QKeyCombination key : keys)
+        record_.shortcuts.push_back(Typed(QKeySequence(key).toString(QKeySequence::PortableText)));
+    Show();
+}
+
 void QtCommand::SetCaption(const std::string& caption) {
     if (caption == record_.caption) return;
     record_.caption = caption;

@@ -53,6 +53,7 @@ public:
     const MarkedText& Marked() const { return marked_; }
     bool AutoRepeat() const { return autoRepeat_; }
     const std::vector<QKeyCombination>& Shortcuts() const { return shortcuts_; }
+    void SetShortcuts(const std::vector<QKeyCombination>& keys);
     // The caption without mnemonic marks, and the text of a tool tip with its shortcut.
     QString PlainCaption() const;
 

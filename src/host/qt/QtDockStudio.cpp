@@ -2,6 +2,8 @@
 #include "host/qt/QtDockStudio.h"
 
 #include "host/Failure.h"
+#include "host/Paths.h"
+#include "host/qt/CustomizeDialog.h"
 #include "host/qt/QtText.h"
 #include "host/qt/StartPage.h"
 
@@ -19,20 +21,36 @@ QtDockStudio::QtDockStudio()
       area_(new QtDocumentArea), filter_(window_, table_) {
     window_.setCentralWidget(area_);
     window_.mayClose = [this] {
+        EndCustomizing();
         bool cancel = false;
         if (events_) events_->DS_QueryUnload(cancel);
         return !cancel;
     };
     window_.resized = [this] {
+        Settle();
         if (events_) events_->DS_Resize();
     };
+    QObject::connect(area_, &QtDocumentArea::Changed, &window_, [this] { ShowTitle(); });
+    window_.fillBarMenu = [this](QMenu& menu) { FillBarMenu(menu); };
     window_.dropped = [this](const std::vector<std::string>& paths) {
         if (events_) events_->DS_FilesDropped(paths);
     };
+    paneOwner_.shown = [this](const std::string& pane, bool shown) {
+        if (events_) events_->DS_PaneShown(pane, shown);
+    };
+    paneOwner_.dragged = [this](const std::string& pane, bool begins) {
+        if (events_) events_->DS_PaneDragged(pane, begins);
+    };
+    paneOwner_.strips = {{Qt::LeftDockWidgetArea, new EdgeStrip(Qt::LeftToolBarArea, window_)},
+                         {Qt::RightDockWidgetArea, new EdgeStrip(Qt::RightToolBarArea, window_)},
+                         {Qt::TopDockWidgetArea, new EdgeStrip(Qt::TopToolBarArea, window_)},
+                         {Qt::BottomDockWidgetArea, new EdgeStrip(Qt::BottomToolBarArea, window_)}};
 }
 
 QtDockStudio::~QtDockStudio() {
     SetEvents(nullptr);
+    delete customizing_;
+    area_->disconnect(&window_);
     window_.mayClose = nullptr;
     window_.resized = nullptr;
     // The documents go first, while the window that holds their pages is still whole.
@@ -111,13 +129,18 @@ void QtDockStudio::InsertIntoBar(const std::string& bar, const std::string& comm
     EntriesChanged(bar);
 }
 
+void QtDockStudio::RemoveFromBar(const std::string& bar, const std::string& command) {
+    LayoutEntries* entries = EntriesOf(bar);
+    if (!entries) return;
+    std::erase_if(*entries, [&](const LayoutEntry& entry) { return entry.command == command; });
+    EntriesChanged(bar);
+}
+
 DockBar* QtDockStudio::FindBar(const std::string& name) { return Bar(name); }
 DockPane* QtDockStudio::FindPane(const std::string& name) { return Pane(name); }
 
 void QtDockStudio::AddPane(const LayoutPane& record) {
-    panes_.push_back(std::make_unique<QtPane>(record, window_, [this, name = record.name](bool shown) {
-        if (events_) events_->DS_PaneShown(name, shown);
-    }));
+    panes_.push_back(std::make_unique<QtPane>(record, window_, paneOwner_));
 }
 
 void QtDockStudio::AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
@@ -159,8 +182,45 @@ std::vector<DocumentWindow*> QtDockStudio::DocumentWindows() { return area_->Win
 void QtDockStudio::DropDocumentWindow(DocumentWindow& window) { area_->Drop(window); }
 void QtDockStudio::NextTab(int step) { area_->NextTab(step); }
 void QtDockStudio::NewTabGroup(bool vertical) { area_->NewTabGroup(vertical); }
+void QtDockStudio::MoveToTabGroup(int step) { area_->MoveToGroup(step); }
+std::string QtDockStudio::WindowsText() { return DocumentsToLine(area_->Record()); }
+void QtDockStudio::SetWindowsText(const std::string& text) { area_->Restore(DocumentsFromLine(text), true); }
 
 void QtDockStudio::SuspendRepaint(bool suspend) {
-    suspended_ += suspend ? 1 : -1;
-    window_.setUpdatesEnabled(suspended_ <= 0);
+    // Within a stop of somebody else's the painting stays stopped.
+    if (suspend && suspended_++ == 0) {
+        painted_ = window_.updatesEnabled();
+        window_.setUpdatesEnabled(false);
+    } else if (!suspend && --suspended_ == 0) {
+        window_.setUpdatesEnabled(painted_);
+    }
+}
+
+// Task lists and screen readers know a window by its title.
+void QtDockStudio::ShowTitle() {
+    const QtDocumentWindow* active = area_->Active();
+    const QString program = Shown(ProgramName);
+    window_.setWindowTitle(active ? Shown(active->Caption()) + " - " + program : program);
+}
+
+// What a right click on a bar or on the edge of a pane offers: which of them are shown.
+void QtDockStudio::FillBarMenu(QMenu& menu) {
+    for (const auto& bar : bars_) {
+        if (!bar->ToolBar()) continue;
+        QAction* action = menu.addAction(Shown(bar->Record().caption));
+        action->setCheckable(true);
+        action->setChecked(bar->Visible());
+        QObject::connect(action, &QAction::triggered, &window_,
+                         [bar = bar.get()](bool shown) { bar->SetVisible(shown); });
+    }
+    menu.addSeparator();
+    for (const auto& pane : panes_) {
+        QAction* action = menu.addAction(Shown(pane->Caption()));
+        action->setCheckable(true);
+        action->setChecked(pane->Present());
+        QObject::connect(action, &QAction::triggered, pane.get(), &QtPane::SetPresent);
+    }
+    menu.addSeparator();
+    QObject::connect(menu.addAction(QObject::tr("&Customize…")), &QAction::triggered, &window_,
+                     [this] { Customize(); });
 }

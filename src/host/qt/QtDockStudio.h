@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/DockStudio.h"
-#include "host/qt/CommandTable.h"
+#include "host/qt/CustomizeTarget.h"
 #include "host/qt/Menus.h"
 #include "host/qt/QtBar.h"
 #include "host/qt/QtDocumentArea.h"
@@ -10,7 +10,11 @@
 #include "host/qt/ShortcutFilter.h"
 #include "host/qt/StudioWindow.h"
 
-class QtDockStudio : public DockStudio {
+#include <QElapsedTimer>
+
+class CustomizeDialog;
+
+class QtDockStudio : public DockStudio, private CustomizeTarget {
 public:
     QtDockStudio();
     ~QtDockStudio() override;
@@ -38,9 +42,15 @@ public:
     void DropDocumentWindow(DocumentWindow& window) override;
     void NextTab(int step) override;
     void NewTabGroup(bool vertical) override;
+    void MoveToTabGroup(int step) override;
+    std::string WindowsText() override;
+    void SetWindowsText(const std::string& text) override;
     void SuspendRepaint(bool suspend) override;
 
+    void Customize() override;
+    void RemoveFromBar(const std::string& bar, const std::string& command) override;
     void LoadLayout(const std::string& path) override;
+    void LoadFactoryText(const std::string& text) override;
     void SaveLayout(const std::string& path) override;
     WindowPlace Place() override;
     void SetPlace(const WindowPlace& place) override;
@@ -51,23 +61,49 @@ public:
     QMainWindow& Window() { return window_; }
 
 private:
-    LayoutEntries* EntriesOf(const std::string& bar);
+    CommandTable& Table() override { return table_; }
+    std::vector<CommandPlace> Places() override;
+    LayoutEntries* EntriesOf(const std::string& bar) override;
+    void EntriesChanged(const std::string& bar) override;
+    std::string AddBar(const QString& caption) override;
+    void RemoveBar(const std::string& name) override;
+    const LayoutCommand* Factory(const std::string& command) const override;
+    void Revert() override;
+    QWidget* WidgetOf(const std::string& place) override;
+    // An arrangement that comes or goes as a whole is none that is being changed.
+    void EndCustomizing();
+
     QtBar* Bar(const std::string& name);
     QtPane* Pane(const std::string& name);
     void Apply(const Layout& layout);
     Layout Present();
+    void ApplyBars(const std::vector<LayoutBar>& records);
+    void ApplyPanes(const std::vector<LayoutPane>& records);
+    void RestoreSizes();
+    void Settle();
     void AddPane(const LayoutPane& record);
-    void EntriesChanged(const std::string& bar);
+    void ShowTitle();
+    void FillBarMenu(QMenu& menu);
 
     StudioWindow window_;
     CommandTable table_;
     Menus menus_;
     QtDocumentArea* area_;
     ShortcutFilter filter_;
+    PaneOwner paneOwner_;
     std::vector<std::unique_ptr<QtBar>> bars_;
     std::vector<std::unique_ptr<QtPane>> panes_;
     std::vector<std::string> start_;
+    Layout factory_;
+    Layout before_; // as it was when customising began
+    QPointer<CustomizeDialog> customizing_;
+    std::string factoryPath_;
+    // What a loaded arrangement says of sizes, until the window has its size.
+    QByteArray windowState_;
+    LayoutDocuments documents_;
+    QElapsedTimer settling_;
     DockStudioEvents* events_ = nullptr;
     int wantedState_ = 0;
     int suspended_ = 0;
+    bool painted_ = true; // before the first of the stops
 };

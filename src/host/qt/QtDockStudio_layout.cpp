@@ -6,6 +6,7 @@
 #include "host/qt/StartPage.h"
 
 #include <QMenuBar>
+#include <algorithm>
 
 namespace {
 
@@ -15,9 +16,20 @@ enum : int { Normal = 0, Minimised = 1, Maximised = 2 };
 }
 
 void QtDockStudio::LoadLayout(const std::string& path) {
+    // Also where it cannot be read: then its text comes from elsewhere, and no later file takes its place.
+    if (factoryPath_.empty()) factoryPath_ = path;
     Layout layout = ParseLayout(QtFiles().Read(path));
-    AddWhatIsNew(Present(), layout);
+    EndCustomizing();
+    if (path == factoryPath_)
+        factory_ = layout;
+    else
+        AddWhatIsNew(factory_, layout);
     Apply(layout);
+}
+
+void QtDockStudio::LoadFactoryText(const std::string& text) {
+    factory_ = ParseLayout(text);
+    Apply(factory_);
 }
 
 Layout QtDockStudio::Present() {
@@ -26,38 +38,90 @@ Layout QtDockStudio::Present() {
     for (const auto& bar : bars_) layout.bars.push_back(bar->Record());
     for (const auto& pane : panes_) layout.panes.push_back(pane->Record());
     layout.start = start_;
+    layout.offered = PlacedCommands(factory_);
+    layout.documents = area_->Record();
+    layout.windowState = window_.saveState().toBase64().toStdString();
     return layout;
 }
 
 void QtDockStudio::Apply(const Layout& layout) {
+    // Whoever stopped the painting before is also the one to let it go on.
+    const bool paints = window_.updatesEnabled();
     window_.setUpdatesEnabled(false);
-    bars_.clear();
     window_.menuBar()->clear();
     table_.Replace(layout.commands);
     for (const auto& command : table_.All())
         if (command->Menu()) menus_.Prepare(*command);
-    for (const LayoutBar& record : layout.bars)
-        bars_.push_back(std::make_unique<QtBar>(record, window_, table_));
-    for (const LayoutPane& record : layout.panes) {
+    ApplyBars(layout.bars);
+    ApplyPanes(layout.panes);
+    start_ = layout.start;
+    area_->SetStartPage(new StartPage(start_, table_));
+    windowState_ = QByteArray::fromBase64(QByteArray::fromStdString(layout.windowState));
+    documents_ = layout.documents;
+    settling_.start();
+    if (!documents_.area.parts.empty()) area_->Restore(documents_, false);
+    RestoreSizes();
+    window_.setUpdatesEnabled(paints);
+}
+
+// A bar that is there already keeps its object: the click that loads a layout may come from it.
+void QtDockStudio::ApplyBars(const std::vector<LayoutBar>& records) {
+    std::vector<std::unique_ptr<QtBar>> old = std::move(bars_);
+    bars_.clear();
+    for (const LayoutBar& record : records) {
+        const auto at = std::find_if(old.begin(), old.end(), [&](const auto& bar) {
+            return bar && bar->Name() == record.name && bar->Kind() == record.kind;
+        });
+        if (at == old.end()) {
+            bars_.push_back(std::make_unique<QtBar>(record, window_, table_));
+        } else {
+            (*at)->Replace(record);
+            bars_.push_back(std::move(*at));
+        }
+    }
+    // Each at its place in the file's order; a record of places then moves what the user has moved.
+    for (const auto& bar : bars_)
+        if (bar->ToolBar()) {
+            const bool visible = bar->Visible();
+            window_.addToolBar(bar->ToolBar());
+            bar->SetVisible(visible);
+        }
+    window_.addToolBarBreak();
+    window_.addToolBar(paneOwner_.strips.at(Qt::TopDockWidgetArea));
+}
+
+void QtDockStudio::ApplyPanes(const std::vector<LayoutPane>& records) {
+    for (const LayoutPane& record : records) {
         if (QtPane* pane = Pane(record.name))
             pane->Replace(record);
         else
             AddPane(record);
     }
-    start_ = layout.start;
-    area_->SetStartPage(new StartPage(start_, table_));
-    if (!layout.windowState.empty())
-        window_.restoreState(QByteArray::fromBase64(QByteArray::fromStdString(layout.windowState)));
-    window_.setUpdatesEnabled(suspended_ <= 0);
+    for (const LayoutPane& record : records) {
+        Pane(record.name)->TakeExtent();
+        if (QtPane* first = Pane(record.tabbedWith)) Pane(record.name)->TabOnto(*first);
+    }
+}
+
+void QtDockStudio::RestoreSizes() {
+    if (!windowState_.isEmpty()) window_.restoreState(windowState_);
+    for (const auto& [side, strip] : paneOwner_.strips) strip->ShowIfNeeded();
+    area_->RestoreSizes(documents_);
+}
+
+// The desktop gives the window its size some time after it was asked for, and each change of the size scales
+// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again.
+void QtDockStudio::Settle() {
+    constexpr int Milliseconds = 1500;
+    if (settling_.isValid() && settling_.elapsed() < Milliseconds) RestoreSizes();
 }
 
 void QtDockStudio::SaveLayout(const std::string& path) {
-    Layout layout = Present();
-    layout.windowState = window_.saveState().toBase64().toStdString();
+    EndCustomizing();
     QtFiles files;
     if (const auto separator = path.find_last_of('/'); separator != path.npos && separator > 0)
         files.MakeFolders(path.substr(0, separator));
-    files.Write(path, WriteLayout(layout));
+    files.Write(path, WriteLayout(Present()));
 }
 
 WindowPlace QtDockStudio::Place() {
@@ -73,6 +137,8 @@ WindowPlace QtDockStudio::Place() {
 }
 
 void QtDockStudio::SetPlace(const WindowPlace& place) {
+    // What a maximised window is told of its normal size is lost on some desktops.
+    if (place.state == Normal && window_.isVisible() && window_.isMaximized()) window_.showNormal();
     const WindowPlace now = Place();
     // A maximised window that is moved falls back to its normal size on some desktops.
     if (place.left != now.left || place.top != now.top)

@@ -1,9 +1,11 @@
-// The document area: groups of tabs side by side, and which document window is the active one.
+// The document area: which document windows there are, and which of them is the active one.
 #include "host/qt/QtDocumentArea.h"
 
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Paths.h"
+#include "host/qt/DropMark.h"
+#include "host/qt/GroupTree.h"
 #include "host/qt/QtText.h"
 #include "host/qt/TabGroup.h"
 
@@ -18,11 +20,11 @@ constexpr int OnTab = 3;
 
 }
 
-QtDocumentArea::QtDocumentArea(QWidget* parent) : QStackedWidget(parent), splitter_(new QSplitter) {
+QtDocumentArea::QtDocumentArea(QWidget* parent)
+    : QStackedWidget(parent), tree_(new GroupTree), mark_(new DropMark(this)) {
     setFocusPolicy(Qt::ClickFocus);
-    splitter_->setChildrenCollapsible(false);
-    addWidget(splitter_);
-    NewGroup(0);
+    addWidget(tree_);
+    tree_->Add(NewGroup(), nullptr, Qt::Horizontal, false);
     // A click into a document of another group makes that one active.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (QtDocumentWindow* window = OfFocus(now); window && !arranging_) SetActive(window);
@@ -34,9 +36,8 @@ QtDocumentArea::~QtDocumentArea() {
     windows_.clear();
 }
 
-TabGroup* QtDocumentArea::NewGroup(int index) {
+TabGroup* QtDocumentArea::NewGroup() {
     auto* group = new TabGroup;
-    splitter_->insertWidget(index, group);
     connect(group, &QTabWidget::currentChanged, this, [this, group] {
         if (arranging_) return;
         if (QtDocumentWindow* window = OfPage(group->currentWidget())) SetActive(window);
@@ -56,6 +57,8 @@ TabGroup* QtDocumentArea::NewGroup(int index) {
         bool cancel = false;
         events->DS_DocumentWindowContextClick(*window, OnTab, local.x(), local.y(), cancel);
     });
+    connect(group, &TabGroup::ListAsked, this, [this](QMenu* menu) { ListWindows(*menu); });
+    ConnectDrag(group);
     return group;
 }
 
@@ -85,12 +88,7 @@ std::vector<DocumentWindow*> QtDocumentArea::Windows() const {
 void QtDocumentArea::Show(QtDocumentWindow& window) {
     if (window.Group()) return;
     TabGroup* group = active_ ? active_->Group() : nullptr;
-    if (!group) group = static_cast<TabGroup*>(splitter_->widget(0));
-    {
-        const QScopedValueRollback<bool> guard(arranging_, true);
-        group->addTab(window.Page(), QString());
-    }
-    window.ShowCaption();
+    AddToGroup(window, group ? group : tree_->Groups().front(), -1);
     ShowRightPage();
     if (events) events->DS_DocumentWindowActivate(window, true);
 }
@@ -109,6 +107,8 @@ void QtDocumentArea::SetActive(QtDocumentWindow* window) {
     if (window == active_) return;
     QtDocumentWindow* old = active_;
     active_ = window;
+    ShowActive();
+    emit Changed();
     if (!events) return;
     if (old) events->DS_DocumentWindowDeactivate(*old);
     if (active_ && active_ == window) events->DS_DocumentWindowActivate(*window, false);
@@ -141,16 +141,10 @@ void QtDocumentArea::Hide(QtDocumentWindow& window) {
 }
 
 void QtDocumentArea::ActivateWhatIsLeft(TabGroup* group) {
-    for (int at = -1; at < splitter_->count(); ++at) {
-        auto* candidate = at < 0 ? group : static_cast<TabGroup*>(splitter_->widget(at));
+    std::vector<TabGroup*> candidates = tree_->Groups();
+    candidates.insert(candidates.begin(), group);
+    for (TabGroup* candidate : candidates)
         if (QtDocumentWindow* window = OfPage(candidate->currentWidget())) return Activate(*window);
-    }
-}
-
-void QtDocumentArea::RemoveIfEmpty(TabGroup* group) {
-    if (group->count() > 0 || splitter_->count() < 2) return;
-    group->setParent(nullptr);
-    group->deleteLater();
 }
 
 void QtDocumentArea::Drop(DocumentWindow& window) {
@@ -175,31 +169,6 @@ void QtDocumentArea::NextTab(int step) {
     if (QtDocumentWindow* window = OfPage(group->widget(next))) Activate(*window);
 }
 
-void QtDocumentArea::NewTabGroup(bool vertical) {
-    QtDocumentWindow* window = active_;
-    TabGroup* old = window ? window->Group() : nullptr;
-    if (!old || old->count() < 2) return;
-    {
-        const QScopedValueRollback<bool> guard(arranging_, true);
-        // A vertical group stands beside the old one, a horizontal one below it.
-        splitter_->setOrientation(vertical ? Qt::Horizontal : Qt::Vertical);
-        TabGroup* group = NewGroup(splitter_->indexOf(old) + 1);
-        old->removeTab(old->indexOf(window->Page()));
-        group->addTab(window->Page(), QString());
-        splitter_->setSizes(QList<int>(splitter_->count(), 1000));
-    }
-    window->ShowCaption();
-    window->FocusForm();
-}
-
-TabGroup* QtDocumentArea::GroupOf(QWidget* page) const {
-    for (int at = 0; at < splitter_->count(); ++at) {
-        auto* group = static_cast<TabGroup*>(splitter_->widget(at));
-        if (group->indexOf(page) >= 0) return group;
-    }
-    return nullptr;
-}
-
 QtDocumentWindow* QtDocumentArea::OfPage(QWidget* page) const {
     for (const auto& window : windows_)
         if (page && window->Page() == page) return window.get();
@@ -222,7 +191,7 @@ void QtDocumentArea::SetStartPage(QWidget* page) {
 void QtDocumentArea::ShowRightPage() {
     const bool any = std::any_of(windows_.begin(), windows_.end(),
                                  [](const auto& window) { return window->Group() != nullptr; });
-    setCurrentWidget(any || !startPage_ ? static_cast<QWidget*>(splitter_) : startPage_);
+    setCurrentWidget(any || !startPage_ ? static_cast<QWidget*>(tree_) : startPage_);
 }
 
 #include "moc_QtDocumentArea.cpp"

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QStyle>
 
@@ -33,6 +34,12 @@ void StudioWindow::resizeEvent(QResizeEvent* event) {
 void StudioWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && resized) resized();
+}
+
+QMenu* StudioWindow::createPopupMenu() {
+    auto* menu = new QMenu(this);
+    if (fillBarMenu) fillBarMenu(*menu);
+    return menu;
 }
 
 void StudioWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -15,6 +15,7 @@ public:
     std::function<bool()> mayClose;
     std::function<void()> resized;
     std::function<void(const std::vector<std::string>& paths)> dropped;
+    std::function<void(QMenu& menu)> fillBarMenu;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -22,6 +23,6 @@ protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    // The toolkit's own menu of bars and panes would change the arrangement behind the commands' back.
-    QMenu* createPopupMenu() override { return nullptr; }
+    // In the place of the toolkit's own, which knows nothing of panes at the edge.
+    QMenu* createPopupMenu() override;
 };

@@ -1,0 +1,15 @@
+// Shows where a dragged tab would go: a tinted rectangle over the document area.
+#pragma once
+
+#include <QWidget>
+
+class DropMark : public QWidget {
+public:
+    explicit DropMark(QWidget* parent);
+
+    // In the parent's coordinates; an empty rectangle hides the mark.
+    void Show(const QRect& place);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

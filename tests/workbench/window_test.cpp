@@ -1,0 +1,232 @@
+// The main window as the program sets it up, with real documents in a real frame.
+#include "ForgetFrame.h"
+#include "app/wire_up.h"
+#include "documents/CompilerRegistry.h"
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
+#include "documents/Mod_Main.h"
+#include "documents/Options.h"
+#include "editor/frmDoc.h"
+#include "engine/ClsCompiler.h"
+#include "engine/ClsProject.h"
+#include "engine/Mod_Lexer.h"
+#include "engine/OptionsEdit.h"
+#include "engine/ParserState.h"
+#include "host/Host.h"
+#include "host/qt/QtDockStudio.h"
+#include "support/FakeHost.h"
+#include "workbench/FactoryLayout.h"
+#include "workbench/Mod_MenuCommands.h"
+#include "workbench/frmMain.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTest>
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct WindowTest : testing::Test {
+    FakeHost host;
+    std::unique_ptr<QtDockStudio> dock = std::make_unique<QtDockStudio>();
+    frmMain& window = frmMain::Instance();
+
+    void SetUp() override {
+        for (const char* folder : {"Conf", "Styles"})
+            std::filesystem::copy(std::string(ZOLTO_APPDIR) + "/" + folder, host.Path(folder),
+                                  std::filesystem::copy_options::recursive);
+        host.Put("Layout.mp", FactoryLayoutText());
+        gHost.dock = dock.get();
+        Options::gStartUp = 3;
+        OptionsEdit::SciStyleName = "Default";
+        Mod_Lexer::BuildCharacterTables();
+        Mod_Main::LoadCompilers();
+        Mod_Main::SetActiveCompiler(DefaultCompiler);
+        Mod_File::LoadStyle("Default");
+        window.Form_Load();
+        dock->SetPlace({.width = 18000, .height = 12000});
+        dock->ShowWindow();
+    }
+
+    void TearDown() override {
+        dock->SetEvents(nullptr);
+        for (DocumentWindow* open : dock->DocumentWindows()) open->Attach(nullptr);
+        MakeActive(nullptr);
+        gProjects.RemoveAll();
+        gCompilers.RemoveAll();
+        gActiveCompiler.reset();
+        DefaultCompiler.clear();
+        ForgetFrame();
+        gHost.dock = &host.dock;
+        dock.reset();
+    }
+
+    void Click(const char* name) { window.DS_CommandClick(*dock->FindCommand(name), -1); }
+};
+
+// One frame of a display that shows 60 a second: the median of many switches, with painting and colouring.
+TEST_F(WindowTest, SwitchingTabsIsDoneWithinAFrame) {
+    std::string source;
+    for (int line = 0; line < 1000; ++line)
+        source +=
+            "Global name" + std::to_string(line) + " = Rand(1, " + std::to_string(line) + ") ; text\r\n";
+    for (const char* name : {"a.bb", "b.bb", "c.bb"}) ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, source)));
+    QApplication::processEvents();
+    std::vector<qint64> times;
+    for (int round = 0; round < 21; ++round) {
+        QElapsedTimer timer;
+        timer.start();
+        Click("Next File Tab");
+        QApplication::processEvents();
+        times.push_back(timer.nsecsElapsed());
+    }
+    std::sort(times.begin(), times.end());
+    RecordProperty("median_us", static_cast<int>(times[10] / 1000));
+    EXPECT_LT(times[10], 16'000'000);
+}
+
+// Every command of a shown menu has a routine, and no shown menu is empty.
+TEST_F(WindowTest, MenusOfferOnlyWhatWorks) {
+    std::map<std::string, bool> routed;
+    for (const auto& route : Mod_MenuCommands::Routes())
+        routed[std::string(route.name)] = route.run != nullptr;
+    for (DockCommand* found : dock->Commands()) {
+        auto* popup = static_cast<QtCommand*>(found);
+        if (!popup->Menu() || !popup->Visible()) continue;
+        int shown = 0;
+        for (const LayoutEntry& entry : popup->Entries()) {
+            const auto* command = static_cast<QtCommand*>(dock->FindCommand(entry.command));
+            if (!command->Visible()) continue;
+            ++shown;
+            EXPECT_TRUE(command->Menu() || routed[entry.command]) << popup->Name() << ": " << entry.command;
+        }
+        EXPECT_GT(shown, 0) << popup->Name();
+    }
+}
+
+TEST_F(WindowTest, ResetBringsBackKeysMenusAndPanes) {
+    const std::string before = host.Path("before.mp"), after = host.Path("after.mp");
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    const auto recent = dock->FindCommand("FileRecentFiles")->Items();
+    EXPECT_FALSE(recent.empty());
+    dock->SaveLayout(before);
+    auto* run = static_cast<QtCommand*>(dock->FindCommand("Compile and Run"));
+    const auto keys = run->Record().shortcuts;
+    run->SetShortcuts({});
+    dock->RemoveFromBar("File", "Exit");
+    dock->InsertIntoBar("Standard", "Word Left", 0, false);
+    dock->FindPane("Output")->SetAutoHidden(true);
+    dock->FindBar("Standard")->SetVisible(false);
+    host.dialogs.WillAnswer(MessageAnswer::Yes);
+    Click("ResetLayout");
+    EXPECT_EQ(static_cast<QtCommand*>(dock->FindCommand("Compile and Run"))->Record().shortcuts, keys);
+    EXPECT_FALSE(dock->FindPane("Output")->AutoHidden());
+    EXPECT_EQ(dock->FindCommand("FileRecentFiles")->Items(), recent);
+    dock->SaveLayout(after);
+    Layout one = ParseLayout(host.files.Read(before)), two = ParseLayout(host.files.Read(after));
+    one.windowState.clear();
+    two.windowState.clear();
+    EXPECT_EQ(one, two);
+}
+
+// The context menu of the text is in the menu bar for as long as it can be edited there.
+TEST_F(WindowTest, CustomisingPutsTheContextMenuIntoTheMenuBar) {
+    Click("Customize");
+    EXPECT_GE(dock->IndexInBar("MainMenu", "PopupMenu1"), 0);
+    dock->SaveLayout(host.Path("saved.mp"));
+    EXPECT_EQ(dock->IndexInBar("MainMenu", "PopupMenu1"), -1);
+    EXPECT_TRUE(static_cast<QtCommand*>(dock->FindCommand("Undo"))->AutoRepeat());
+}
+
+TEST_F(WindowTest, TheTabsMenuHoldsWhatFitsTheDocument) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    bool cancel = false;
+    window.DS_DocumentWindowContextClick(*dock->ActiveDocumentWindow(), 3, 0, 0, cancel);
+    EXPECT_TRUE(cancel);
+    const auto& entries = static_cast<QtCommand*>(dock->FindCommand("TabsContextMenu"))->Entries();
+    EXPECT_EQ(entries, (LayoutEntries{{"Close File", false},
+                                      {"Close All Files", false},
+                                      {"New Horizontal Tab Group", true},
+                                      {"New Vertical Tab Group", false}}));
+    static_cast<QtCommand*>(dock->FindCommand("TabsContextMenu"))->Menu()->close();
+}
+
+// The first press goes back to the tab before, and back again; while Control stays down, on through the
+// group.
+TEST_F(WindowTest, NextTabBeginsWithTheTabBefore) {
+    for (const char* name : {"a.bb", "b.bb", "c.bb"})
+        ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, "Print 1\r\n")));
+    const auto active = [&] {
+        return static_cast<frmDoc*>(dock->ActiveDocumentWindow()->HostedForm())->Filename;
+    };
+    const auto release = [&] { QTest::keyRelease(&dock->Window(), Qt::Key_Control); };
+    Options::gTabbingStartsWithPrevious = 1;
+    Click("Next File Tab");
+    release();
+    dock->FindDocumentWindow(host.Path("a.bb"))->Activate();
+    dock->FindDocumentWindow(host.Path("c.bb"))->Activate();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "a.bb");
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "b.bb");
+    release();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "a.bb");
+    release();
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "b.bb");
+    Options::gTabbingStartsWithPrevious = 0;
+    Click("Next File Tab");
+    EXPECT_EQ(active(), "c.bb");
+    Click("Previous File Tab");
+    EXPECT_EQ(active(), "b.bb");
+}
+
+TEST_F(WindowTest, ADoubleClickOnATabClosesASingleFileOnly) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    DocumentWindow& tab = *dock->ActiveDocumentWindow();
+    Options::gDoubleClickClosesTabs = 0;
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_TRUE(tab.Visible());
+    Options::gDoubleClickClosesTabs = 1;
+    gCurrentProject->SingleFile = false;
+    host.dialogs.WillAnswer(MessageAnswer::Ok);
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_EQ(host.dialogs.messages.back().text, "You can't close a file that is part of a project !  ");
+    EXPECT_TRUE(tab.Visible());
+    gCurrentProject->SingleFile = true;
+    window.DS_DocumentWindowDoubleClick(tab, 3);
+    EXPECT_TRUE(dock->DocumentWindows().empty());
+}
+
+// What the keyboard can reach says what it is.
+TEST_F(WindowTest, EveryControlIsNamedForAssistiveTechnology) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    for (const bool rolled : {false, true}) {
+        dock->FindPane("Output")->SetAutoHidden(rolled);
+        dock->FindPane("Output")->Show();
+        QApplication::processEvents();
+        int seen = 0;
+        for (QWidget* widget : dock->Window().findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+            // Frames that hand the focus on to what they hold.
+            if (widget->focusProxy() || qobject_cast<QStackedWidget*>(widget) ||
+                qobject_cast<QTabWidget*>(widget))
+                continue;
+            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(told, nullptr);
+            EXPECT_FALSE(told->text(QAccessible::Name).isEmpty())
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString() << " in "
+                << widget->parentWidget()->metaObject()->className();
+            ++seen;
+        }
+        EXPECT_GT(seen, 6);
+    }
+}
+
+}
