@@ -7,6 +7,7 @@
 #include "engine/ClsProject.h"
 #include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -25,7 +26,8 @@ struct Place {
     // markers of its view are others.
     std::weak_ptr<DocumentRecord> Document;
     int Handle = 0; // of marker 18 on the place's line
-    int Stamp = 0;  // 0: empty
+    SeenLine Seen;
+    int Stamp = 0; // 0: empty
     std::intptr_t Offset = 0;
 
     frmDoc* Open() const { return static_cast<frmDoc*>(Document.lock().get()); }
@@ -39,24 +41,11 @@ Place& At(int index) { return CBrowser[static_cast<std::size_t>(index)]; }
 int Before(int index) { return index <= 1 ? Places : index - 1; }
 int Behind(int index) { return index >= Places ? 1 : index + 1; }
 
-// Where the marker of the last place was found. A handle is asked for its line with a walk over all lines,
-// which a key must not cost: while the document has as many lines and the marker is still there, it stands.
-struct Found {
-    std::intptr_t view = 0;
-    int handle = 0;
-    std::intptr_t line = -1;
-    std::intptr_t lines = 0;
-};
-Found found;
-
 // The line of a place's marker in the active view; -1 when it went with its text.
-std::intptr_t MarkerLine(const Place& place) {
-    const auto lines = Mod_Sci::GetLineCount();
-    if (found.view == SciWndData && found.handle == place.Handle && found.lines == lines && found.line >= 0 &&
-        Mod_Parse::HasMarker(static_cast<int>(found.line), Mod_Parse::MarkerPosition))
-        return found.line;
-    found = {SciWndData, place.Handle, Mod_Sci::MarkerLineFromHandle(place.Handle), lines};
-    return found.line;
+std::intptr_t MarkerLine(Place& place) {
+    const int line = LineOfMarker(SciWndData, place.Handle, place.Seen);
+    if (line >= 0 && Mod_Parse::HasMarker(line, Mod_Parse::MarkerPosition)) return line;
+    return Mod_Sci::MarkerLineFromHandle(place.Handle);
 }
 
 std::intptr_t PositionOf(const Place& place, std::intptr_t markerLine) {
@@ -64,12 +53,12 @@ std::intptr_t PositionOf(const Place& place, std::intptr_t markerLine) {
 }
 
 // The line where the caret was, which may lie some lines off the marker; -1 when the marker has gone.
-std::intptr_t LineOf(const Place& place) {
+std::intptr_t LineOf(Place& place) {
     const auto line = MarkerLine(place);
     return line < 0 ? -1 : Mod_Sci::LineFromPosition(PositionOf(place, line));
 }
 
-bool AtCaret(const Place& place) {
+bool AtCaret(Place& place) {
     return place.InActive() && LineOf(place) == Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
 }
 
@@ -95,12 +84,13 @@ void AddPlace(std::intptr_t position, std::intptr_t line) {
     Place& place = At(CBrowserPos);
     place.Document = document;
     place.Handle = static_cast<int>(Mod_Sci::MarkerAdd(line, Mod_Parse::MarkerPosition));
+    place.Seen = Seen(SciWndData, static_cast<int>(line));
     place.Stamp = stamp + 1;
     place.Offset = position - Mod_Sci::PositionFromLine(line);
 }
 
 // Goes to a place. False when its document was closed.
-bool Jump(const Place& place) {
+bool Jump(Place& place) {
     const frmDoc* document = place.Open();
     if (document == nullptr || !BringToFront(*document)) return false;
     if (const auto line = MarkerLine(place); line >= 0) GotoPosition(PositionOf(place, line));
@@ -113,7 +103,7 @@ template <class Step, class Leads>
 void Walk(int first, Step step, Leads leads) {
     int at = first;
     for (int passed = 0; passed <= Places && leads(At(at)); ++passed, at = step(at)) {
-        const Place& place = At(at);
+        Place& place = At(at);
         if (place.InActive() && MarkerLine(place) < 0) return; // its text has gone
         if (!Jump(place)) continue;
         CBrowserPos = at;

@@ -291,7 +291,10 @@ void cSubclass::ParseQueue() {
 bool cSubclass::ParseEdited() {
     if (State().mJoinPending) JoinLines();
     const int edited = State().UnparsedLine;
-    if (edited >= 0 && edited != LineOf(Mod_Sci::GetCurrentPos())) {
+    const bool left = edited != LineOf(Mod_Sci::GetCurrentPos());
+    // Where other lines wait as well it goes with them: they read their scope off it.
+    if (edited >= 0 && (left || !State().ParseNeeded.empty())) {
+        State().mForceColor = State().mForceColor || !left;
         if (HasMarker(edited, MarkerQueued)) SetStopErrorLog(StopQueuedTwice);
         TakeBackEditedLine(true);
     }

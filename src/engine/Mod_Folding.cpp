@@ -14,11 +14,12 @@ namespace {
 
 using namespace Mod_Parse;
 
-bool InMainProgram() { return CurrentFunctionName == MainProgram; }
+// Behind the line that ends a function no name is known yet.
+bool OutsideFunctions() { return CurrentFunctionName.empty() || CurrentFunctionName == MainProgram; }
 
 // A closing line lowers the level, but never below that of its surroundings.
 int Lowered(int level) {
-    const int least = InMainProgram() ? TopLevel : FunctionLevel;
+    const int least = OutsideFunctions() ? TopLevel : FunctionLevel;
     return level > least ? level - 1 : level;
 }
 
@@ -59,7 +60,7 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
         if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
     }
     // Below an unchanged level the function may be another one all the same.
-    const bool outside = CurrentFunctionName.empty() || InMainProgram();
+    const bool outside = OutsideFunctions();
     if (derived && HasMarker(line + 1, MarkerParsed) &&
         (LevelOf(line + 1) != FoldLevel || HasMarker(line + 1, MarkerMainProgram) != outside))
         CheckFold(line, FoldLevel);

@@ -1,5 +1,5 @@
-// Each view has a list of the changes of its lines. A symbol keeps the line on which it was last seen and how
-// many changes there were then; the later ones carry it to its line of today.
+// Each view has a list of the changes of its lines. A marker was last seen on a line when there were so many
+// changes; the later ones carry it to its line of today.
 #include "engine/SymbolLine.h"
 
 #include "sci/Mod_Sci.h"
@@ -69,21 +69,20 @@ void LinesInserted(std::intptr_t view, int line, int count) { Of(view).Add({line
 void LinesRemoved(std::intptr_t view, int line, int count) { Of(view).Add({line, -count}); }
 void ForgetLines(std::intptr_t view) { Of(view).Forget(); }
 
-void DeclaredOn(Symbol& symbol, int line) {
-    symbol.SeenOn = line;
-    symbol.SeenAt = Of(symbol.SciWndData).Now();
+SeenLine Seen(std::intptr_t view, int line) { return {line, Of(view).Now()}; }
+
+int LineOfMarker(std::intptr_t view, int handle, SeenLine& seen) {
+    const Changes& changes = Of(view);
+    const unsigned now = changes.Now();
+    if (seen.changes == now) return seen.line;
+    const int line = changes.Follow(seen.line, seen.changes);
+    seen.line = line >= 0 ? line : static_cast<int>(Mod_Sci::SendTo(view, SCI_MARKERLINEFROMHANDLE, handle));
+    seen.changes = now;
+    return seen.line;
 }
 
+void DeclaredOn(Symbol& symbol, int line) { symbol.Seen = Seen(symbol.SciWndData, line); }
+
 int LineOf(const Symbol& symbol) {
-    if (symbol.SciWndData == 0) return -1;
-    const Changes& changes = Of(symbol.SciWndData);
-    const unsigned now = changes.Now();
-    if (symbol.SeenAt != now) {
-        const int line = changes.Follow(symbol.SeenOn, symbol.SeenAt);
-        symbol.SeenOn = line >= 0 ? line
-                                  : static_cast<int>(Mod_Sci::SendTo(
-                                        symbol.SciWndData, SCI_MARKERLINEFROMHANDLE, symbol.Handle));
-        symbol.SeenAt = now;
-    }
-    return symbol.SeenOn;
+    return symbol.SciWndData == 0 ? -1 : LineOfMarker(symbol.SciWndData, symbol.Handle, symbol.Seen);
 }

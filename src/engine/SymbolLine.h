@@ -13,6 +13,11 @@ void LinesRemoved(std::intptr_t view, int line, int count);
 // What changed cannot be followed, or the view has gone: its markers will be asked again.
 void ForgetLines(std::intptr_t view);
 
+// A marker has just been set on a line of a view.
+SeenLine Seen(std::intptr_t view, int line);
+// The line (from 0) of a marker by its handle; -1 when it has gone. Writes `seen`.
+int LineOfMarker(std::intptr_t view, int handle, SeenLine& seen);
+
 // The symbol has just been declared on a line of its view.
 void DeclaredOn(Symbol& symbol, int line);
 // The line (from 0) of a symbol's marker; -1 when it has none, or when its file is not open.

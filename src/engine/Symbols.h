@@ -11,6 +11,12 @@ class clsHash;
 // Value types of a name.
 enum : std::uint8_t { TipUnnamedType = 0, TipInteger = 1, TipFloat = 2, TipString = 3, TipCustom = 5 };
 
+// Where a marker was seen last: its line, and how many changes of its view's lines there were before.
+struct SeenLine {
+    int line = -1;
+    unsigned changes = 0;
+};
+
 // What every record has; the class name prefixes are those of the records.
 struct Symbol {
     virtual ~Symbol() = default;
@@ -19,10 +25,7 @@ struct Symbol {
     int Handle = 0;               // of the marker on the declaring line
     std::string File;             // Filename of its document
     std::intptr_t SciWndData = 0; // its view
-    // The line on which it was seen last, and the change of the view's lines before that. Written by LineOf
-    // and DeclaredOn alone.
-    mutable int SeenOn = -1;
-    mutable unsigned SeenAt = 0;
+    mutable SeenLine Seen;        // of that marker; written by LineOf and DeclaredOn alone
 
     // Fields that not every class declares; those that do not, leave them at their defaults.
     std::uint8_t Tip = TipInteger;

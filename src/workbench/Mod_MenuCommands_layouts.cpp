@@ -1,6 +1,7 @@
 // Layouts: an arrangement in a file below AppDir, and the window's place in a section of the settings store.
 #include "workbench/Mod_MenuCommands.h"
 
+#include "documents/RecentFiles.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
@@ -97,6 +98,9 @@ void Mod_MenuCommands::ResetLayout() {
              .icon = MessageIcon::Question,
              .title = "Zolto - Reset Layout",
              .buttons = MessageButtons::YesNo});
-        if (answer == MessageAnswer::Yes) LoadArrangement(LoadFactoryLayout);
+        if (answer != MessageAnswer::Yes) return;
+        Mod_File::SaveRecentFilesProjects();
+        LoadArrangement(LoadFactoryLayout);
+        Mod_File::LoadRecentFilesProjects();
     });
 }

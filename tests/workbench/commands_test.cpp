@@ -1,4 +1,5 @@
 // The commands by their names: what the table and the default arrangement have to agree on.
+#include "ForgetFrame.h"
 #include "app/wire_up.h"
 #include "engine/ParserState.h"
 #include "host/Files.h"
@@ -250,7 +251,10 @@ struct RoutingTest : testing::Test {
         for (const std::string& name : Names) host.dock.Make(name, "File");
         host.dock.SetEvents(&frmMain::Instance());
     }
-    void TearDown() override { host.dock.SetEvents(nullptr); }
+    void TearDown() override {
+        host.dock.SetEvents(nullptr);
+        ForgetFrame();
+    }
     void Click(const char* name) { frmMain::Instance().DS_CommandClick(*host.dock.FindCommand(name), -1); }
 };
 

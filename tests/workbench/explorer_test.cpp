@@ -1,4 +1,6 @@
 // The Code Explorer on real edits, and navigation through several documents by the commands themselves.
+#include "ForgetFrame.h"
+#include "engine/SymbolLine.h"
 #include "engine/fixture/SourceTest.h"
 
 #include "documents/DocumentCalls.h"
@@ -43,6 +45,7 @@ protected:
     }
     ~ExplorerTest() override {
         host.dock.SetEvents(nullptr);
+        ForgetFrame();
         gDocumentCalls = {};
         Pane().hide();
     }
@@ -303,6 +306,9 @@ TEST_F(ExplorerTest, AClosedFileOfAProjectIsOpenedAgain) {
     OpenProject("Global a\r\n", "y\r\nGlobal b\r\n");
     Show("Globals");
     host.dock.FindDocumentWindow(host.Path("p/b.bb"))->SetVisible(false);
+    const SymbolPointer closed = gCurrentProject->Globals.ItemHash("b");
+    ASSERT_TRUE(closed) << "the other files still know it";
+    EXPECT_EQ(LineOf(*closed), -1);
     Select("lvGlobals", 1);
     gCurrentProject->MainFile.clear();
     host.dialogs.WillAnswer(MessageAnswer::Ok);

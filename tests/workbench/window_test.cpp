@@ -1,4 +1,5 @@
 // The main window as the program sets it up, with real documents in a real frame.
+#include "ForgetFrame.h"
 #include "app/wire_up.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
@@ -60,9 +61,8 @@ struct WindowTest : testing::Test {
         gCompilers.RemoveAll();
         gActiveCompiler.reset();
         DefaultCompiler.clear();
-        // The window's own references go to the commands of the frame that stays.
+        ForgetFrame();
         gHost.dock = &host.dock;
-        window.AdditionalUISetup();
         dock.reset();
     }
 
@@ -111,6 +111,9 @@ TEST_F(WindowTest, MenusOfferOnlyWhatWorks) {
 
 TEST_F(WindowTest, ResetBringsBackKeysMenusAndPanes) {
     const std::string before = host.Path("before.mp"), after = host.Path("after.mp");
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    const auto recent = dock->FindCommand("FileRecentFiles")->Items();
+    EXPECT_FALSE(recent.empty());
     dock->SaveLayout(before);
     auto* run = static_cast<QtCommand*>(dock->FindCommand("Compile and Run"));
     const auto keys = run->Record().shortcuts;
@@ -123,6 +126,7 @@ TEST_F(WindowTest, ResetBringsBackKeysMenusAndPanes) {
     Click("ResetLayout");
     EXPECT_EQ(static_cast<QtCommand*>(dock->FindCommand("Compile and Run"))->Record().shortcuts, keys);
     EXPECT_FALSE(dock->FindPane("Output")->AutoHidden());
+    EXPECT_EQ(dock->FindCommand("FileRecentFiles")->Items(), recent);
     dock->SaveLayout(after);
     Layout one = ParseLayout(host.files.Read(before)), two = ParseLayout(host.files.Read(after));
     one.windowState.clear();
