@@ -172,7 +172,7 @@ void Restore(const Workspace& workspace) {
         TakeHelpAside();
         if (!workspace.whole)
             messages.Add({"The workspace file is incomplete. What could be read of it was loaded."});
-        else if (workspace.version != KnownVersion)
+        else if (!workspace.version.empty() && workspace.version != KnownVersion)
             messages.Add({"The workspace file is of another version. What is known of it was loaded."});
         Arrange(workspace, messages);
         for (const WorkspaceEntry& entry : workspace.entries) Open(entry, messages);
@@ -207,7 +207,7 @@ bool LoadWorkSpace(const std::string& path) {
 }
 
 void SaveWorkSpaceAs() {
-    std::string path = gHost.dialogs->SaveFile({"Save Workspace As", Filter, {}, {}});
+    const std::string path = gHost.dialogs->SaveFile({"Save Workspace As", Filter, {}, {}});
     if (path.empty()) return;
     if (Write(path)) AddRecentWorkspace(path);
 }

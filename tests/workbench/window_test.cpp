@@ -4,6 +4,7 @@
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
@@ -14,6 +15,7 @@
 #include "engine/ParserState.h"
 #include "host/Host.h"
 #include "host/qt/QtDockStudio.h"
+#include "sci/Mod_Sci.h"
 #include "support/FakeHost.h"
 #include "workbench/FactoryLayout.h"
 #include "workbench/Mod_MenuCommands.h"
@@ -28,6 +30,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -227,6 +230,47 @@ TEST_F(WindowTest, EveryControlIsNamedForAssistiveTechnology) {
         }
         EXPECT_GT(seen, 6);
     }
+}
+
+// Two groups with a hidden tab in each; the caret of the one that is active is in a function.
+TEST_F(WindowTest, AWorkspaceBringsBackTheGroupsTheirFrontsAndTheActiveDocument) {
+    std::string source;
+    for (int number = 0; number < 100; ++number)
+        source += "Function Step" + std::to_string(number) + "()\r\n\tPrint 1\r\nEnd Function\r\n\r\n";
+    std::map<std::string, std::string> paths;
+    for (const char* name : {"a", "b", "c", "d"}) {
+        paths[name] = host.Put(std::string(name) + ".bb", source);
+        ASSERT_TRUE(Mod_File::OpenFile(paths[name]));
+    }
+    const auto at = [&](const char* name) { return dock->FindDocumentWindow(paths[name]); };
+    dock->NewTabGroup(true);
+    at("c")->Activate();
+    dock->MoveToTabGroup(1);
+    at("d")->Activate();
+    at("b")->Activate();
+    Mod_Sci::GotoPos(Mod_Sci::PositionFromLine(201)); // in Step50
+    QApplication::processEvents();
+    const std::string before = dock->WindowsText();
+    const auto top = Mod_Sci::GetFirstVisibleLine();
+    const std::string desk = host.Path("desk.zws");
+    Mod_File::SaveWorkSpace(desk);
+    Click("Close All Files");
+    EXPECT_TRUE(dock->DocumentWindows().empty());
+    ASSERT_TRUE(Mod_File::LoadWorkSpace(desk));
+    QApplication::processEvents();
+    EXPECT_EQ(dock->WindowsText(), before);
+    for (const char* name : {"a", "b", "c", "d"}) {
+        ASSERT_NE(at(name), nullptr) << name;
+        EXPECT_NE(at(name)->HostedForm(), nullptr) << name;
+        EXPECT_EQ(at(name)->InFront(), *name == 'b' || *name == 'd') << name;
+    }
+    ASSERT_NE(ActiveForm(), nullptr);
+    EXPECT_EQ(ActiveForm()->FullFilename, paths["b"]);
+    EXPECT_EQ(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), 201);
+    EXPECT_EQ(Mod_Sci::GetFirstVisibleLine(), top);
+    EXPECT_GT(top, 0);
+    EXPECT_EQ(dock->FindCommand("Functions")->Text(), "Step50");
+    EXPECT_TRUE(dock->FindCommand("Save File")->Enabled());
 }
 
 }

@@ -65,6 +65,13 @@ QString StartPath(const FileQuestion& question, const QString& lastFolder) {
     return folder.isEmpty() ? name : folder + '/' + name;
 }
 
+// What a name gets that is typed without an ending: that of the first pattern.
+QString Suffix(const std::string& filter) {
+    const QString pattern = Shown(filter).section('|', 1, 1).section(';', 0, 0).trimmed();
+    const QString suffix = pattern.startsWith("*.") ? pattern.mid(2) : QString();
+    return suffix.contains('*') ? QString() : suffix;
+}
+
 }
 
 QString ToolkitFilter(const std::string& filter) {
@@ -115,8 +122,12 @@ std::vector<std::string> QtDialogs::OpenFiles(const FileQuestion& question) {
 }
 
 std::string QtDialogs::SaveFile(const FileQuestion& question) {
-    const QString file = QFileDialog::getSaveFileName(
-        Parent(), Title(question.title), StartPath(question, lastFolder_), ToolkitFilter(question.filter));
+    QFileDialog dialog(Parent(), Title(question.title), StartPath(question, lastFolder_),
+                       ToolkitFilter(question.filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(Suffix(question.filter));
+    if (dialog.exec() != QDialog::Accepted) return {};
+    const QString file = dialog.selectedFiles().value(0);
     if (!file.isEmpty()) lastFolder_ = QFileInfo(file).path();
     return PathBytes(file);
 }
