@@ -60,6 +60,7 @@ struct WindowTest : testing::Test {
         dock->SetEvents(nullptr);
         for (DocumentWindow* open : dock->DocumentWindows()) open->Attach(nullptr);
         MakeActive(nullptr);
+        gDocumentCalls = {};
         gProjects.RemoveAll();
         gCompilers.RemoveAll();
         gActiveCompiler.reset();
@@ -234,6 +235,9 @@ TEST_F(WindowTest, EveryControlIsNamedForAssistiveTechnology) {
 
 // Two groups with a hidden tab in each; the caret of the one that is active is in a function.
 TEST_F(WindowTest, AWorkspaceBringsBackTheGroupsTheirFrontsAndTheActiveDocument) {
+    gDocumentCalls.DocumentWindowActivated = [this](DocumentWindow& active) {
+        window.DS_DocumentWindowActivate(active, false);
+    };
     std::string source;
     for (int number = 0; number < 100; ++number)
         source += "Function Step" + std::to_string(number) + "()\r\n\tPrint 1\r\nEnd Function\r\n\r\n";
