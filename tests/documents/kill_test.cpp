@@ -26,7 +26,12 @@ TEST(KillTest, WorkspaceSettingsAndRecentListsAreWholeAtEveryMoment) {
         QStringList arguments{ZOLTO_APPDIR, QString::fromStdString(host.folder)};
         for (const std::string& file : files) arguments << QString::fromStdString(file);
         saver.start(ZOLTO_SAVE_LOOP, arguments);
-        ASSERT_TRUE(saver.waitForReadyRead()) << saver.readAllStandardError().toStdString();
+        const bool saving = saver.waitForReadyRead();
+        if (!saving) {
+            saver.kill();
+            saver.waitForFinished();
+        }
+        ASSERT_TRUE(saving) << saver.readAllStandardError().toStdString();
         QThread::usleep(random() % 40000);
         saver.kill();
         ASSERT_TRUE(saver.waitForFinished());

@@ -29,6 +29,19 @@ TEST(SettingsTest, ValuesComeBackInAnyCaseAndWithAnyBytes) {
     EXPECT_EQ(store.Get("OptionsEdit", "CursorWidth", "1"), "1");
 }
 
+TEST(SettingsTest, TheLockOfAProcessThatWasKilledHoldsNobodyUp) {
+    FakeHost host;
+    host.Put("Zolto.conf.lock", "");
+    QElapsedTimer time;
+    time.start();
+    {
+        QtSettingsStore store(host.Path("Zolto.conf"));
+        store.Save("Options", "gStartUp", "1");
+    }
+    EXPECT_LT(time.elapsed(), 5000);
+    EXPECT_EQ(QtSettingsStore(host.Path("Zolto.conf")).Get("Options", "gStartUp", ""), "1");
+}
+
 TEST(SettingsTest, ADamagedFileIsPutAsideWithOneNotice) {
     FakeHost host;
     const std::string damaged = "[Options\nno equals sign \x01\x02\nrubbish";

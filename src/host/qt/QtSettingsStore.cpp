@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QThread>
 
 namespace {
 
@@ -50,12 +51,27 @@ QString UsablePath(const QString& path, const QtSettingsStore::Notice& notice) {
     return aside.isEmpty() ? QString() : path;
 }
 
+// A process that was killed between making the library's lock file and writing its name into it leaves an
+// empty one, which nobody is known to have left: the next writer would wait for half a minute.
+void RemoveOrphanedLock(const QString& path) {
+    constexpr int Rounds = 10;
+    constexpr int Milliseconds = 20;
+    const QString lock = path + ".lock";
+    for (int round = 0; round < Rounds; ++round) {
+        const QFileInfo info(lock);
+        if (!info.exists() || info.size() > 0) return;
+        QThread::msleep(Milliseconds);
+    }
+    QFile::remove(lock);
+}
+
 }
 
 QtSettingsStore::QtSettingsStore(const std::string& path, const Notice& notice) {
     QString file = PathText(path);
     if (path.empty())
         file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zolto/Zolto.conf";
+    RemoveOrphanedLock(file);
     file = UsablePath(file, notice);
     if (!file.isEmpty()) QDir().mkpath(QFileInfo(file).path());
     settings_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
