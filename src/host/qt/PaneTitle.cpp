@@ -40,6 +40,9 @@ PaneTitle::PaneTitle(QWidget* parent) : QWidget(parent), caption_(new QLabel(thi
     SetAutoHidden(false);
 }
 
+// The focus still moves while a widget is being taken apart.
+PaneTitle::~PaneTitle() { disconnect(qApp, nullptr, this, nullptr); }
+
 QToolButton* PaneTitle::MakeButton(const QString& name) {
     auto* button = new QToolButton(this);
     button->setObjectName(name);

@@ -10,6 +10,7 @@ class PaneTitle : public QWidget {
 
 public:
     explicit PaneTitle(QWidget* parent = nullptr);
+    ~PaneTitle() override;
 
     void SetCaption(const QString& caption);
     // Whether the pane is rolled away, for which the first button then brings it back.

@@ -13,6 +13,7 @@
 #include <QScopedValueRollback>
 #include <QUuid>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -33,7 +34,9 @@ QtDocumentArea::QtDocumentArea(QWidget* parent)
 
 QtDocumentArea::~QtDocumentArea() {
     events = nullptr;
-    windows_.clear();
+    // While a window goes its group shows another one, which must not be looked for among those that are gone.
+    arranging_ = true;
+    const auto windows = std::exchange(windows_, {});
 }
 
 TabGroup* QtDocumentArea::NewGroup() {
