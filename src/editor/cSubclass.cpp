@@ -21,6 +21,8 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
+#include <utility>
+
 EditorCalls gEditorCalls;
 bool gUndoGroupOpen = false;
 bool gUserEdited = false;
@@ -63,7 +65,9 @@ PipelineState& cSubclass::State() { return mFrmDoc.State; }
 void cSubclass::OnNotify(const SciNotification& notification) {
     if (gInErrorReport) return ForgetLines(mFrmDoc.SciEdi_WndData);
     const ActiveSwap swap(mFrmDoc);
+    const bool before = std::exchange(background_, background_ || swap.Swapped());
     Guarded("WindowProc", "cSubclass", [&] { Dispatch(notification); });
+    background_ = before;
 }
 
 void cSubclass::DeactivateCheck() {
@@ -202,7 +206,7 @@ void cSubclass::Painted() {
     }
     // So that scrolling always asks for styles: what is styled already is told by the lines shown.
     Mod_Sci::StartStyling(1, 255);
-    if (!gEditorCalls.SetPositionText) return;
+    if (background_ || !gEditorCalls.SetPositionText) return;
     const auto position = Mod_Sci::GetCurrentPos();
     const auto line = Mod_Sci::LineFromPosition(position);
     gEditorCalls.SetPositionText("L:" + Signed(line + 1) +

@@ -50,7 +50,8 @@ private:
     void ShowLine(int line);
 
     frmDoc& mFrmDoc;
-    bool parsing_ = false; // the scope that the colourers write belongs to the parser
+    bool background_ = false; // another document is the active one; what the window tells is about that one
+    bool parsing_ = false;    // the scope that the colourers write belongs to the parser
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

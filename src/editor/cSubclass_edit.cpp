@@ -315,14 +315,14 @@ void cSubclass::LeaveCurrentLook() {
 }
 
 void cSubclass::UpdateUi() {
-    gLastDocumentID = mFrmDoc.m_strDocumentWindowID;
+    if (!background_) gLastDocumentID = mFrmDoc.m_strDocumentWindowID;
     if (ParseEdited()) mFrmDoc.Redraw();
     const auto position = Mod_Sci::GetCurrentPos();
     int line = LineOf(position);
     if (std::exchange(gUserEdited, false)) Mod_SciFun::CheckCBrowser(position, line);
     if (line != mFrmDoc.Callback_OldLine) {
         LeaveCurrentLook();
-        if (OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
+        if (!background_ && OptionsEdit::ShowCurrentFunction && gEditorCalls.SetFunctionText)
             gEditorCalls.SetFunctionText(CurrentFunctionForDisplay(line));
         UpdateLineNumberMargin();
         mFrmDoc.Callback_OldLine = line;
@@ -333,9 +333,9 @@ void cSubclass::UpdateUi() {
         State().mForceColor = false;
         line = LineOf(Mod_Sci::GetCurrentPos());
     }
-    Mod_SciFun::ShowHelp(Mod_Sci::GetCurrentPos(), line);
+    if (!background_) Mod_SciFun::ShowHelp(Mod_Sci::GetCurrentPos(), line);
     if (OptionsEdit::HighlightMatchedBraces) HighlightBraces(Mod_Sci::GetCurrentPos());
-    if (gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
+    if (!background_ && gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
 }
 
 void cSubclass::ParseWaiting() {

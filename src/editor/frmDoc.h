@@ -62,6 +62,8 @@ public:
         MakeActive(before_);
         SciWndData = view_;
     }
+    // Whether another document was the active one.
+    bool Swapped() const { return swapped_; }
     ActiveSwap(const ActiveSwap&) = delete;
     ActiveSwap& operator=(const ActiveSwap&) = delete;
 

@@ -172,7 +172,15 @@ TEST_F(PipelineTest, ABackgroundViewLeavesTheActiveDocumentAsItWas) {
     frmDoc& front = OpenLines({"Global b"});
     const auto project = gCurrentProject;
     Mod_Sci::SendTo(back.SciEdi_WndData, SCI_INSERTTEXT, 0, Mod_Sci::Address("Global c\r\n"));
+    std::vector<std::string> told;
+    gEditorCalls.SetPositionText =
+        gEditorCalls.SetFunctionText = [&](const std::string& text) { told.push_back(text); };
+    gEditorCalls.SetTipText = [&](const TipText& tip) { told.push_back(tip.left); };
     back.m_oSubclass->OnNotify({.code = SCN_UPDATEUI});
+    back.m_oSubclass->OnNotify({.code = SCN_PAINTED});
+    EXPECT_EQ(told, std::vector<std::string>{}) << "the status bar is about the active document";
+    front.m_oSubclass->OnNotify({.code = SCN_PAINTED});
+    EXPECT_EQ(told, std::vector<std::string>{"L: 1 C: 1"});
     EXPECT_EQ(gActiveDoc, &front);
     EXPECT_EQ(SciWndData, front.SciEdi_WndData);
     EXPECT_EQ(gCurrentProject, project);
