@@ -156,6 +156,27 @@ TEST_F(ArrangementTest, ARestartBringsItBack) {
 }
 
 // The size comes after the arrangement, and later than it was asked for.
+TEST_F(ArrangementTest, AFloatingPaneIsPaintedAfterARestart) {
+    {
+        Studio studio(factory);
+        studio.dock.Window().findChild<QDockWidget*>("pane-Bottom")->setFloating(true);
+        Studio::Settle();
+        studio.dock.SaveLayout(saved);
+    }
+    QtDockStudio dock;
+    TextForm form;
+    dock.SuspendRepaint(true);
+    dock.LoadLayout(saved);
+    dock.AttachPane("Bottom", "Bottom", "", form, false);
+    dock.SuspendRepaint(false);
+    dock.ShowWindow();
+    Studio::Settle();
+    const auto* pane = dock.Window().findChild<QDockWidget*>("pane-Bottom");
+    ASSERT_TRUE(pane->isFloating());
+    EXPECT_TRUE(pane->isVisible());
+    EXPECT_TRUE(form.text.updatesEnabled());
+}
+
 TEST_F(ArrangementTest, AMaximisedWindowKeepsItsArrangement) {
     std::vector<std::string> arranged;
     {

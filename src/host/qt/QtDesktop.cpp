@@ -1,6 +1,7 @@
 // What only the desktop can do, through the toolkit.
 #include "host/qt/QtDesktop.h"
 
+#include "host/qt/Painting.h"
 #include "host/qt/QtText.h"
 
 #include <QApplication>
@@ -53,7 +54,7 @@ void QtDesktop::SetWaitCursor(bool on) {
 }
 
 void QtDesktop::LockWindowUpdate(bool lock) {
-    if (QMainWindow* window = MainWindow()) window->setUpdatesEnabled(!lock);
+    if (QMainWindow* window = MainWindow()) SetPainting(*window, !lock);
 }
 
 void QtDesktop::Beep() { QApplication::beep(); }

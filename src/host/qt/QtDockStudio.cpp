@@ -4,6 +4,7 @@
 #include "host/Failure.h"
 #include "host/Paths.h"
 #include "host/qt/CustomizeDialog.h"
+#include "host/qt/Painting.h"
 #include "host/qt/QtText.h"
 #include "host/qt/StartPage.h"
 
@@ -190,9 +191,9 @@ void QtDockStudio::SuspendRepaint(bool suspend) {
     // Within a stop of somebody else's the painting stays stopped.
     if (suspend && suspended_++ == 0) {
         painted_ = window_.updatesEnabled();
-        window_.setUpdatesEnabled(false);
+        SetPainting(window_, false);
     } else if (!suspend && --suspended_ == 0) {
-        window_.setUpdatesEnabled(painted_);
+        SetPainting(window_, painted_);
     }
 }
 

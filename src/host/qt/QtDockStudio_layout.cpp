@@ -1,5 +1,6 @@
 // The arrangement as a whole: loading, saving, and the place of the window.
 #include "host/Failure.h"
+#include "host/qt/Painting.h"
 #include "host/qt/QtDockStudio.h"
 #include "host/qt/QtFiles.h"
 #include "host/qt/QtText.h"
@@ -47,7 +48,7 @@ Layout QtDockStudio::Present() {
 void QtDockStudio::Apply(const Layout& layout) {
     // Whoever stopped the painting before is also the one to let it go on.
     const bool paints = window_.updatesEnabled();
-    window_.setUpdatesEnabled(false);
+    SetPainting(window_, false);
     window_.menuBar()->clear();
     table_.Replace(layout.commands);
     for (const auto& command : table_.All())
@@ -61,7 +62,7 @@ void QtDockStudio::Apply(const Layout& layout) {
     settling_.start();
     if (!documents_.area.parts.empty()) area_->Restore(documents_, false);
     RestoreSizes();
-    window_.setUpdatesEnabled(paints);
+    SetPainting(window_, paints);
 }
 
 // A bar that is there already keeps its object: the click that loads a layout may come from it.
