@@ -18,6 +18,7 @@ struct EditorCalls {
     std::function<void(const std::string& text)> SetPositionText; // status pane "L: 1 C: 1"
     std::function<void(const std::string& text)> SetFunctionText; // status pane of the current function
     std::function<void(const TipText& tip)> SetTipText;           // the tip box
+    std::function<void()> OpenBrowser;                            // makes the help window where there is none
     // The help page of a word; false when no page has it.
     std::function<bool(const std::string& word)> ShowBrowserHelp;
     std::function<void()> UpdateSciCommandUI;              // "Undo" and "Redo" enable

@@ -2,6 +2,7 @@
 #include "editor/Mod_SciFun_tips.h"
 
 #include "editor/EditorCalls.h"
+#include "editor/Pipeline.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
@@ -186,6 +187,8 @@ void ShowCalltip() {
 void KeywordHelp() {
     if (!DocumentActive()) return;
     Guarded("KeywordHelp", "Mod_SciFun", [] {
+        gLastDocumentID = gActiveDoc->m_strDocumentWindowID;
+        if (gEditorCalls.OpenBrowser) gEditorCalls.OpenBrowser();
         const auto pos = Mod_Sci::GetCurrentPos();
         const std::string word =
             Mod_Sci::GetTextRange(Mod_Sci::WordStartPosition(pos, 1), Mod_Sci::WordEndPosition(pos, 1));

@@ -108,6 +108,8 @@ TEST_F(TipsTest, TheCommandOpensTheTipOfTheCallUnderTheCaret) {
 
 TEST_F(TipsTest, AWordWithoutAHelpPageBeeps) {
     std::string asked;
+    int opened = 0;
+    gEditorCalls.OpenBrowser = [&] { ++opened; };
     gEditorCalls.ShowBrowserHelp = [&](const std::string& word) {
         asked = word;
         return word == "Print";
@@ -115,6 +117,8 @@ TEST_F(TipsTest, AWordWithoutAHelpPageBeeps) {
     TipAt("Pri|nt 1");
     Mod_SciFun::KeywordHelp();
     EXPECT_EQ(asked, "Print");
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(gLastDocumentID, ActiveForm()->m_strDocumentWindowID) << "the way back";
     EXPECT_EQ(host.desktop.beeps, 0);
     Leave(0);
     Mod_Sci::GotoPos(Mod_Sci::GetLength());
