@@ -47,6 +47,10 @@ public:
                                                 SystemError& error) = 0;
     // Starts a program of its own, uncaptured. The error is empty on success.
     virtual SystemError StartDetached(const std::string& command) = 0;
+    // Whether this system has a terminal program.
+    virtual bool HasTerminal() = 0;
+    // Starts a program in a terminal window of its own. The error is empty on success.
+    virtual SystemError StartInTerminal(const ProcessStart& start) = 0;
     // Runs a command with its output going to a file, pumping events, for at most `milliseconds`;
     // then it is left running. True when it ended in time.
     virtual bool RunIntoFile(const std::string& command, const std::string& target, int milliseconds) = 0;

@@ -95,13 +95,17 @@ void StdShell::Tick() {
     // A handler may pump the queue, and so bring the next tick before this one is done.
     if (!Running() || inTick_) return;
     const auto alive = alive_;
+    bool ended = false;
     {
         const TickMark mark(inTick_, alive);
         Poll(ChildPipe::Output, partialOutput_, ConsoleOutput);
         if (*alive) Poll(ChildPipe::Error, partialError_, ConsoleError);
         if (*alive) FeedInput();
+        ended = *alive && child_->HasEnded();
+        if (ended) DeliverRest(partialOutput_, ConsoleOutput);
+        if (ended && *alive) DeliverRest(partialError_, ConsoleError);
     }
-    if (!*alive || !child_->HasEnded()) return;
+    if (!ended || !*alive) return;
     gHost.desktop->KillTimer(timerId_);
     const SystemError error = child_->Close();
     if (error) Report(error);
@@ -119,6 +123,11 @@ void StdShell::Poll(ChildPipe pipe, std::string& partial, const LineEvent& event
     if (!error && count > 0) error = child_->Read(pipe, count, bytes);
     if (error) return Report(error);
     if (!bytes.empty()) Split(bytes, partial, event);
+}
+
+// A program's last line often has no line end behind it.
+void StdShell::DeliverRest(std::string& partial, const LineEvent& event) {
+    if (!partial.empty()) Raise(event, std::exchange(partial, {}));
 }
 
 void StdShell::FeedInput() {

@@ -48,6 +48,7 @@ private:
 
     bool Start(const std::string& command, const std::string& directory, const char* pipeMessage);
     void Poll(ChildPipe pipe, std::string& partial, const LineEvent& event);
+    static void DeliverRest(std::string& partial, const LineEvent& event);
     void FeedInput();
     void Report(const SystemError& error);
     void Split(const std::string& data, std::string& partial, const LineEvent& event);

@@ -128,6 +128,37 @@ TEST_F(ProcessesTest, OutputGoesToAFileAndALongRunIsLeftAlone) {
     EXPECT_FALSE(processes.RunIntoFile(Script("sleep 1"), out, 50));
 }
 
+TEST_F(ProcessesTest, AProgramRunsInTheTerminalThatIsThere) {
+    const std::string seen = host.Path("seen");
+    const std::string program = Script("echo ran \"$1\" in $PWD >> '" + seen + "'");
+    const std::string folder = host.Path("bin");
+    const auto terminal = [&](const std::string& name, const std::string& option) {
+        const std::string path = host.Put("bin/" + name, "#!/bin/sh\necho " + name + " >> '" + seen + "'\n" +
+                                                             (option.empty() ? "" : "[ \"$1\" = " + option +
+                                                                                        " ] && shift\n") +
+                                                             "\"$@\" </dev/null >/dev/null\n");
+        chmod(path.c_str(), 0755);
+    };
+    const std::string oldPath = getenv("PATH");
+    setenv("PATH", folder.c_str(), 1);
+    unsetenv("TERMINAL");
+    EXPECT_FALSE(processes.HasTerminal());
+    setenv("PATH", (folder + ":/bin:/usr/bin").c_str(), 1);
+    for (const auto& [name, option] : {std::pair{"xdg-terminal-exec", ""}, {"x-terminal-emulator", "-e"},
+                                       {"gnome-terminal", "--"}}) {
+        terminal(name, option);
+        if (option == std::string("--")) setenv("TERMINAL", name, 1);
+        host.files.Write(seen, "");
+        ASSERT_TRUE(processes.HasTerminal());
+        ASSERT_FALSE(processes.StartInTerminal({program + " \"a b\"", "/"}));
+        const std::string wanted = std::string(name) + "\nran a b in /\n";
+        for (int round = 0; round < 500 && host.files.Read(seen) != wanted; ++round) usleep(10000);
+        EXPECT_EQ(host.files.Read(seen), wanted);
+    }
+    unsetenv("TERMINAL");
+    setenv("PATH", oldPath.c_str(), 1);
+}
+
 TEST(CommandTextTest, DoubleQuotesHoldArgumentsTogether) {
     using Arguments = std::vector<std::string>;
     EXPECT_EQ(SplitCommand("\"/a b/c\" -o  \"x y\"z \"\""), (Arguments{"/a b/c", "-o", "x yz", ""}));

@@ -176,7 +176,12 @@ std::unique_ptr<ChildProcess> FakeProcesses::Start(const ProcessStart& start, bo
 
 SystemError FakeProcesses::StartDetached(const std::string& command) {
     detached.push_back(command);
-    return {};
+    return releaseError;
+}
+
+SystemError FakeProcesses::StartInTerminal(const ProcessStart& start) {
+    inTerminal.push_back(start.command);
+    return releaseError;
 }
 
 bool FakeProcesses::RunIntoFile(const std::string& command, const std::string& target, int) {

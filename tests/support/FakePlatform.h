@@ -104,12 +104,16 @@ public:
     std::unique_ptr<ChildProcess> Start(const ProcessStart& start, bool& pipeFailed,
                                         SystemError& error) override;
     SystemError StartDetached(const std::string& command) override;
+    bool HasTerminal() override { return hasTerminal; }
+    SystemError StartInTerminal(const ProcessStart& start) override;
     bool RunIntoFile(const std::string& command, const std::string& target, int milliseconds) override;
     void SetEnvironment(const std::string& name, const std::string& value) override {
         environment[name] = value;
     }
 
-    std::vector<std::string> started, detached, redirected; // the command texts
+    bool hasTerminal = true;
+    SystemError releaseError;                                           // of what is not captured
+    std::vector<std::string> started, detached, inTerminal, redirected; // the command texts
     std::map<std::string, std::string> environment;
     std::string redirectedOutput; // what RunIntoFile writes
     std::string input;            // what was written to all children

@@ -4,6 +4,7 @@
 #include "host/qt/ChildOnPipes.h"
 #include "host/qt/CommandText.h"
 #include "host/qt/Spawn.h"
+#include "host/qt/Terminal.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -45,7 +46,14 @@ bool MakePipe(Pipe& made, OurEnd ours, SystemError& error) {
 
 }
 
-QtProcesses::QtProcesses() { std::signal(SIGPIPE, SIG_IGN); }
+QtProcesses::QtProcesses() {
+    std::signal(SIGPIPE, SIG_IGN);
+    // A pipe must never take the place of a standard stream that was closed at the start.
+    int place;
+    do place = open("/dev/null", O_RDWR);
+    while (place >= 0 && place <= STDERR_FILENO);
+    if (place > STDERR_FILENO) close(place);
+}
 
 std::unique_ptr<ChildProcess> QtProcesses::Start(const ProcessStart& start, bool& pipeFailed,
                                                  SystemError& error) {
@@ -73,6 +81,24 @@ SystemError QtProcesses::StartDetached(const std::string& command) {
     SpawnRequest request;
     request.arguments = SplitCommand(command);
     if (SystemError error = PrepareCommand(request.arguments)) return error;
+    return Release(request);
+}
+
+bool QtProcesses::HasTerminal() { return !FindTerminal().empty(); }
+
+SystemError QtProcesses::StartInTerminal(const ProcessStart& start) {
+    ReapLeftAlone();
+    SpawnRequest request;
+    request.directory = start.directory;
+    request.arguments = SplitCommand(start.command);
+    if (SystemError error = PrepareCommand(request.arguments)) return error;
+    request.arguments = InTerminal(FindTerminal(), request.arguments);
+    if (SystemError error = PrepareCommand(request.arguments)) return error;
+    return Release(request);
+}
+
+// Starts what nobody waits for.
+SystemError QtProcesses::Release(SpawnRequest request) {
     request.output = STDOUT_FILENO;
     request.error = STDERR_FILENO;
     request.lowPriority = false;
