@@ -69,7 +69,6 @@ void WireToolchain() {
         frmCompiling::Instance().Open(Shown(label));
     };
     gToolchainCalls.CloseCompiling = [] { frmCompiling::Instance().close(); };
-    gToolchainCalls.CompilingValue = [] { return frmCompiling::Instance().Value(); };
     gToolchainCalls.SetCompilingValue = [](int value) { frmCompiling::Instance().SetValue(value); };
 }
 

@@ -19,6 +19,7 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Text.h"
+#include "host/WaitCursor.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
@@ -36,14 +37,6 @@ constexpr std::size_t ShortestNamedPath = 3; // such a path is tried whatever it
 
 constexpr const char* OpenFilter = "All Supported Formats|*.bb;*.zpf|Zolto Project Files (*.zpf)|*.zpf|Blitz "
                                    "Basic File (*.bb)|*.bb|All Files|*.*";
-
-class WaitCursor {
-public:
-    WaitCursor() { gHost.desktop->SetWaitCursor(true); }
-    ~WaitCursor() { gHost.desktop->SetWaitCursor(false); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 DocumentWindow* WindowOfFile(const std::string& path) {
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) {

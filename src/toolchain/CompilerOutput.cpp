@@ -1,5 +1,5 @@
-// The classifier of output lines. The value of the progress bar is its state: lines that are no banner count
-// 21 each, and a line with a colon between the first and the fourth is an error.
+// The classifier of output lines. While the compiler is at work, lines that are no banner count 21 each, and an
+// error line between the first and the fourth ends the compile. Everything behind it is the program's own.
 #include "toolchain/CompilerOutput.h"
 
 #include "documents/Mod_File.h"
@@ -9,6 +9,7 @@
 #include "engine/ClsProject.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
+#include "host/Files.h"
 #include "host/Host.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
@@ -16,6 +17,8 @@
 
 #include <array>
 #include <charconv>
+#include <memory>
+#include <optional>
 
 bool Mod_Compiler::gCreatingExe = false;
 std::string Mod_Compiler::gTargetExe;
@@ -24,58 +27,28 @@ namespace {
 
 constexpr int Step = 21;
 constexpr int LastStep = 78;
-constexpr std::size_t UniqueIdLength = 38;
-constexpr int FailureNoSecondQuote = 5;
 
 void Append(const std::string& line) {
     if (gToolchainCalls.AppendOutput) gToolchainCalls.AppendOutput(line);
 }
 
-void CloseProgress() {
-    if (gToolchainCalls.CloseCompiling) gToolchainCalls.CloseCompiling();
-}
-
-void OnOutput(const std::string& line) {
-    if (line.empty()) return;
-    if (line.starts_with("Compiling") || line.starts_with("Creating")) {
-        Append(line);
-        return;
-    }
-    const int value = gToolchainCalls.CompilingValue ? gToolchainCalls.CompilingValue() : 0;
-    if (!line.starts_with("BlitzCC") && !line.starts_with("(C)")) {
-        if (value >= LastStep)
-            CloseProgress();
-        else if (gToolchainCalls.SetCompilingValue)
-            gToolchainCalls.SetCompilingValue(value + Step);
-    }
-    if (line.find(':') != std::string::npos && value >= 1 && value < LastStep) {
-        CloseProgress();
-        Mod_Compiler::ParseError(line);
-        if (SciWndData != 0) Mod_Sci::GrabFocus();
-        return;
-    }
-    Append(line);
-}
-
-void OnComplete(int exitCode) {
-    CloseProgress();
-    if (Mod_Compiler::gCreatingExe && exitCode == 0) {
-        Options::gLastCreatedExe = Mod_Compiler::gTargetExe;
-        gHost.settings->Save("Options", "gLastCreatedExe", Options::gLastCreatedExe);
-    }
-    if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
-}
-
 struct ErrorLine {
     std::string file;
     std::array<std::string, 6> fields; // as they stand between colons; the first is empty
+    int row = 0, column = 0;           // from 1
 };
 
-// Takes an error line apart. A line without a quoted file in front is none.
-ErrorLine Read(const std::string& line) {
+// Nothing when the text is no number.
+std::optional<int> Number(const std::string& text) {
+    int number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    return result.ec == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+// Takes an error line apart. Nothing for a line without a quoted file in front, a line and a column.
+std::optional<ErrorLine> Read(const std::string& line) {
     const std::size_t second = line.find('"', 1);
-    if (line.empty() || line[0] != '"' || second == std::string::npos)
-        throw Failure(FailureNoSecondQuote, "Invalid procedure call or argument");
+    if (line.empty() || line[0] != '"' || second == std::string::npos) return std::nullopt;
     ErrorLine error;
     error.file = line.substr(1, second - 1);
     std::size_t from = second + 1;
@@ -85,78 +58,161 @@ ErrorLine Read(const std::string& line) {
         field = line.substr(from, end - from);
         from = end + 1;
     }
+    const auto row = Number(error.fields[1]), column = Number(error.fields[2]);
+    if (!row || !column) return std::nullopt;
+    error.row = *row;
+    error.column = *column;
     return error;
 }
 
-int Number(const std::string& text) {
-    int number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc()) throw Failure(FailureTypeMismatch, "Type mismatch");
-    return number;
-}
-
-// Brings the document of an error to the front.
-void ShowDocument(const ErrorLine& error, const std::string& target) {
-    const std::string active = gActiveDoc == nullptr ? std::string() : gActiveDoc->FullFilename;
-    if (EqualNoCase(target, active)) return;
-    if (active.size() == UniqueIdLength && active.starts_with('{')) return;
-    DocumentWindow* window = gHost.dock->FindDocumentWindow(error.file);
-    if (window == nullptr) {
-        Mod_File::OpenFile(target);
-        return;
+// The file of an error on disk; a relative name counts from the compiled file. Empty where there is none.
+std::string OnDisk(const ErrorLine& error, const CompilerJob& job) {
+    const std::string named = CollapseSeparators(ToDisk(error.file));
+    for (const std::string& path : {named, GetFolder(job.file) + named}) {
+        const std::string found = gHost.files->Find(path);
+        if (gHost.files->Kind(found) == PathKind::File) return found;
     }
-    window->Activate();
-    if (window->HostedForm() != nullptr) MakeActive(static_cast<frmDoc*>(window->HostedForm()));
+    return {};
 }
 
-// The open document of a real project that an error names; empty for a single file.
-std::string Target(const ErrorLine& error) {
-    if (!gCurrentProject || gCurrentProject->SingleFile) return {};
-    const auto source = gCurrentProject->Sources.Find(error.file);
-    return source ? source->FullFilename : std::string();
+frmDoc* FormIn(DocumentWindow* window) {
+    return window == nullptr ? nullptr : dynamic_cast<frmDoc*>(window->HostedForm());
 }
 
-void Report(const ErrorLine& error, const std::string& target, std::intptr_t caret) {
+// Brings the document of an error to the front. Null when there is none and the user named none either.
+frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
+    DocumentWindow* window = gHost.dock->FindDocumentWindow(error.file);
+    const std::string path = OnDisk(error, job);
+    // A document that was never saved is compiled from a copy of its text.
+    if (!job.document.empty() && path == job.file)
+        window = gHost.dock->FindDocumentWindow(job.document);
+    else if (window == nullptr && !path.empty())
+        window = gHost.dock->FindDocumentWindow(path);
+    if (frmDoc* document = FormIn(window)) {
+        if (document == gActiveDoc) return document;
+        window->Activate();
+        MakeActive(document);
+        return document;
+    }
+    const frmDoc* before = ActiveForm();
+    const bool opened = Mod_File::OpenFile(path);
+    return opened || ActiveForm() != before ? ActiveForm() : nullptr;
+}
+
+// How the message names the file: a single file that was compiled itself is not named.
+std::string ShownFile(const ErrorLine& error, const frmDoc* document, const CompilerJob& job) {
+    if (document == nullptr) return error.file;
+    const bool itself =
+        document->SingleFile && (job.file.empty() || document->m_strDocumentWindowID == job.document);
+    return itself ? std::string() : document->FullFilename;
+}
+
+void Report(const ErrorLine& error, const std::string& file) {
     const std::string& message = error.fields[5];
     const std::string place = "Line: " + error.fields[1] + ", Column: " + error.fields[2];
     Append("Compile Error In " + place + " -->  " + message);
     if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
-    gHost.dialogs->Show({message + "\r\n\r\nFile: " + target + "\r\n\r\n" + place + " ",
+    gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ",
                          MessageIcon::Critical, gActiveCompiler->Name + " Compiling Error"});
-    if (SciWndData == 0) return;
-    Mod_Sci::SetSel(caret, caret);
-    Mod_Sci::GrabFocus();
 }
+
+// One child of a document's console runner. It lives as long as the runner listens to it.
+class Listener {
+public:
+    Listener(StdShell& shell, CompilerJob job, const std::string& label)
+        : shell_(shell), job_(std::move(job)), compiling_(job_.compiles) {
+        if (!compiling_) return;
+        shown = this;
+        if (gToolchainCalls.ShowCompiling) gToolchainCalls.ShowCompiling(label);
+        SetValue(0);
+    }
+    // A document that is closed takes its child along, and what tells of it.
+    ~Listener() { EndCompile(); }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+    void OnOutput(const std::string& line) {
+        if (line.empty()) return;
+        if (compiling_ && !line.starts_with("Compiling") && !line.starts_with("Creating")) {
+            const int value = value_;
+            if (!line.starts_with("BlitzCC") && !line.starts_with("(C)"))
+                value >= LastStep ? EndCompile() : SetValue(value + Step);
+            if (value >= 1 && value < LastStep && Read(line)) {
+                EndCompile();
+                Mod_Compiler::ParseError(line, job_);
+                if (SciWndData != 0) Mod_Sci::GrabFocus();
+                return;
+            }
+        }
+        Append(line);
+    }
+
+    void OnComplete(int exitCode) {
+        EndCompile();
+        if (Mod_Compiler::gCreatingExe && exitCode == 0) {
+            Options::gLastCreatedExe = Mod_Compiler::gTargetExe;
+            gHost.settings->Save("Options", "gLastCreatedExe", Options::gLastCreatedExe);
+        }
+        if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
+    }
+
+    static void StopShown() {
+        if (shown != nullptr && shown->shell_.Running()) shown->shell_.Terminate();
+    }
+
+private:
+    void SetValue(int value) {
+        value_ = value;
+        if (shown == this && gToolchainCalls.SetCompilingValue) gToolchainCalls.SetCompilingValue(value);
+    }
+    void EndCompile() {
+        compiling_ = false;
+        if (shown != this) return; // another document's compile has the window
+        shown = nullptr;
+        if (gToolchainCalls.CloseCompiling) gToolchainCalls.CloseCompiling();
+    }
+
+    inline static Listener* shown = nullptr; // the one that the progress window tells of
+
+    StdShell& shell_;
+    const CompilerJob job_;
+    bool compiling_;
+    int value_ = 0;
+};
 
 } // namespace
 
-void CompilerOutput::Listen(frmDoc& document) {
-    document.ShellClass->ConsoleOutput = OnOutput;
-    document.ShellClass->ProcessComplete = OnComplete;
+void CompilerOutput::Listen(frmDoc& document, const CompilerJob& job, const std::string& label) {
+    const auto listener = std::make_shared<Listener>(*document.ShellClass, job, label);
+    document.ShellClass->ConsoleOutput = [listener](const std::string& line) { listener->OnOutput(line); };
+    document.ShellClass->ProcessComplete = [listener](int exitCode) { listener->OnComplete(exitCode); };
 }
 
-void Mod_Compiler::ParseError(const std::string& line) {
-    ErrorLine error;
-    int row = 0;
-    int column = 0;
-    try {
-        error = Read(line);
-        row = Number(error.fields[1]);
-        column = Number(error.fields[2]);
-    } catch (const Failure&) {
-        return; // not an error line: it ends without a word
-    }
+void CompilerOutput::Forget(frmDoc& document) {
+    document.ShellClass->ConsoleOutput = nullptr;
+    document.ShellClass->ProcessComplete = nullptr;
+}
+
+void CompilerOutput::StopShown() { Listener::StopShown(); }
+
+void Mod_Compiler::ParseError(const std::string& line, const CompilerJob& job) {
+    const auto error = Read(line);
+    if (!error) return;
     Guarded("ParseError", "Mod_Compiler", [&] {
-        const std::string target = Target(error);
-        ShowDocument(error, target);
-        if (SciWndData == 0) return;
-        const auto start = Mod_Sci::PositionFromLine(row - 1);
-        const auto caret = start + column - 1;
+        const frmDoc* document = ShowDocument(*error, job);
+        const std::string file = ShownFile(*error, document, job);
+        if (document == nullptr) return Report(*error, file);
+        const auto start = Mod_Sci::PositionFromLine(error->row - 1);
+        const auto caret = start + error->column - 1;
         Mod_Sci::GotoPos(caret);
         if (caret <= start)
-            Mod_Sci::SetSel(start, start + Mod_Sci::LineLength(row - 1));
+            Mod_Sci::SetSel(start, start + Mod_Sci::LineLength(error->row - 1));
         else
             Mod_Sci::SetSel(start, caret);
-        Report(error, target, caret);
+        const std::string window = document->m_strDocumentWindowID;
+        Report(*error, file);
+        if (gActiveDoc == nullptr || gActiveDoc->m_strDocumentWindowID != window) return;
+        Mod_Sci::SetSel(caret, caret);
+        Mod_Sci::GrabFocus();
     });
 }

@@ -3,6 +3,7 @@
 
 #include "documents/Mod_File.h"
 #include "documents/Options.h"
+#include "editor/EditorCalls.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
@@ -12,7 +13,7 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Processes.h"
-#include "host/SettingsStore.h"
+#include "host/WaitCursor.h"
 #include "toolchain/CompilerOutput.h"
 #include "toolchain/ToolchainCalls.h"
 
@@ -24,7 +25,7 @@ std::string gLastCompiledFile;
 
 namespace {
 
-enum class Job { Run, Check, Build };
+using Job = CompilerJob::Kind;
 
 void Exclaim(std::string text, std::string title = {}) {
     gHost.dialogs->Show({std::move(text), MessageIcon::Exclamation, std::move(title)});
@@ -37,8 +38,9 @@ bool SingleFileToCompile(Job job, std::string& path) {
         path = CollapseSeparators(AppDir() + "/Temp/New.bb");
         return Mod_File::WriteTextFile(path);
     }
-    if (document.Dirty && !Mod_File::SaveFile(&document)) return false;
-    if (path.empty() || (job == Job::Build && path.starts_with('{'))) path = document.FullFilename;
+    if ((document.Dirty || document.NewFile) && !Mod_File::SaveFile(&document)) return false;
+    // A new document has got its name only now.
+    if (job == Job::Build || path.empty()) path = document.FullFilename;
     return true;
 }
 
@@ -96,8 +98,58 @@ std::string CollapseBlanks(const std::string& command) {
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
+std::string Command(Job job, bool debug, const std::string& compiler, const std::string& target,
+                    const std::string& path) {
+    std::string command = Quoted(compiler) + " ";
+    if (job == Job::Run && debug) command += " -d ";
+    if (job == Job::Check) command += " -c ";
+    if (job == Job::Build) command += " -o " + Quoted(target) + " ";
+    command += Quoted(path);
+    if (job == Job::Run && !gCurrentProject->CommandLine.empty())
+        command += " " + gCurrentProject->CommandLine;
+    return CollapseBlanks(command);
+}
+
+void Append(const std::string& line) {
+    if (gToolchainCalls.AppendOutput) gToolchainCalls.AppendOutput(line);
+}
+
+// A program with a console of its own. False, after a word in the Output pane, where there is no terminal.
+bool RunInTerminal(const ProcessStart& start) {
+    if (!gHost.processes->HasTerminal()) {
+        Append("No terminal program was found: what runs is shown here.");
+        return false;
+    }
+    if (const SystemError error = gHost.processes->StartInTerminal(start)) Exclaim(error.text);
+    return true;
+}
+
+// Starts a child whose output the document's runner captures; what is in the way is told.
+void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& start) {
+    constexpr const char* labels[] = {"Compiling program...", "Checking for errors...",
+                                      "Creating executable..."};
+    StdShell& shell = *document.ShellClass;
+    std::string problem;
+    shell.Error = [&problem](const std::string& message, int) { problem = message; };
+    CompilerOutput::Listen(document, job, labels[static_cast<int>(job.kind)]);
+    const bool started = job.kind == Job::Run ? shell.Execute(start.command, "", start.directory)
+                                              : shell.ExecuteNoCheck(start.command, start.directory);
+    shell.Error = nullptr;
+    if (started) return;
+    CompilerOutput::Forget(document);
+    Append(problem);
+    Exclaim(problem);
+}
+
+// A document runs one child at a time. True, after a word in the status bar, while one runs.
+bool Busy(const frmDoc& document) {
+    if (!document.ShellClass->Running()) return false;
+    if (gEditorCalls.SetTipText) gEditorCalls.SetTipText({"Process already running.", {}, {}});
+    return true;
+}
+
 bool StartJob(Job job, std::string path, bool debug) {
-    if (!DocumentActive() || !gCurrentProject) return false;
+    if (!DocumentActive() || !gCurrentProject || Busy(*ActiveForm())) return false;
     if (!gActiveCompiler) throw Failure(91, "No compiler is active");
     gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
     if (!(gCurrentProject->SingleFile ? SingleFileToCompile(job, path) : ProjectFileToCompile(path)))
@@ -111,32 +163,15 @@ bool StartJob(Job job, std::string path, bool debug) {
     std::string compiler;
     if (!FindCompiler(compiler)) return false;
 
-    std::string command = Quoted(compiler) + " ";
-    if (job == Job::Run && debug) command += " -d ";
-    if (job == Job::Check) command += " -c ";
-    if (job == Job::Build) command += " -o " + Quoted(target) + " ";
-    command += Quoted(path);
-    if (job == Job::Run && !gCurrentProject->CommandLine.empty())
-        command += " " + gCurrentProject->CommandLine;
-    command = CollapseBlanks(command);
-
-    frmDoc& document = *ActiveForm();
+    const std::string command = Command(job, debug, compiler, target, path);
     if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
-    if (job == Job::Run && gActiveCompiler->RealConsole) {
-        gHost.processes->StartDetached(command);
-        return false;
-    }
-    CompilerOutput::Listen(document);
-    constexpr const char* labels[] = {"Compiling program...", "Checking for errors...",
-                                      "Creating executable..."};
-    if (gToolchainCalls.ShowCompiling) gToolchainCalls.ShowCompiling(labels[static_cast<int>(job)]);
-    if (gToolchainCalls.SetCompilingValue) gToolchainCalls.SetCompilingValue(0);
+    if (job == Job::Run && gActiveCompiler->RealConsole && RunInTerminal({command, ""})) return false;
     gCreatingExe = job == Job::Build;
     if (gCreatingExe) gTargetExe = target;
-    if (job == Job::Run)
-        document.ShellClass->Execute(command, compiler, "");
-    else
-        document.ShellClass->ExecuteNoCheck(command, "");
+    frmDoc& document = *ActiveForm();
+    StartChild(document,
+               {job, path, gCurrentProject->SingleFile ? document.m_strDocumentWindowID : std::string()},
+               {command, ""});
     return false;
 }
 
@@ -173,7 +208,14 @@ void RunLastCreated() {
         Exclaim("File " + Options::gLastCreatedExe + " not found !");
         return;
     }
-    if (const SystemError error = gHost.processes->StartDetached(Quoted(Options::gLastCreatedExe)))
+    // A program finds its pictures and sounds beside itself.
+    const ProcessStart start{Quoted(Options::gLastCreatedExe), GetFolder(Options::gLastCreatedExe)};
+    if (!gHost.processes->HasTerminal() && DocumentActive() && Busy(*ActiveForm())) return;
+    if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
+    if (RunInTerminal(start)) return;
+    if (DocumentActive())
+        StartChild(*ActiveForm(), {Job::Run, Options::gLastCreatedExe, {}, false}, start);
+    else if (const SystemError error = gHost.processes->StartDetached(start.command))
         Exclaim(error.text);
 }
 
@@ -197,9 +239,10 @@ void RefreshDefinitions(const std::string& compilerName, const std::string& comp
         constexpr long long SmallestKeywordFile = 3000;
         const std::string target = AppPath("Conf\\" + compilerName + ".lng");
         if (gHost.files->Kind(target) == PathKind::None) Mod_File::CreateEmptyFile(target);
-        gHost.desktop->SetWaitCursor(true);
-        gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
-        gHost.desktop->SetWaitCursor(false);
+        {
+            const WaitCursor wait;
+            gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
+        }
         if (gHost.files->Size(target) >= SmallestKeywordFile) {
             gCompilers.Item(compilerName)->LoadKeywords();
             gHost.dialogs->Show(

@@ -9,10 +9,9 @@ struct ToolchainCalls {
     std::function<void()> ClearOutput;
     std::function<void(const std::string& line)> AppendOutput;
     std::function<void()> ScrollOutputToEnd;
-    // The progress window, and its bar from 0 to 100, which reads 0 while the window is closed.
+    // The progress window, and its bar from 0 to 100.
     std::function<void(const std::string& label)> ShowCompiling;
     std::function<void()> CloseCompiling;
-    std::function<int()> CompilingValue;
     std::function<void(int value)> SetCompilingValue;
 };
 extern ToolchainCalls gToolchainCalls; // written by the wiring of the application alone

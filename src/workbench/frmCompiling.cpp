@@ -3,7 +3,7 @@
 
 #include "host/ErrorLog.h"
 #include "host/Paths.h"
-#include "toolchain/Mod_Compiler.h"
+#include "toolchain/CompilerOutput.h"
 #include "workbench/MainWindow.h"
 #include "workbench/Shown.h"
 
@@ -37,7 +37,7 @@ frmCompiling::frmCompiling(QWidget* parent)
     auto* stop = new QPushButton(tr("&Stop"), this);
     stop->setAutoDefault(false);
     connect(stop, &QPushButton::clicked, this, [this] {
-        Guarded("cmdStop_Click", "frmCompiling", [] { Mod_Compiler::StopRunning(); });
+        Guarded("cmdStop_Click", "frmCompiling", [] { CompilerOutput::StopShown(); });
         close();
     });
     auto* layout = new QVBoxLayout(this);
@@ -56,8 +56,4 @@ void frmCompiling::Open(const QString& label) {
     show();
 }
 
-int frmCompiling::Value() const { return isHidden() ? 0 : bar_->value(); }
-
-void frmCompiling::SetValue(int value) {
-    if (!isHidden()) bar_->setValue(value);
-}
+void frmCompiling::SetValue(int value) { bar_->setValue(value); }

@@ -14,8 +14,7 @@ public:
 
     // Shows the window with its bar at 0.
     void Open(const QString& label);
-    // The bar from 0 to 100; it reads 0 while the window is closed.
-    int Value() const;
+    // The bar from 0 to 100.
     void SetValue(int value);
 
 private:

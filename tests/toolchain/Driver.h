@@ -18,7 +18,7 @@ struct Driver : testing::Test {
 
     std::vector<std::string> output, labels;
     bool progress = false; // the window is there
-    int bar = 0;
+    std::vector<int> bars; // the values that the progress window was given
     int cleared = 0, scrolled = 0;
 
     void SetUp() override {
@@ -30,9 +30,8 @@ struct Driver : testing::Test {
             labels.push_back(label);
             progress = true;
         };
-        gToolchainCalls.CloseCompiling = [this] { progress = false, bar = 0; };
-        gToolchainCalls.CompilingValue = [this] { return bar; };
-        gToolchainCalls.SetCompilingValue = [this](int value) { bar = progress ? value : 0; };
+        gToolchainCalls.CloseCompiling = [this] { progress = false; };
+        gToolchainCalls.SetCompilingValue = [this](int value) { bars.push_back(value); };
     }
     void TearDown() override {
         gToolchainCalls = {};

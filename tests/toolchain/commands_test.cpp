@@ -2,7 +2,9 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
+#include "editor/EditorCalls.h"
 #include "host/Host.h"
+#include "sci/Mod_Sci.h"
 #include "toolchain/Driver.h"
 
 namespace {
@@ -62,6 +64,26 @@ TEST_F(CommandsTest, AnUnsavedDocumentIsCompiledFromAScratchCopy) {
     dialogs.WillSave("");
     CreateExe("New");
     EXPECT_EQ(processes.started.size(), 2u);
+    const std::string saved = session.host.Path("mine.bb");
+    dialogs.WillSave(saved);
+    dialogs.WillSave(session.host.Path("mine.exe"));
+    EXPECT_NE(Command([&] { CreateExe("New"); }).find(Quoted(saved)), std::string::npos);
+    EXPECT_EQ(dialogs.questions.back().fileName, session.host.Path("mine.exe"));
+}
+
+TEST_F(CommandsTest, AnErrorInAnUnsavedDocumentStandsInItself) {
+    Mod_File::NewFile();
+    session.Type("a = 1\r\nb =\r\n");
+    const std::string window = ActiveForm()->m_strDocumentWindowID;
+    const std::string scratch = session.host.Path("Temp/New.bb");
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    processes.WillStart({.output = {"Parsing\r\n" + Quoted(scratch) + ":2:3:2:3:Expecting expression\r\n"}});
+    CheckForErrors("New");
+    session.Open("other.bb", "");
+    session.host.desktop.Advance(500);
+    EXPECT_EQ(ActiveForm()->m_strDocumentWindowID, window);
+    EXPECT_EQ(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), 1);
+    EXPECT_EQ(Message(), "Expecting expression\r\n\r\nFile: \r\n\r\nLine: 2, Column: 3 ");
 }
 
 TEST_F(CommandsTest, AProjectIsCompiledFromItsMainFile) {
@@ -101,14 +123,38 @@ TEST_F(CommandsTest, AMissingCompilerIsToldWithItsPlace) {
     EXPECT_TRUE(labels.empty());
 }
 
-TEST_F(CommandsTest, ARealConsoleIsStartedUncaptured) {
+TEST_F(CommandsTest, AConsoleOfItsOwnIsATerminalAndWithoutOneTheOutputPane) {
     const std::string path = session.Open("a.bb", "").FullFilename;
+    const std::string command = Quoted(compiler) + " " + Quoted(path);
     gActiveCompiler->RealConsole = true;
     Compile(path, false);
-    EXPECT_EQ(processes.detached, std::vector<std::string>{Quoted(compiler) + " " + Quoted(path)});
+    EXPECT_EQ(processes.inTerminal, std::vector<std::string>{command});
     EXPECT_TRUE(processes.started.empty());
     EXPECT_TRUE(labels.empty());
     EXPECT_EQ(Command([&] { CheckForErrors(path); }), Quoted(compiler) + " -c " + Quoted(path));
+    processes.releaseError = {8, "no terminal today"};
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Compile(path, false);
+    EXPECT_EQ(Message(), "no terminal today");
+    processes.hasTerminal = false;
+    EXPECT_EQ(Command([&] { Compile(path, false); }), command);
+    EXPECT_EQ(output.size(), 1u); // says so
+    Options::gLastCreatedExe = session.host.Put("a.exe", "");
+    EXPECT_EQ(Command(RunLastCreated), Quoted(Options::gLastCreatedExe));
+    EXPECT_EQ(output.size(), 1u);
+    Options::gLastCreatedExe.clear();
+}
+
+TEST_F(CommandsTest, ACompilerThatCannotBeStartedSaysWhy) {
+    const std::string path = session.Open("a.bb", "").FullFilename;
+    for (const auto& job : {std::function<void()>([&] { Compile(path, false); }),
+                            std::function<void()>([&] { CheckForErrors(path); })}) {
+        processes.WillStart({.startError = {8, "blitzcc.exe: is a Windows program."}});
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        job();
+        EXPECT_EQ(Message(), "blitzcc.exe: is a Windows program.");
+        EXPECT_FALSE(progress);
+    }
 }
 
 TEST_F(CommandsTest, CompileAndRunLastGoesBackToItsDocument) {
@@ -126,7 +172,7 @@ TEST_F(CommandsTest, TheLastExecutableIsRememberedWhenItsBuildEnds) {
     Command([&] { CreateExe(path); });
     EXPECT_EQ(session.host.settings.Get("Options", "gLastCreatedExe", ""), exe);
     RunLastCreated();
-    EXPECT_EQ(processes.detached, std::vector<std::string>{Quoted(exe)});
+    EXPECT_EQ(processes.inTerminal, std::vector<std::string>{Quoted(exe)});
     Command([&] { CheckForErrors(path); });
     EXPECT_EQ(Options::gLastCreatedExe, exe);
     session.host.files.Remove(exe);
@@ -135,7 +181,7 @@ TEST_F(CommandsTest, TheLastExecutableIsRememberedWhenItsBuildEnds) {
     EXPECT_EQ(Message(), "File " + exe + " not found !");
     Options::gLastCreatedExe.clear();
     RunLastCreated();
-    EXPECT_EQ(processes.detached.size(), 1u);
+    EXPECT_EQ(processes.inTerminal.size(), 1u);
 }
 
 TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
@@ -145,12 +191,42 @@ TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
     processes.WillStart({.ends = false});
     Compile(path, false);
     ASSERT_TRUE(ActiveForm()->ShellClass->Running());
-    Compile(path, false); // one at a time, and nobody is told
-    EXPECT_EQ(processes.started.size(), 1u);
+    TipText word;
+    gEditorCalls.SetTipText = [&](const TipText& tip) { word = tip; };
+    session.Type("x");
+    Compile(path, false); // one at a time: nothing is saved, cleared or shown
+    EXPECT_EQ(word.left, "Process already running.");
+    EXPECT_TRUE(ActiveForm()->Dirty);
+    EXPECT_EQ(cleared, 1);
+    gEditorCalls = {};
     StopRunning();
     session.host.desktop.Advance(200);
     EXPECT_EQ(processes.killed, 1);
     EXPECT_FALSE(ActiveForm()->ShellClass->Running());
+}
+
+TEST_F(CommandsTest, TheProgressWindowFollowsTheCompileThatItTellsOf) {
+    const std::string first = session.Open("first.bb", "").FullFilename;
+    processes.WillStart({.ends = false});
+    CheckForErrors(first);
+    session.Open("second.bb", "");
+    processes.WillStart({.ends = false});
+    CheckForErrors(ActiveForm()->FullFilename);
+    session.host.dock.FindDocumentWindow(first)->Activate();
+    MakeActive(gProjects.Find(first) ? static_cast<frmDoc*>(gProjects.Find(first)->Sources.Item(0).get()) : nullptr);
+    CompilerOutput::StopShown(); // the second one's, although the first is in front
+    EXPECT_TRUE(ActiveForm()->ShellClass->Running());
+    EXPECT_EQ(processes.killed, 1);
+    session.host.desktop.Advance(100);
+    EXPECT_FALSE(progress);
+    StopRunning();
+    session.host.desktop.Advance(100);
+    processes.WillStart({.ends = false});
+    CheckForErrors(first);
+    EXPECT_TRUE(progress);
+    UnloadDocument(ActiveForm());
+    MakeActive(nullptr);
+    EXPECT_FALSE(progress);
 }
 
 struct DefinitionsTest : CommandsTest {

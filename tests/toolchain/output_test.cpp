@@ -1,4 +1,5 @@
 // What the compiler prints: progress, what counts as an error, and where the caret goes.
+#include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -22,28 +23,32 @@ struct OutputTest : Driver {
 
 TEST_F(OutputTest, LinesThatAreNoBannerCountTwentyOne) {
     Open();
-    std::vector<int> values;
-    gToolchainCalls.SetCompilingValue = [&](int value) { values.push_back(bar = value); };
     std::vector<std::string> lines{"BlitzCC V1", "(C) us", "Compiling a.bb", "Creating b", "",     "Parsing",
                                    "one",        "two",    "three",          "four",       "after"};
     Check({lines.begin(), lines.end()});
-    EXPECT_EQ(values, (std::vector<int>{0, 21, 42, 63, 84, 21})); // closed, the bar starts over
+    EXPECT_EQ(bars, (std::vector<int>{0, 21, 42, 63, 84}));
     lines.erase(lines.begin() + 4); // an empty line is nothing
     EXPECT_EQ(output, lines);
     EXPECT_FALSE(progress);
     EXPECT_GT(scrolled, 0);
 }
 
-TEST_F(OutputTest, AColonIsAnErrorOnlyWhileTheBarIsUnderWay) {
+TEST_F(OutputTest, AnErrorIsOneOnlyWhileTheCompilerIsAtWorkAndNoOtherLineIsSwallowed) {
     Open();
-    Check({"time: early"}); // the bar stands at 0
-    EXPECT_EQ(output, std::vector<std::string>{"time: early"});
-    Check({"one", "BlitzCC: banner"}); // no step, but a colon between the first and the last step
-    EXPECT_EQ(output, std::vector<std::string>{"one"});
-    Check({"1", "2", "3", "4", "late: 84", "late: closed"});
-    EXPECT_EQ(output, (std::vector<std::string>{"1", "2", "3", "4", "late: 84", "late: closed"}));
+    const std::string error = Error("1:1:1:1");
+    Check({error}); // nothing was printed before it
+    EXPECT_EQ(output, std::vector<std::string>{error});
+    const std::vector<std::string> lines{"1",     "score: 5", "BlitzCC: x", "2", "3", "4", error,
+                                         "a: 84", "5",        "b: closed",  "6", "7", error};
+    Check({lines.begin(), lines.end()});
+    EXPECT_EQ(output, lines);
     Check({"one", "Compiling: a.bb", "Creating: b"});
     EXPECT_EQ(output.size(), 3u);
+    // The user may put the window away: the error is one all the same.
+    gToolchainCalls.ShowCompiling = nullptr;
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Check({"one", error});
+    EXPECT_EQ(output.back(), "Compile Error In Line: 1, Column: 1 -->  Expecting expression");
 }
 
 TEST_F(OutputTest, AnErrorSelectsItsPlaceAndTellsIt) {
@@ -119,11 +124,22 @@ TEST_F(OutputTest, AnErrorInAnotherOpenFileActivatesIt) {
     dialogs.WillAnswer(MessageAnswer::Ok);
     Check({"Parsing", Error("3:1:3:1")});
     EXPECT_EQ(ActiveForm()->FullFilename, path);
-    // A file that no window shows is asked for.
+    // A file that no window shows is opened, one that is not there is asked for, and Cancel selects nothing.
+    const std::string part = session.host.Put("sub/part.bb", "p = 1\r\np = 2\r\n");
+    for (const std::string& name : {part, std::string("SUB\\part.bb")}) {
+        Mod_File::OpenFile(path); // to the front
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        Check({"Parsing", Quoted(name) + ":2:3:2:3:Oops"});
+        EXPECT_EQ(ActiveForm()->FullFilename, part);
+        EXPECT_EQ(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), 1);
+        EXPECT_EQ(session.LastMessage(), "Oops\r\n\r\nFile: " + part + "\r\n\r\nLine: 2, Column: 3 ");
+    }
     dialogs.WillOpen({});
     dialogs.WillAnswer(MessageAnswer::Ok);
+    const auto caret = Mod_Sci::GetCurrentPos();
     ParseError("\"/no/such.bb\":1:1:1:1:Oops");
     EXPECT_EQ(dialogs.questions.back().title, "Open File");
+    EXPECT_EQ(Mod_Sci::GetCurrentPos(), caret);
 }
 
 TEST_F(OutputTest, AProjectsErrorNamesItsFile) {
