@@ -1,6 +1,7 @@
 // The registry of compilers: reading compilers.dat, and making one the active one.
 #include "documents/CompilerRegistry.h"
 
+#include "documents/LoadMessages.h"
 #include "engine/ClsCompiler.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
@@ -10,12 +11,15 @@
 #include "host/SettingsStore.h"
 
 #include <cstdlib>
+#include <set>
 
 namespace Mod_Main {
 
 namespace {
 
 constexpr int FailureEndOfFile = 62;
+
+std::set<std::string> toldUnknown; // names in upper case
 
 // Values in the order in which they stand, one a line: texts in quotes, numbers and booleans bare.
 class RecordReader {
@@ -40,6 +44,7 @@ private:
 } // namespace
 
 void LoadCompilers() {
+    toldUnknown.clear();
     const std::string path = AppPath("Conf\\compilers.dat");
     if (gHost.files->Kind(path) != PathKind::File) {
         gHost.dialogs->Show({"File 'Compilers.dat' is missing or invalid !", MessageIcon::Critical});
@@ -65,14 +70,32 @@ void LoadCompilers() {
         DefaultCompiler = gCompilers.Count() > 0 ? gCompilers.Item(0)->Name : std::string();
 }
 
+namespace {
+
+// A name is told of once, not each time a document of its project comes to the front.
+void TellUnknown(const std::string& name) {
+    if (!toldUnknown.insert(UCase(name)).second) return;
+    Mod_File::TellLoadFailure({"The compiler \"" + name +
+                                   "\" is not registered here. The default compiler, \"" + DefaultCompiler +
+                                   "\", is used instead.\r\nTo change that for good, choose a compiler in the "
+                                   "box of the tool bar.",
+                               MessageIcon::Exclamation});
+}
+
+} // namespace
+
 bool SetActiveCompiler(const std::string& name) {
     return Guarded("SetActiveCompiler", "Mod_Main", false, [&] {
         if (gActiveCompiler && EqualNoCase(gActiveCompiler->Name, name)) return true;
-        gActiveCompiler = gCompilers.Item(name);
-        if (gActiveCompiler->SetDefaultKeywords()) return true;
-        if (EqualNoCase(name, DefaultCompiler)) return false;
-        gActiveCompiler = gCompilers.Item(DefaultCompiler);
-        return gActiveCompiler->SetDefaultKeywords();
+        const auto byDefault = gCompilers.Item(DefaultCompiler);
+        const auto compiler = gCompilers.Find(name);
+        if (!compiler) TellUnknown(name);
+        if (compiler && !compiler->Refused && compiler->SetDefaultKeywords()) {
+            gActiveCompiler = compiler;
+            return true;
+        }
+        gActiveCompiler = byDefault;
+        return compiler != byDefault && byDefault->SetDefaultKeywords();
     });
 }
 

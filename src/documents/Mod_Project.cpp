@@ -9,11 +9,11 @@
 #include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
-#include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/WaitCursor.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
@@ -83,12 +83,11 @@ std::string AlreadyOpenMember(const ClsProject& project) {
 }
 
 void OpenMembers(ClsProject& project, bool fromWorkspace) {
-    gHost.desktop->SetWaitCursor(true);
+    const WaitCursor wait;
     std::vector<std::string> paths;
     for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
     for (const std::string& path : paths)
         if (!Mod_File::OpenProjectsFile(path, fromWorkspace)) Mod_File::TellUnloadable(path);
-    gHost.desktop->SetWaitCursor(false);
 }
 
 // The pipeline of the active document rests while other documents are loaded.
@@ -210,6 +209,12 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         if (SciWndData != 0 && !fromWorkspace) Mod_Sci::GrabFocus();
         return true;
     });
+}
+
+void SetCommandLine(ClsProject& project, const std::string& text) {
+    if (project.CommandLine == text) return;
+    project.CommandLine = text;
+    if (!project.SingleFile) project.Dirty = true;
 }
 
 bool SaveProject(ClsProject& project) {

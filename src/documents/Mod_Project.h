@@ -12,6 +12,8 @@ namespace Mod_Project {
 bool BuildProjectFromFile(const std::string& path, ClsProject& project);
 // Reads, checks and opens a project; an empty path asks for one. `fromWorkspace`: its windows are there.
 bool LoadProject(const std::string& path, bool fromWorkspace = false);
+// Gives a project the arguments of its program; the file of a real one has to be written then.
+void SetCommandLine(ClsProject& project, const std::string& text);
 // Writes the project's file and clears Dirty. A failed write is reported and leaves the old file.
 bool SaveProject(ClsProject& project);
 bool CloseProject(std::shared_ptr<ClsProject> project);

@@ -36,6 +36,10 @@ public:
     // Runs a change all over the text that nobody hears of, and parses all lines anew. Indentation stays, and
     // so do closed folds as long as no line comes or goes.
     virtual void ChangeMany(const std::function<void()>& change) = 0;
+
+    // Parses all lines anew after a change of the vocabulary, and gives keywords their spelling. The history
+    // stays; the document becomes dirty where a byte changed.
+    virtual void ParseAnew() = 0;
 };
 
 // The pipeline of a new document.

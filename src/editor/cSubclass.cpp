@@ -86,13 +86,34 @@ void cSubclass::ParseNow() {
 void cSubclass::ChangeMany(const std::function<void()>& change) {
     const ActiveSwap swap(mFrmDoc);
     ParseNow();
+    ParseWhole([&] {
+        change();
+        mFrmDoc.SetDirty(true);
+    });
+}
+
+void cSubclass::ParseAnew() {
+    const ActiveSwap swap(mFrmDoc);
+    ParseNow();
+    const std::string before = Mod_Sci::GetText();
+    const auto anchor = Mod_Sci::Send(SCI_GETANCHOR), caret = Mod_Sci::GetCurrentPos();
+    // A keyword's new spelling is as long as its old one, so the history still fits.
+    Mod_Sci::SetUndoCollection(0);
+    ParseWhole([] {});
+    Mod_Sci::SetUndoCollection(1);
+    Mod_Sci::SetSel(anchor, caret);
+    if (Mod_Sci::GetText() != before) mFrmDoc.SetDirty(true);
+    State().mOldStartLine = -100;
+}
+
+// Forgets what the lines declared, changes the text unheard and parses it as a load does.
+void cSubclass::ParseWhole(const std::function<void()>& change) {
     const std::vector<int> folded = FoldedLines();
     const auto lines = Mod_Sci::GetLineCount();
     ForgetFile();
     {
         const Unheard unheard;
         change();
-        mFrmDoc.SetDirty(true);
         State().mLastOperationUndoRedo = false;
         CurrentFunctionName = MainProgram;
         CurrentLocals = gCurrentProject->MainFunLocals;

@@ -22,6 +22,7 @@ public:
     void DeactivateCheck() override;
     void ParseNow() override;
     void ChangeMany(const std::function<void()>& change) override;
+    void ParseAnew() override;
 
 private:
     void Dispatch(const SciNotification& notification);
@@ -36,6 +37,7 @@ private:
     void AfterInsert(const SciNotification& notification);
     void UpdateUi();
 
+    void ParseWhole(const std::function<void()>& change);
     PipelineState& State();
     void Snapshot(int line);
     void Queue(int line);

@@ -134,6 +134,9 @@ bool ClsCompiler::LoadKeywords() {
 bool ClsCompiler::SetDefaultKeywords() {
     return Guarded("SetDefaultKeywords", "ClsCompiler", false, [&] {
         const bool loaded = KeywordsLoaded || LoadKeywords();
+        Refused = !loaded;
+        // Half a vocabulary is better than none, and worse than the one in use.
+        if (!loaded && KeywordTable[0]) return false;
         for (int bucket = 0; bucket < KeywordBuckets; ++bucket) {
             bbFunkcija(bucket + FirstKeywordCode);
             KeywordTable[static_cast<std::size_t>(bucket)] = dictionaries_[static_cast<std::size_t>(bucket)];

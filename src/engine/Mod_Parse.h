@@ -47,9 +47,5 @@ void ColorCurrentLine(int line, bool scopeKnown);
 void ColorLineLight(int line, bool sequential);
 // Keeps the scope of a run of lines right across a line that is being edited; styles nothing.
 void ColorUnparsedLineLight(int line, bool sequential, const std::string& text);
-// Gives the keywords of a line their style and spelling after a change of the vocabulary.
-void ReColorLine(int line);
-// ReColorLine for every line of the current document.
-void ReColorFile();
 
 } // namespace Mod_Parse

@@ -268,32 +268,4 @@ void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) 
     });
 }
 
-void ReColorLine(int line) {
-    std::string text = Mod_Sci::LineText(line);
-    const int length = Mod_Lexer::FillLineBuffer(text);
-    if (length > LongestLine) return;
-    const int lineStart = static_cast<int>(Mod_Sci::PositionFromLine(line)) - 1;
-    const int count = Mod_Lexer::Tokenize(text, length, true);
-    const ColoringScope own;
-    gLineStyles.Begin(lineStart + 1, length, false);
-    for (int i = 1; i <= count; ++i) {
-        if (At(i).Kind != TOK_IDENT) continue;
-        const ClsBBFunkcija* keyword = KeywordOf(At(i));
-        if (keyword == nullptr || Mod_Sci::GetStyleAt(lineStart + At(i).StartPos) == STYLE_Keyword) continue;
-        if (At(i).Text != keyword->Ime) RewriteToken(keyword->Ime, i, lineStart);
-        Style(lineStart, At(i), static_cast<std::intptr_t>(keyword->Ime.size()), STYLE_Keyword);
-    }
-    gLineStyles.Flush();
-}
-
-void ReColorFile() {
-    Guarded("ReColorFile", "Mod_Parse", [&] {
-        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(true);
-        const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
-        for (int line = 0; line <= last; ++line) ReColorLine(line);
-        gActiveDoc->State.mOldStartLine = -100;
-        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(false);
-    });
-}
-
 } // namespace Mod_Parse

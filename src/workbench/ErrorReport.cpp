@@ -28,9 +28,11 @@ std::string ErrorReportText(std::string_view mailbox, std::string_view log) {
     return text;
 }
 
+std::string ErrorReportFile() { return AppDir() + "/" + std::string(ProgramName) + " - Error Report.eml"; }
+
 void PrepareErrorReport() {
     const std::string log = AppDir() + "/error.log";
-    const std::string draft = AppDir() + "/" + std::string(ProgramName) + " - Error Report.eml";
+    const std::string draft = ErrorReportFile();
     const std::string mailbox = gHost.settings->Get("Options", "ErrorReportMailbox", "");
     gHost.files->Write(draft, ErrorReportText(mailbox, gHost.files->Read(log)));
     gHost.files->OpenWithDesktop(draft);

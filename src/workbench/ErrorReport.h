@@ -7,6 +7,9 @@
 // The draft's text: headers, room for notes, and the log. Lines end in CR LF.
 std::string ErrorReportText(std::string_view mailbox, std::string_view log);
 
+// Where the draft is written.
+std::string ErrorReportFile();
+
 // Writes the draft from error.log below AppDir, opens it with the desktop's mail program and empties the
 // log. Fails when a file cannot be read or written.
 void PrepareErrorReport();

@@ -2,6 +2,7 @@
 #include "workbench/Mod_MenuCommands.h"
 
 #include "documents/ClsMRU.h"
+#include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -58,17 +59,23 @@ void ChangeStrictMode() {
 void cboCompilers() {
     Guarded("cboCompilers", "Mod_MenuCommands", [] {
         DockCommand* box = gHost.dock->FindCommand("cboCompilers");
-        if (!box || !gActiveCompiler || box->Text() == gActiveCompiler->Name) return;
+        if (!box || !gActiveCompiler || !gCurrentProject) return;
+        if (EqualNoCase(box->Text(), gCurrentProject->Compiler)) return;
         const auto compiler = gCompilers.Find(box->Text());
         if (!compiler || !compiler->SetDefaultKeywords()) {
             box->SetText(gActiveCompiler->Name);
             return;
         }
+        ClsProject& project = *gCurrentProject;
+        project.Compiler = compiler->Name;
+        if (!project.SingleFile) project.Dirty = true;
+        if (compiler == gActiveCompiler) return; // it stood in for one that is not known here
         gActiveCompiler = compiler;
-        if (gCurrentProject) gCurrentProject->Compiler = compiler->Name;
-        frmDoc* document = ActiveForm();
-        if (document && gCurrentProject && !gCurrentProject->SingleFile)
-            document->CompilerUsed = compiler->Name;
+        for (const auto& source : project.Sources) {
+            auto& document = static_cast<frmDoc&>(*source.record);
+            if (!project.SingleFile) document.CompilerUsed = compiler->Name;
+            document.m_oSubclass->ParseAnew();
+        }
         RestyleVisible();
     });
 }
@@ -76,7 +83,7 @@ void cboCompilers() {
 void cboCommandLine() {
     const DockCommand* box = gHost.dock->FindCommand("cboCommandLine");
     if (!box) return;
-    if (gCurrentProject) gCurrentProject->CommandLine = box->Text();
+    if (gCurrentProject) Mod_Project::SetCommandLine(*gCurrentProject, box->Text());
     if (box->Text().empty()) return;
     MRUCommandLine.Add(box->Text());
     MRUCommandLine.Save();

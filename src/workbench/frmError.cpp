@@ -94,6 +94,10 @@ void frmError::OpenLog() {
 void frmError::SendReport() {
     Tell([] { PrepareErrorReport(); });
     accept();
+    // Not every system has a mail program that opens a draft.
+    if (gHost.files->Kind(ErrorReportFile()) == PathKind::File)
+        gHost.dialogs->Show({.text = "The error report is in the file\r\n" + ErrorReportFile(),
+                             .icon = MessageIcon::Information});
 }
 
 namespace {

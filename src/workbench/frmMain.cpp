@@ -5,6 +5,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
+#include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "documents/RecentFiles.h"
 #include "editor/EditorCalls.h"
@@ -140,7 +141,11 @@ void frmMain::SetTipText(const TipText& tip) {
     if (statusMain_) statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
 }
 
-void frmMain::DS_ComboTextChanged(DockCommand&) {}
+// What stands in the box is what the next run gets, committed or not.
+void frmMain::DS_ComboTextChanged(DockCommand& command) {
+    if (command.Name() == "cboCommandLine" && gCurrentProject)
+        Mod_Project::SetCommandLine(*gCurrentProject, command.Text());
+}
 
 void frmMain::DS_ComboTextCommitted(DockCommand& command) { DS_CommandClick(command, -1); }
 

@@ -76,7 +76,7 @@ void frmMain::ActivateDocument(frmDoc& document) {
         TakeCompilerOf(document, *gCurrentProject);
         // Another file is another set of symbols.
         if (frmMainList::Instance().ShowOnlyFile()) frmMainList::Instance().Refresh();
-        SetBox("cboCompilers", gCurrentProject->Compiler);
+        SetBox("cboCompilers", gActiveCompiler ? gActiveCompiler->Name : std::string());
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
     }
     const auto caret = Mod_Sci::GetCurrentPos();

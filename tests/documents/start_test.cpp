@@ -145,17 +145,22 @@ TEST_F(CompilersTest, ADamagedRegistryLeavesWhatWasRead) {
     EXPECT_EQ(gCompilers.Count(), 1);
 }
 
-TEST_F(CompilersTest, ACompilerWithoutKeywordsGivesWayToTheDefault) {
+TEST_F(CompilersTest, ACompilerThatCannotServeGivesWayToTheDefaultAndIsToldOfOnce) {
     Load("1\r\n2\r\n" + Entry("ZoltoBasic") + Entry("Bare"));
-    gActiveCompiler.reset();
+    for (const char* name : {"Bare", "Nobody"}) {
+        gActiveCompiler.reset();
+        session.host.dialogs.WillAnswer(MessageAnswer::Ok);
+        for (int activation = 0; activation < 3; ++activation) {
+            EXPECT_TRUE(Mod_Main::SetActiveCompiler(name));
+            EXPECT_EQ(gActiveCompiler->Name, "ZoltoBasic");
+        }
+        EXPECT_NE(session.LastMessage().find(name), std::string::npos);
+        EXPECT_NE(FindKeyword("PRINT"), nullptr);
+    }
+    // A refused choice leaves the vocabulary in use.
     session.host.dialogs.WillAnswer(MessageAnswer::Ok);
-    EXPECT_TRUE(Mod_Main::SetActiveCompiler("Bare"));
-    EXPECT_EQ(gActiveCompiler->Name, "ZoltoBasic");
+    EXPECT_FALSE(gCompilers.Item("Bare")->SetDefaultKeywords());
     EXPECT_NE(FindKeyword("PRINT"), nullptr);
-    session.host.ExpectErrorLog();
-    EXPECT_FALSE(Mod_Main::SetActiveCompiler("Nobody"));
-    EXPECT_EQ(gActiveCompiler->Name, "ZoltoBasic");
-    EXPECT_NE(session.host.ErrorLog().find("SetActiveCompiler"), std::string::npos);
 }
 
 struct SettingsTest : StartTest {

@@ -170,18 +170,4 @@ TEST_F(ColourTest, AWordThatTheParserTookForANameIsNoFunction) {
     EXPECT_EQ(host.ErrorLog(), "");
 }
 
-TEST_F(ColourTest, ANewVocabularyTouchesItsKeywordsOnly) {
-    OpenLines({"flip x : Print y", "Flip"});
-    std::string text = TestVocabulary() + "Flip\r\n";
-    host.Put("Conf/More.lng", text);
-    ClsCompiler more;
-    more.Name = "More";
-    ASSERT_TRUE(more.SetDefaultKeywords());
-    Mod_Parse::ReColorFile();
-    EXPECT_EQ(Text(0), "Flip x : Print y");
-    EXPECT_EQ(Styles(0).substr(0, 6), "kkkk..");
-    EXPECT_EQ(Styles(0).substr(9, 5), "kkkkk");
-    EXPECT_EQ(Styles(1), "kkkk");
-}
-
 } // namespace

@@ -57,13 +57,19 @@ TEST(ErrorReportTest, ALogThatCannotBeEmptiedIsToldAndTheDialogCloses) {
     host.ExpectErrorLog();
     host.Put("error.log", "entry\r\n");
     host.files.writesFail = true;
-    host.dialogs.WillAnswer(MessageAnswer::Ok);
-    QTimer::singleShot(0, [] {
-        for (QPushButton* button : QApplication::activeModalWidget()->findChildren<QPushButton*>())
-            if (button->text() == "&Send Error Report") button->click();
-    });
-    frmError::ShowModal();
+    const auto send = [&] {
+        host.dialogs.WillAnswer(MessageAnswer::Ok);
+        QTimer::singleShot(0, [] {
+            for (QPushButton* button : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+                if (button->text() == "&Send Error Report") button->click();
+        });
+        frmError::ShowModal();
+    };
+    send();
     EXPECT_EQ(host.ErrorLog(), "entry\r\n");
+    host.files.writesFail = false;
+    send();
+    EXPECT_NE(host.dialogs.messages.back().text.find(ErrorReportFile()), std::string::npos);
 }
 
 TEST(CommandLineTest, ArgumentsBecomeOneTextThatAnyFolderUnderstands) {
