@@ -2,11 +2,11 @@
 // Every line of progress is free of colons: a colon there would be taken for an error.
 #include "Driver.h"
 
-#include "CommandTable.h"
-#include "Decls.h"
+#include "commands/CommandTable.h"
+#include "generate/Decls.h"
 #include "Executable.h"
-#include "Generator.h"
-#include "Parser.h"
+#include "generate/Generator.h"
+#include "parse/Parser.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -2,9 +2,9 @@
 // The lines around a compile follow a fixed scheme, which an editor counts.
 #pragma once
 
-#include "Code.h"
-#include "Machine.h"
-#include "Sources.h"
+#include "generate/Code.h"
+#include "machine/Machine.h"
+#include "parse/Sources.h"
 
 namespace blitz {
 

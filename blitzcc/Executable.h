@@ -2,7 +2,7 @@
 // At its start the program looks for such sources behind itself and runs them.
 #pragma once
 
-#include "Sources.h"
+#include "parse/Sources.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 // The commands on keyboard, mouse and joystick.
 // Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
-#include "../CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <iterator>
 

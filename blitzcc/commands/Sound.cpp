@@ -1,6 +1,6 @@
 // The commands on sounds, music and channels.
 // Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
-#include "../CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <iterator>
 

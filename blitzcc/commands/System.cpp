@@ -1,6 +1,6 @@
 // The commands on the system, its resources and hosts of programs.
 // Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
-#include "../CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <iterator>
 

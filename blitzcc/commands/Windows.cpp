@@ -1,6 +1,6 @@
 // The commands on windows, gadgets, menus, events and requesters.
 // Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
-#include "../CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <iterator>
 

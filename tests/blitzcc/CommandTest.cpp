@@ -1,9 +1,9 @@
 // The commands that run without a screen: strings, numbers, banks, files and folders.
 #include "Programs.h"
 
-#include "CommandTable.h"
-#include "Natives.h"
-#include "Tokens.h"
+#include "commands/CommandTable.h"
+#include "natives/Natives.h"
+#include "parse/Tokens.h"
 
 #include <set>
 

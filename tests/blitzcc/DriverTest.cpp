@@ -2,7 +2,7 @@
 // Also the parts of the driver: the command line, the libraries' declarations and bundles.
 #include "Programs.h"
 
-#include "CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <sys/wait.h>
 

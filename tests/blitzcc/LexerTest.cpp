@@ -1,5 +1,5 @@
 // The lexer and the symbols: kinds, values and places of tokens.
-#include "Lexer.h"
+#include "parse/Lexer.h"
 
 #include <gtest/gtest.h>
 

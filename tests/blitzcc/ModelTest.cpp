@@ -1,6 +1,6 @@
 // Random programs against a model in C++: integer expressions, and the lists of objects.
 // The seeds are fixed, so a failure repeats.
-#include "Numbers.h"
+#include "parse/Numbers.h"
 #include "Programs.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The smaller parts: numbers as text, the search for files, declarations of libraries, the output.
-#include "Decls.h"
-#include "Numbers.h"
-#include "Output.h"
+#include "generate/Decls.h"
+#include "parse/Numbers.h"
+#include "machine/Output.h"
 #include "Programs.h"
 
 #include <limits>
