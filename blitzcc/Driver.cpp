@@ -2,10 +2,11 @@
 // Every line of progress is free of colons: a colon there would be taken for an error.
 #include "Driver.h"
 
+#include "Executable.h"
 #include "commands/CommandTable.h"
 #include "generate/Decls.h"
-#include "Executable.h"
 #include "generate/Generator.h"
+#include "natives/Natives.h"
 #include "parse/Parser.h"
 
 #include <cstdlib>
@@ -91,11 +92,6 @@ int compileFile(const CommandLine& line, Output& output) {
 
 }
 
-std::string ownPath() {
-    std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).string();
-}
-
 CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;
     size_t at = 0;
@@ -144,7 +140,7 @@ std::string errorLine(const CompileError& error, const Sources& sources) {
 
 int runProgram(const Code& code, const Sources& sources, const RunOptions& options, Output& output) {
     try {
-        Machine(code, output, options).run();
+        Machine(code, output, options, allNatives()).run();
     } catch (const RuntimeError& error) {
         output.endLine();
         const std::string file = withoutColons(sources.files()[error.file].path);

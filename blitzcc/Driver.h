@@ -33,7 +33,4 @@ int perform(const CommandLine& line, Output& output);
 /// Runs checked code; prints a runtime error and gives the exit status.
 int runProgram(const Code& code, const Sources& sources, const RunOptions& options, Output& output);
 
-/// The path of this executable; empty when it can't be told.
-std::string ownPath();
-
 }

@@ -2,8 +2,6 @@
 // A new file is written beside the target and renamed, so a failure leaves the old one whole.
 #include "Executable.h"
 
-#include "Driver.h"
-
 #include <filesystem>
 #include <fstream>
 
@@ -35,6 +33,11 @@ std::string writeAll(const std::string& path, const std::string& runner, const s
     return out ? "" : "The target cannot be written";
 }
 
+}
+
+std::string ownPath() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error).string();
 }
 
 std::string makeExecutable(const Sources& sources, const std::string& target) {

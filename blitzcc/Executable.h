@@ -8,6 +8,9 @@
 
 namespace blitz {
 
+/// The path of this executable; empty when it can't be told.
+std::string ownPath();
+
 /// Writes an executable that runs the sources; gives the reason on failure, else an empty text.
 std::string makeExecutable(const Sources& sources, const std::string& target);
 

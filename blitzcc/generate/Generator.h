@@ -2,9 +2,9 @@
 // Names become slots, types are checked and converted; the first fault is thrown as CompileError.
 #pragma once
 
-#include "parse/Ast.h"
 #include "generate/Code.h"
 #include "generate/Decls.h"
+#include "parse/Ast.h"
 
 namespace blitz {
 

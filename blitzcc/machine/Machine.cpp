@@ -3,7 +3,6 @@
 #include "machine/Machine.h"
 
 #include "commands/CommandTable.h"
-#include "natives/Natives.h"
 #include "parse/Numbers.h"
 #include "parse/Tokens.h"
 
@@ -16,19 +15,17 @@ namespace blitz {
 static constexpr size_t stackValues = 1 << 20;
 static constexpr size_t deepestCall = 100'000;
 
-Machine::Machine(const Code& code, Output& output, RunOptions options)
+Machine::Machine(const Code& code, Output& output, RunOptions options,
+                 const std::vector<NativeTable>& natives)
     : code_(code), output_(output), options_(std::move(options)), stack_(new Value[stackValues]),
       limit_(stack_.get() + stackValues), globals_(code.globals), arrays_(code.arrays.size()), objects_(1),
-      types_(code.types.size()), files_(std::make_unique<FileStore>()),
-      banks_(std::make_unique<BankStore>()) {
-    prepareNatives();
+      types_(code.types.size()) {
+    prepareNatives(natives);
     for (const std::string& text : code.strings) constants_.push_back(makeString(text));
     for (const VectorInfo& info : code.globalVectors) globals_[info.slot].vector = makeVector(info);
 }
 
-Machine::~Machine() = default;
-
-void Machine::prepareNatives() {
+void Machine::prepareNatives(const std::vector<NativeTable>& tables) {
     const CommandTable& table = CommandTable::instance();
     natives_.resize(table.commands().size());
     for (const Command& command : table.commands()) {
@@ -38,8 +35,7 @@ void Machine::prepareNatives() {
         stringMasks_.push_back(mask);
         argumentCounts_.push_back(static_cast<uint8_t>(command.parameters.size()));
     }
-    for (const NativeTable& natives :
-         {textNatives(), mathNatives(), systemNatives(), fileNatives(), folderNatives(), bankNatives()})
+    for (const NativeTable& natives : tables)
         for (size_t i = 0; i < natives.count; ++i) {
             const int command = table.find(lowerText(natives.entries[i].name));
             assert(command >= 0 && "a routine without an entry in the command table");

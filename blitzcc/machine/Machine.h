@@ -4,6 +4,7 @@
 
 #include "generate/Code.h"
 #include "machine/Output.h"
+#include "machine/Stores.h"
 
 #include <deque>
 #include <map>
@@ -52,13 +53,20 @@ struct RunOptions {
 class Machine;
 using Native = Value (*)(Machine& machine, const Value* arguments, size_t given);
 
-struct FileStore;
-struct BankStore;
+struct NativeEntry {
+    const char* name;
+    Native function;
+};
+
+struct NativeTable {
+    const NativeEntry* entries;
+    size_t count;
+};
 
 class Machine {
 public:
-    Machine(const Code& code, Output& output, RunOptions options);
-    ~Machine();
+    /// A command that none of the tables carries out ends the program with a message.
+    Machine(const Code& code, Output& output, RunOptions options, const std::vector<NativeTable>& natives);
     Machine(const Machine&) = delete;
     Machine& operator=(const Machine&) = delete;
 
@@ -68,8 +76,8 @@ public:
     // For the commands.
     Output& output() { return output_; }
     const RunOptions& options() const { return options_; }
-    FileStore& files() { return *files_; }
-    BankStore& banks() { return *banks_; }
+    FileStore& files() { return files_; }
+    BankStore& banks() { return banks_; }
     uint32_t& randomState() { return random_; }
     /// A value that owns a new string; the empty text takes no memory.
     Value makeString(std::string text);
@@ -105,7 +113,7 @@ private:
         std::vector<Value> items;
     };
 
-    void prepareNatives();
+    void prepareNatives(const std::vector<NativeTable>& tables);
     void execute(const Ins*& at);
     void step(const Ins& ins, Value*& top, Value* slots);
     [[noreturn]] void stopAt(const Ins* at, const std::string& message) const;
@@ -181,8 +189,8 @@ private:
     int32_t lastHandle_ = 0;
     size_t dataAt_ = 0;
     uint32_t random_ = 1;
-    std::unique_ptr<FileStore> files_;
-    std::unique_ptr<BankStore> banks_;
+    FileStore files_;
+    BankStore banks_;
 };
 
 }

@@ -9,10 +9,6 @@
 
 namespace blitz {
 
-FileStore::~FileStore() {
-    for (const auto& [handle, file] : files) std::fclose(file.stream);
-}
-
 OpenFile& openFile(Machine& machine, int32_t handle) {
     const auto entry = machine.files().files.find(handle);
     if (entry == machine.files().files.end()) fault("File handle is not valid");

@@ -4,20 +4,9 @@
 
 #include "machine/Machine.h"
 
-#include <cstdio>
 #include <optional>
 
 namespace blitz {
-
-struct NativeEntry {
-    const char* name;
-    Native function;
-};
-
-struct NativeTable {
-    const NativeEntry* entries;
-    size_t count;
-};
 
 NativeTable textNatives();
 NativeTable mathNatives();
@@ -26,33 +15,10 @@ NativeTable fileNatives();
 NativeTable folderNatives();
 NativeTable bankNatives();
 
-/// An open file of the program.
-struct OpenFile {
-    std::FILE* stream = nullptr;
-    int lastUse = 0; // 'r' or 'w': a switch between them needs a seek
-};
-
-/// The open files and folders by the handles that the program holds.
-struct FileStore {
-    std::map<int32_t, OpenFile> files;
-    struct Folder {
-        std::vector<std::string> names;
-        size_t next = 0;
-    };
-    std::map<int32_t, Folder> folders;
-    int32_t lastHandle = 0;
-
-    FileStore() = default;
-    FileStore(const FileStore&) = delete;
-    FileStore& operator=(const FileStore&) = delete;
-    ~FileStore();
-};
-
-/// The memory banks by the handles that the program holds.
-struct BankStore {
-    std::map<int32_t, std::vector<uint8_t>> banks;
-    int32_t lastHandle = 0;
-};
+/// All of them, for the machine that carries them out.
+inline std::vector<NativeTable> allNatives() {
+    return {textNatives(), mathNatives(), systemNatives(), fileNatives(), folderNatives(), bankNatives()};
+}
 
 /// Values of the kinds that commands return.
 inline Value intValue(int32_t integer) {

@@ -1,7 +1,7 @@
 // Random programs against a model in C++: integer expressions, and the lists of objects.
 // The seeds are fixed, so a failure repeats.
-#include "parse/Numbers.h"
 #include "Programs.h"
+#include "parse/Numbers.h"
 
 #include <algorithm>
 #include <random>

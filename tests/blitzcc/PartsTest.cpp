@@ -1,8 +1,8 @@
 // The smaller parts: numbers as text, the search for files, declarations of libraries, the output.
-#include "generate/Decls.h"
-#include "parse/Numbers.h"
-#include "machine/Output.h"
 #include "Programs.h"
+#include "generate/Decls.h"
+#include "machine/Output.h"
+#include "parse/Numbers.h"
 
 #include <limits>
 #include <random>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Driver.h"
+#include "natives/Natives.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +64,7 @@ protected:
         std::string ending;
         try {
             const Code code = compile(sources, folder_ + "/userlibs");
-            Machine(code, output, options).run();
+            Machine(code, output, options, allNatives()).run();
         } catch (const CompileError& error) {
             ending = "compile error, line " + std::to_string(error.pos.line) + ": " + error.message;
         } catch (const RuntimeError& error) {
