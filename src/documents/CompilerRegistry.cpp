@@ -75,11 +75,11 @@ namespace {
 // A name is told of once, not each time a document of its project comes to the front.
 void TellUnknown(const std::string& name) {
     if (!toldUnknown.insert(UCase(name)).second) return;
-    Mod_File::TellLoadFailure({"The compiler \"" + name +
-                                   "\" is not registered here. The default compiler, \"" + DefaultCompiler +
-                                   "\", is used instead.\r\nTo change that for good, choose a compiler in the "
-                                   "box of the tool bar.",
-                               MessageIcon::Exclamation});
+    Mod_File::TellLoadFailure(
+        {"The compiler \"" + name + "\" is not registered here. The default compiler, \"" + DefaultCompiler +
+             "\", is used instead.\r\nTo change that for good, choose a compiler in the "
+             "box of the tool bar.",
+         MessageIcon::Exclamation});
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// The classifier of output lines. While the compiler is at work, lines that are no banner count 21 each, and an
-// error line between the first and the fourth ends the compile. Everything behind it is the program's own.
+// The classifier of output lines. While the compiler is at work, lines that are no banner count 21 each, and
+// an error line between the first and the fourth ends the compile. Everything behind it is the program's own.
 #include "toolchain/CompilerOutput.h"
 
 #include "documents/Mod_File.h"
@@ -112,8 +112,8 @@ void Report(const ErrorLine& error, const std::string& file) {
     const std::string place = "Line: " + error.fields[1] + ", Column: " + error.fields[2];
     Append("Compile Error In " + place + " -->  " + message);
     if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
-    gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ",
-                         MessageIcon::Critical, gActiveCompiler->Name + " Compiling Error"});
+    gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ", MessageIcon::Critical,
+                         gActiveCompiler->Name + " Compiling Error"});
 }
 
 // One child of a document's console runner. It lives as long as the runner listens to it.

@@ -133,10 +133,10 @@ TEST_F(ProcessesTest, AProgramRunsInTheTerminalThatIsThere) {
     const std::string program = Script("echo ran \"$1\" in $PWD >> '" + seen + "'");
     const std::string folder = host.Path("bin");
     const auto terminal = [&](const std::string& name, const std::string& option) {
-        const std::string path = host.Put("bin/" + name, "#!/bin/sh\necho " + name + " >> '" + seen + "'\n" +
-                                                             (option.empty() ? "" : "[ \"$1\" = " + option +
-                                                                                        " ] && shift\n") +
-                                                             "\"$@\" </dev/null >/dev/null\n");
+        const std::string path =
+            host.Put("bin/" + name, "#!/bin/sh\necho " + name + " >> '" + seen + "'\n" +
+                                        (option.empty() ? "" : "[ \"$1\" = " + option + " ] && shift\n") +
+                                        "\"$@\" </dev/null >/dev/null\n");
         chmod(path.c_str(), 0755);
     };
     const std::string oldPath = getenv("PATH");
@@ -144,8 +144,8 @@ TEST_F(ProcessesTest, AProgramRunsInTheTerminalThatIsThere) {
     unsetenv("TERMINAL");
     EXPECT_FALSE(processes.HasTerminal());
     setenv("PATH", (folder + ":/bin:/usr/bin").c_str(), 1);
-    for (const auto& [name, option] : {std::pair{"xdg-terminal-exec", ""}, {"x-terminal-emulator", "-e"},
-                                       {"gnome-terminal", "--"}}) {
+    for (const auto& [name, option] :
+         {std::pair{"xdg-terminal-exec", ""}, {"x-terminal-emulator", "-e"}, {"gnome-terminal", "--"}}) {
         terminal(name, option);
         if (option == std::string("--")) setenv("TERMINAL", name, 1);
         host.files.Write(seen, "");

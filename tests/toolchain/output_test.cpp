@@ -38,7 +38,7 @@ TEST_F(OutputTest, AnErrorIsOneOnlyWhileTheCompilerIsAtWorkAndNoOtherLineIsSwall
     const std::string error = Error("1:1:1:1");
     Check({error}); // nothing was printed before it
     EXPECT_EQ(output, std::vector<std::string>{error});
-    const std::vector<std::string> lines{"1",     "score: 5", "BlitzCC: x", "2", "3", "4", error,
+    const std::vector<std::string> lines{"1",     "score: 5", "BlitzCC: x", "2", "3", "4",  error,
                                          "a: 84", "5",        "b: closed",  "6", "7", error};
     Check({lines.begin(), lines.end()});
     EXPECT_EQ(output, lines);

@@ -17,11 +17,25 @@ struct TerminalRow {
 
 // In the order in which they are tried. What is not named here takes "-e", as xterm does.
 constexpr TerminalRow Terminals[] = {
-    {"x-terminal-emulator", "-e"}, {"xdg-terminal-exec", ""}, {"gnome-terminal", "--"}, {"kgx", "--"},
-    {"ptyxis", "--"},              {"konsole", "-e"},         {"xfce4-terminal", "-x"}, {"mate-terminal", "-x"},
-    {"terminator", "-x"},          {"lxterminal", "-e"},      {"qterminal", "-e"},      {"tilix", "-e"},
-    {"alacritty", "-e"},           {"kitty", ""},             {"foot", ""},             {"wezterm", "-e"},
-    {"urxvt", "-e"},               {"st", "-e"},              {"xterm", "-e"},
+    {"x-terminal-emulator", "-e"},
+    {"xdg-terminal-exec", ""},
+    {"gnome-terminal", "--"},
+    {"kgx", "--"},
+    {"ptyxis", "--"},
+    {"konsole", "-e"},
+    {"xfce4-terminal", "-x"},
+    {"mate-terminal", "-x"},
+    {"terminator", "-x"},
+    {"lxterminal", "-e"},
+    {"qterminal", "-e"},
+    {"tilix", "-e"},
+    {"alacritty", "-e"},
+    {"kitty", ""},
+    {"foot", ""},
+    {"wezterm", "-e"},
+    {"urxvt", "-e"},
+    {"st", "-e"},
+    {"xterm", "-e"},
 };
 
 const char* OptionOf(const QString& name) {
@@ -51,7 +65,8 @@ std::vector<std::string> FindTerminal() {
 
 std::vector<std::string> InTerminal(std::vector<std::string> terminal,
                                     const std::vector<std::string>& arguments) {
-    for (const char* word : {"sh", "-c", "\"$@\"; printf '\\nPress Enter to close this window.'; read -r line", "sh"})
+    for (const char* word :
+         {"sh", "-c", "\"$@\"; printf '\\nPress Enter to close this window.'; read -r line", "sh"})
         terminal.emplace_back(word);
     terminal.insert(terminal.end(), arguments.begin(), arguments.end());
     return terminal;
