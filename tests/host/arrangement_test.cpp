@@ -197,6 +197,32 @@ TEST_F(ArrangementTest, AMaximisedWindowKeepsItsArrangement) {
     EXPECT_EQ(studio.Geometry(), arranged);
 }
 
+// Saved on a large screen, loaded on a smaller one: the desktop cuts the window down while it is shown.
+TEST_F(ArrangementTest, AnArrangementOfALargeScreenComesUpOnASmallOne) {
+    {
+        Studio studio(factory);
+        studio.dock.SetPlace({.width = 60000, .height = 45000});
+        Studio::Settle();
+        Arrange(studio);
+        studio.dock.SaveLayout(saved);
+    }
+    TextForm forms[3];
+    QtDockStudio dock;
+    dock.LoadLayout(saved);
+    dock.AttachPane("Left", "Left", "", forms[0], false);
+    dock.AttachPane("Right", "Right", "", forms[1], false);
+    dock.AttachPane("Bottom", "Bottom", "", forms[2], false);
+    dock.SetPlace({.width = 9000, .height = 6000, .state = 2});
+    dock.ShowWindow();
+    Studio::Settle();
+    for (const QSize size : {QSize(800, 700), {1366, 768}, {640, 400}}) {
+        dock.Window().resize(size);
+        Studio::Settle();
+    }
+    EXPECT_LT(dock.Window().width(), 1000);
+    EXPECT_TRUE(forms[0].text.isVisible());
+}
+
 TEST_F(ArrangementTest, AWorkspaceLineBringsBackWindowsWithoutForms) {
     const std::string key = "/home/caf\xE9/it's \"x\".bb"; // any bytes a path may have
     std::string line;

@@ -31,6 +31,8 @@ QtDockStudio::QtDockStudio()
         Settle();
         if (events_) events_->DS_Resize();
     };
+    settle_.setSingleShot(true);
+    QObject::connect(&settle_, &QTimer::timeout, &window_, [this] { RestoreSizes(); });
     QObject::connect(area_, &QtDocumentArea::Changed, &window_, [this] { ShowTitle(); });
     window_.fillBarMenu = [this](QMenu& menu) { FillBarMenu(menu); };
     window_.dropped = [this](const std::vector<std::string>& paths) {
@@ -50,6 +52,7 @@ QtDockStudio::QtDockStudio()
 
 QtDockStudio::~QtDockStudio() {
     SetEvents(nullptr);
+    settle_.stop();
     delete customizing_;
     area_->disconnect(&window_);
     window_.mayClose = nullptr;

@@ -11,6 +11,7 @@
 #include "host/qt/StudioWindow.h"
 
 #include <QElapsedTimer>
+#include <QTimer>
 
 class CustomizeDialog;
 
@@ -102,6 +103,7 @@ private:
     QByteArray windowState_;
     LayoutDocuments documents_;
     QElapsedTimer settling_;
+    QTimer settle_;
     DockStudioEvents* events_ = nullptr;
     int wantedState_ = 0;
     int suspended_ = 0;

@@ -105,16 +105,19 @@ void QtDockStudio::ApplyPanes(const std::vector<LayoutPane>& records) {
 }
 
 void QtDockStudio::RestoreSizes() {
-    if (!windowState_.isEmpty()) window_.restoreState(windowState_);
+    // A hidden window that will be maximised only remembers the record, and a second one takes its parts away.
+    const bool ready = window_.isVisible() || !window_.isMaximized();
+    if (!windowState_.isEmpty() && ready) window_.restoreState(windowState_);
     for (const auto& [side, strip] : paneOwner_.strips) strip->ShowIfNeeded();
     area_->RestoreSizes(documents_);
 }
 
 // The desktop gives the window its size some time after it was asked for, and each change of the size scales
-// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again.
+// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again, once the toolkit
+// is done with that change: in the middle of it, it still looks at what a record replaces.
 void QtDockStudio::Settle() {
     constexpr int Milliseconds = 1500;
-    if (settling_.isValid() && settling_.elapsed() < Milliseconds) RestoreSizes();
+    if (settling_.isValid() && settling_.elapsed() < Milliseconds) settle_.start();
 }
 
 void QtDockStudio::SaveLayout(const std::string& path) {
@@ -153,6 +156,7 @@ void QtDockStudio::SetPlace(const WindowPlace& place) {
 void QtDockStudio::ShowWindow() {
     // Otherwise the first box of a tool bar would have the focus of a window without documents.
     if (!area_->Active()) area_->setFocus(Qt::OtherFocusReason);
+    if (!window_.isVisible() && settling_.isValid()) settling_.start();
     switch (wantedState_) {
     case Maximised: return window_.showMaximized();
     case Minimised: return window_.showMinimized();
