@@ -13,8 +13,10 @@ namespace Mod_MenuCommands {
 void ExploreFocusOn(const std::string& word) {
     Guarded("ExploreFocusOn", "Mod_MenuCommands", [&] {
         frmMainList::Instance().ShowConstruct(word);
-        const DockPane* pane = gHost.dock->FindPane("CodeExplorer");
-        if (pane && !pane->Visible()) TogglePane("CodeExplorer");
+        DockPane* pane = gHost.dock->FindPane("CodeExplorer");
+        if (!pane) return;
+        // A list that nobody sees must not get the keys.
+        if (!pane->Visible() || pane->AutoHidden()) pane->Show();
         frmMainList::Instance().FocusList();
     });
 }
