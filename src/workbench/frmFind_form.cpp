@@ -46,6 +46,8 @@ QComboBox* Field(const char* name, const QString& spoken) {
 QPushButton* Button(const char* name, const QString& caption) {
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
+    // Else the one that was clicked last would take Enter from the one that finds.
+    button->setAutoDefault(false);
     return button;
 }
 

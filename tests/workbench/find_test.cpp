@@ -465,4 +465,21 @@ TEST_F(FindTest, WithoutADocumentNothingHappens) {
     EXPECT_EQ(MRUFind.Count(), 0);
 }
 
-} // namespace
+// Whatever was clicked last, also before the dialog was closed.
+TEST_F(FindTest, EnterFinds) {
+    Open("aa bb aa bb");
+    for (const char* clicked : {"cmdCancel", "cmdInsertWordUnderCursor"}) {
+        Dialog().StartFind(false);
+        QApplication::setActiveWindow(&Dialog());
+        Control<QPushButton>(clicked).setFocus();
+        Press(clicked);
+        Mod_Sci::SetSel(0, 0);
+        Dialog().StartFind(false);
+        Write("cboFind", "bb");
+        QTest::keyClick(Control<QComboBox>("cboFind").lineEdit(), Qt::Key_Return);
+        EXPECT_EQ(Selected(), "3-5") << clicked;
+        EXPECT_TRUE(Dialog().isVisible());
+    }
+}
+
+}
