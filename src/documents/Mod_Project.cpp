@@ -90,6 +90,15 @@ void OpenMembers(ClsProject& project, bool fromWorkspace) {
         if (!Mod_File::OpenProjectsFile(path, fromWorkspace)) Mod_File::TellUnloadable(path);
 }
 
+// Brings the project's main file to the front, else its first file.
+void ShowMainFile(const ClsProject& project) {
+    auto file = project.Files.Find(Behind(ToData(project.MainFile)));
+    if (!file && project.Files.Count() > 0) file = project.Files.Item(0);
+    if (!file) return;
+    DocumentWindow* window = gHost.dock->FindDocumentWindow(MemberPath(project, *file));
+    if (window != nullptr && window->HostedForm() != nullptr) window->Activate();
+}
+
 // The pipeline of the active document rests while other documents are loaded.
 class PipelineRest {
 public:
@@ -203,6 +212,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             gCurrentProject = project;
             OpenMembers(*project, fromWorkspace);
         }
+        if (!fromWorkspace) ShowMainFile(*project);
         Mod_File::AddRecentProject(path);
         if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
         if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();

@@ -41,6 +41,7 @@ TEST_F(OpenProjectTest, EveryMemberOpensAndSharesTheTables) {
     const auto project = Load();
     ASSERT_NE(project, nullptr);
     EXPECT_EQ(project->Compiler, DefaultCompiler);
+    EXPECT_EQ(session.host.dock.ActiveDocumentWindow()->Key(), Main()); // not the one that was opened last
     EXPECT_EQ(session.WindowKeys(), (std::vector<std::string>{Main(), Maths()}));
     EXPECT_NE(project->Funkcii.ItemHash("Twice"), nullptr);
     frmDoc& document = Member(Maths());
