@@ -113,6 +113,10 @@ void CloseFile() {
         window->SetVisible(false);
 }
 
+void CloseTab() {
+    if (DocumentWindow* window = gHost.dock->ActiveDocumentWindow()) window->SetVisible(false);
+}
+
 void NextFileTab() {
     Guarded("NextFileTab", "Mod_MenuCommands", [] {
         DockStudio& dock = *gHost.dock;

@@ -42,6 +42,8 @@ void ToggleStatusBar();
 void ExploreFocusOn(const std::string& word);
 void AskGotoLine();
 void CloseFile();
+// Closes the tab in front, whatever it shows, as its own button does.
+void CloseTab();
 // The next tab of the group, or the one before with gTabbingStartsWithPrevious.
 void NextFileTab();
 void ActivateWindow(int index);

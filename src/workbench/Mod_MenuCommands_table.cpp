@@ -249,6 +249,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"Customize", [](const Click&) { gHost.dock->Customize(); }},
         {"Move To Next Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(1); }},
         {"Move To Previous Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(-1); }},
+        {"Close Tab", [](const Click&) { CloseTab(); }},
     };
     return table;
 }

@@ -91,6 +91,7 @@ void frmMain::UpdateCommandUI() {
         };
         enable("Save File", have);
         enable("Save File As", have);
+        enable("Close Tab", gHost.dock->ActiveDocumentWindow() != nullptr);
         for (DockCommand* command : gHost.dock->Commands()) {
             const std::string category = command->Category();
             if (category == "Sci" || category == "SciFocus") command->SetEnabled(have);

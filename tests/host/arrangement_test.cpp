@@ -72,7 +72,7 @@ struct ArrangementTest : testing::Test {
         layout.commands = {
             {.name = "File", .kind = CommandKind::Popup, .caption = "&File", .entries = {{"Open"}, {"Exit"}}},
             {.name = "Open", .caption = "&Open", .shortcuts = {"Ctrl+O"}},
-            {.name = "Exit", .caption = "E&xit"},
+            {.name = "Exit", .caption = "E&xit", .shortcuts = {"Ctrl+W", "Alt+F4"}},
             {.name = "Box", .kind = CommandKind::EditCombo, .caption = "Box"},
             {.name = "Status", .kind = CommandKind::Status, .caption = "Status"}};
         layout.bars = {{.name = "MainMenu", .kind = BarKind::Menu, .entries = {{"File"}}},
@@ -257,14 +257,25 @@ TEST_F(ArrangementTest, WhatTheUserTookAwayStaysAwayAndWhatIsNewIsOffered) {
     Layout newer = ParseLayout(host.files.Read(factory));
     newer.commands[0].entries.push_back({"Print"});
     newer.commands.push_back({.name = "Print", .caption = "&Print", .shortcuts = {"Ctrl+O", "Ctrl+P"}});
+    newer.commands.push_back({.name = "Shut", .shortcuts = {"Ctrl+W"}, .keysFrom = "Exit"});
+    std::erase(newer.bars[2].entries, LayoutEntry{"Box"}); // given a place no longer
     QtDockStudio dock;
     dock.LoadLayout(host.Put("newer.mp", WriteLayout(newer)));
     dock.LoadLayout(saved);
+    const auto keys = [&](const char* name) {
+        return static_cast<QtCommand*>(dock.FindCommand(name))->Record().shortcuts;
+    };
+    EXPECT_EQ(keys("Exit"), std::vector<std::string>{"Alt+F4"});
+    EXPECT_EQ(keys("Shut"), std::vector<std::string>{"Ctrl+W"});
+    EXPECT_EQ(dock.IndexInBar("Two", "Box"), -1);
+    dock.InsertIntoBar("Two", "Box", 0, false); // the user wants it
+    dock.SaveLayout(saved);
+    dock.LoadLayout(saved);
+    EXPECT_EQ(dock.IndexInBar("Two", "Box"), 0);
     EXPECT_EQ(dock.IndexInBar("File", "Exit"), -1);
     EXPECT_EQ(dock.IndexInBar("File", "Print"), 1);
     // A key that another command has stays there.
-    EXPECT_EQ(static_cast<QtCommand*>(dock.FindCommand("Print"))->Record().shortcuts,
-              std::vector<std::string>{"Ctrl+P"});
+    EXPECT_EQ(keys("Print"), std::vector<std::string>{"Ctrl+P"});
 }
 
 // Whatever a file holds: it is refused with nothing changed, or it is loaded and the window goes on.

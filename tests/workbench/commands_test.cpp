@@ -174,7 +174,8 @@ const std::vector<std::string> Names{"New Line",
                                      "Stop Program",
                                      "Customize",
                                      "Move To Next Tab Group",
-                                     "Move To Previous Tab Group"};
+                                     "Move To Previous Tab Group",
+                                     "Close Tab"};
 
 Layout DefaultLayout() {
     return ParseLayout(QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/data/Layout.mp"));
@@ -213,12 +214,14 @@ TEST(CommandsTest, NoKeyIsTakenTwiceAndEveryKeyIsOne) {
     }
 }
 
-// Whoever looks for a command finds it in a menu or on a bar.
+// Whoever looks for a command finds it in a menu or on a bar; what does nothing yet is not offered.
 TEST(CommandsTest, EveryCommandHasAPlace) {
     const Layout layout = DefaultLayout();
     const auto placed = PlacedCommands(layout);
+    const std::set<std::string> unplaced{"Goto Function", "Print", "Print Preview", "Insert Filename"};
     for (const std::string& name : Names)
-        EXPECT_NE(std::find(placed.begin(), placed.end(), name), placed.end()) << name;
+        EXPECT_NE(std::find(placed.begin(), placed.end(), name) != placed.end(), unplaced.count(name) != 0)
+            << name;
 }
 
 TEST(CommandsTest, NoMnemonicStandsTwiceInAMenu) {

@@ -73,6 +73,36 @@ struct WindowTest : testing::Test {
     void Click(const char* name) { window.DS_CommandClick(*dock->FindCommand(name), -1); }
 };
 
+// A list that nobody sees must not get the keys.
+TEST_F(WindowTest, AListOfTheExplorerIsShownBeforeItGetsTheFocus) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    DockPane& pane = *dock->FindPane("CodeExplorer");
+    for (const bool rolled : {true, false}) {
+        pane.SetAutoHidden(rolled);
+        if (!rolled) pane.Hide();
+        ActiveForm()->View->GrabFocus();
+        Click("Types");
+        QWidget* focus = QApplication::focusWidget();
+        ASSERT_NE(focus, nullptr);
+        EXPECT_EQ(focus->objectName(), "lvTypes");
+        EXPECT_TRUE(focus->isVisible());
+    }
+}
+
+// "Close Tab" closes whatever is in front, also what "Close File" leaves alone.
+TEST_F(WindowTest, CloseTabClosesTheTabInFront) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("b.bb", "Print 1\r\n")));
+    gCurrentProject->SingleFile = false;
+    window.UpdateCommandUI();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
+    ASSERT_EQ(dock->DocumentWindows().size(), 1u);
+    EXPECT_EQ(ActiveForm()->Filename, "a.bb");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_TRUE(dock->DocumentWindows().empty());
+    EXPECT_FALSE(dock->FindCommand("Close Tab")->Enabled());
+}
+
 // One frame of a display that shows 60 a second: the median of many switches, with painting and colouring, in
 // processor time, because other programs may run.
 TEST_F(WindowTest, SwitchingTabsIsDoneWithinAFrame) {

@@ -97,6 +97,7 @@ LayoutCommand ReadCommand(const QJsonObject& object) {
     command.icon = Text(object, "icon");
     command.tip = Text(object, "tip");
     command.shortcuts = ReadTexts(object.value(QLatin1String("shortcuts")));
+    command.keysFrom = Text(object, "keysFrom");
     if (const QJsonValue checked = object.value(QLatin1String("checked")); checked.isBool())
         command.checked = checked.toBool();
     command.visible = object.value(QLatin1String("visible")).toBool(true);
@@ -112,6 +113,7 @@ QJsonObject CommandToJson(const LayoutCommand& command) {
     if (!command.icon.empty()) object["icon"] = Shown(command.icon);
     if (!command.tip.empty()) object["tip"] = Shown(command.tip);
     if (!command.shortcuts.empty()) object["shortcuts"] = TextsToJson(command.shortcuts);
+    if (!command.keysFrom.empty()) object["keysFrom"] = Shown(command.keysFrom);
     if (command.checked) object["checked"] = *command.checked;
     if (!command.visible) object["visible"] = false;
     if (command.width != 0) object["width"] = command.width;

@@ -32,6 +32,27 @@ void AddEntries(const LayoutEntries& present, LayoutEntries& stored, const std::
     }
 }
 
+// The keys that a new command takes over go from the one that had them.
+void TakeKeys(const LayoutCommand& added, Layout& stored) {
+    LayoutCommand* from = Named(stored.commands, added.keysFrom);
+    if (!from) return;
+    std::erase_if(from->shortcuts, [&](const std::string& key) {
+        return std::find(added.shortcuts.begin(), added.shortcuts.end(), key) != added.shortcuts.end();
+    });
+}
+
+// A place that the program itself gave a command, and gives it no longer.
+void RemoveWithdrawn(const Layout& factory, Layout& stored) {
+    std::set<std::string> withdrawn(stored.offered.begin(), stored.offered.end());
+    for (const std::string& name : PlacedCommands(factory)) withdrawn.erase(name);
+    const auto remove = [&](LayoutEntries& entries) {
+        std::erase_if(entries,
+                      [&](const LayoutEntry& entry) { return withdrawn.count(entry.command) != 0; });
+    };
+    for (LayoutCommand& command : stored.commands) remove(command.entries);
+    for (LayoutBar& bar : stored.bars) remove(bar.entries);
+}
+
 // A key that the user gave to another command stays with that one.
 void DropTakenKeys(LayoutCommand& added, const Layout& stored) {
     std::erase_if(added.shortcuts, [&](const std::string& key) {
@@ -53,12 +74,14 @@ std::vector<std::string> PlacedCommands(const Layout& layout) {
 }
 
 void AddWhatIsNew(const Layout& factory, Layout& stored) {
+    RemoveWithdrawn(factory, stored);
     std::set<std::string> offered(stored.offered.begin(), stored.offered.end());
     for (const std::string& name : PlacedCommands(stored)) offered.insert(name);
     for (const LayoutCommand& command : factory.commands) {
         LayoutCommand* known = Named(stored.commands, command.name);
         if (!known) {
             LayoutCommand added = command;
+            TakeKeys(added, stored);
             DropTakenKeys(added, stored);
             stored.commands.push_back(std::move(added));
             continue;
