@@ -1,6 +1,7 @@
 // The Code Explorer: from an edit that changes one symbol to the pane showing it, and what the pane adds to
 // the opening of a project. Each stands beside the same without the pane, which is its floor.
 #include "Source.h"
+#include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "editor/frmDoc.h"
@@ -104,7 +105,7 @@ void Open(benchmark::State& state, bool pane) {
         ActiveForm()->State.mJustActivated = true; // as the main window does
         Paint();
         state.PauseTiming();
-        Mod_Project::CloseProject(gCurrentProject);
+        Mod_File::CloseProject(gCurrentProject);
         QApplication::processEvents();
         state.ResumeTiming();
     }

@@ -1,5 +1,6 @@
 // The process: options that need no display, the platform's services, then the program's own start.
 #include "app/CommandLine.h"
+#include "app/EndSignals.h"
 #include "app/FirstStart.h"
 #include "app/Theme.h"
 #include "app/wire_up.h"
@@ -87,8 +88,9 @@ int main(int argc, char** argv) {
     Services services;
     ChooseFolders(PathBytes(QCoreApplication::applicationDirPath()));
     WireUp();
+    WatchForTheEnd();
     if (!Mod_Main::Main(JoinCommandLine(arguments, startFolder))) return 0;
-    const int status = QApplication::exec();
+    const int status = Mod_Main::Ended() ? 0 : QApplication::exec();
     gHost.dock->SetEvents(nullptr);
     return status;
 }

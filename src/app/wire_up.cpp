@@ -39,7 +39,7 @@ void WireEditor() {
     gEditorCalls.SetFunctionText = [](const std::string& text) { frmMain::Instance().SetFunctionText(text); };
     gEditorCalls.SetTipText = [](const TipText& tip) { frmMain::Instance().SetTipText(tip); };
     gEditorCalls.UpdateSciCommandUI = [] { frmMain::Instance().UpdateSciCommandUI(); };
-    gEditorCalls.OpenFile = [](const std::string& path) { Mod_File::OpenFile(path); };
+    gEditorCalls.FilesDropped = Mod_File::FilesDropped;
 }
 
 void WireDocuments() {

@@ -1,39 +1,128 @@
-// Closing all that is open.
+// Closing what is open.
 #include "documents/CloseFiles.h"
 
+#include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
+#include "host/Dialogs.h"
 #include "host/DockStudio.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 
-#include <string>
+#include <algorithm>
 #include <vector>
 
 namespace Mod_File {
 
+namespace {
+
+constexpr const char* HelpWindow = "HELP WINDOW";
+
+bool answered = false; // the questions about what is closing now have been answered
+
+class Answered {
+public:
+    Answered() { answered = true; }
+    ~Answered() { answered = false; }
+    Answered(const Answered&) = delete;
+    Answered& operator=(const Answered&) = delete;
+};
+
+frmDoc* DocumentOf(const DocumentWindow& window) {
+    return window.Key() == HelpWindow ? nullptr : dynamic_cast<frmDoc*>(window.HostedForm());
+}
+
+bool Belongs(const frmDoc& document, const ClsProject* project) {
+    return project == nullptr || project->Sources.Exist_Item(&document);
+}
+
+// The documents of a project, or all, in the order of their windows.
+std::vector<long> Serials(const ClsProject* project) {
+    std::vector<long> serials;
+    for (const DocumentWindow* window : gHost.dock->DocumentWindows())
+        if (const frmDoc* document = DocumentOf(*window); document != nullptr && Belongs(*document, project))
+            serials.push_back(document->Serial);
+    return serials;
+}
+
+DocumentWindow* WindowOf(const frmDoc& document) {
+    return gHost.dock->FindDocumentWindow(document.m_strDocumentWindowID);
+}
+
+// The save prompt. False when the document has to stay open.
+bool Ask(long serial) {
+    frmDoc* document = DocumentOfSerial(serial);
+    if (document == nullptr || !document->Dirty) return true;
+    if (DocumentWindow* window = WindowOf(*document)) window->Activate();
+    MakeActive(document);
+    const MessageAnswer answer = gHost.dialogs->Show(
+        {"The text in the file '" + document->Filename +
+             "' has changed.\r\n\r\nDo you want to save the changes ?",
+         MessageIcon::Question,
+         {},
+         document->SingleFile ? MessageButtons::YesNoCancel : MessageButtons::YesNo});
+    document = DocumentOfSerial(serial);
+    if (answer != MessageAnswer::Yes || document == nullptr) return answer == MessageAnswer::No;
+    return SaveFile(document);
+}
+
+bool AskFor(const ClsProject* project) {
+    const std::vector<long> serials = Serials(project);
+    return std::all_of(serials.begin(), serials.end(), Ask);
+}
+
+// Closes documents that were asked for. False when one stayed.
+bool Close(const ClsProject* project, bool singleOnly) {
+    const Answered scope;
+    for (const long serial : Serials(project)) {
+        const frmDoc* document = DocumentOfSerial(serial);
+        if (document == nullptr || (singleOnly && !document->SingleFile)) continue;
+        if (DocumentWindow* window = WindowOf(*document)) window->SetVisible(false);
+        if (DocumentOfSerial(serial) != nullptr) return false;
+    }
+    return true;
+}
+
+// Closes a project whose documents were asked for.
+bool CloseAsked(const std::shared_ptr<ClsProject>& project) {
+    if (project->Dirty) Mod_Project::SaveProject(*project);
+    // What could not be closed needs its project.
+    if (!Close(project.get(), false) || project->Sources.Count() > 0) return false;
+    if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
+    if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
+    if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+    return true;
+}
+
+} // namespace
+
+bool AskForAll() { return AskFor(nullptr); }
+
+bool CloseDocuments() { return Close(nullptr, false); }
+
+void DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
+    if (answered) return;
+    if (const frmDoc* document = DocumentOf(window); document != nullptr && !Ask(document->Serial))
+        cancel = true;
+}
+
 bool CloseAllFiles() {
     return Guarded("CloseAllFiles", "Mod_MenuCommands", false, [] {
-        std::vector<std::string> keys;
-        for (const DocumentWindow* window : gHost.dock->DocumentWindows()) keys.push_back(window->Key());
-        for (const std::string& key : keys) {
-            DocumentWindow* window = gHost.dock->FindDocumentWindow(key);
-            if (window == nullptr || key == "HELP WINDOW") continue;
-            const auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
-            if (document == nullptr || !document->SingleFile) continue;
-            window->SetVisible(false);
-            // The look-up is made again, for a window that closed is gone.
-            const DocumentWindow* left = gHost.dock->FindDocumentWindow(key);
-            if (left != nullptr && left->Visible()) return false;
-        }
+        if (!AskForAll() || !Close(nullptr, true)) return false;
         bool closed = true;
         for (int index = gProjects.Count() - 1; index >= 0; --index) {
             const auto project = gProjects.Item(index);
-            if (!project->SingleFile && !Mod_Project::CloseProject(project)) closed = false;
+            if (!project->SingleFile && !CloseAsked(project)) closed = false;
         }
         return closed;
     });
+}
+
+bool CloseProject(std::shared_ptr<ClsProject> project) {
+    return Guarded("CloseProject", "Mod_File", false,
+                   [&] { return AskFor(project.get()) && CloseAsked(project); });
 }
 
 } // namespace Mod_File

@@ -19,6 +19,7 @@ std::vector<std::string>::iterator ClsMRU::Find(const std::string& text) {
 }
 
 void ClsMRU::Add(const std::string& text) {
+    if (items_.empty()) return items_.push_back(text);
     const auto known = Find(text);
     if (AsFavorites) {
         if (Count() >= Number)
@@ -30,7 +31,7 @@ void ClsMRU::Add(const std::string& text) {
     }
     if (known != items_.end()) items_.erase(known);
     items_.insert(items_.begin(), text);
-    if (Count() > Number) items_.pop_back();
+    while (Count() > std::max(1, Number)) items_.pop_back();
 }
 
 void ClsMRU::Remove(const std::string& text) {
@@ -43,8 +44,11 @@ const std::string& ClsMRU::IndexItem(int index) const {
 }
 
 void ClsMRU::Load() {
-    std::vector<std::string> stored = ReadStoredList(Name + "MRU");
-    if (!stored.empty()) items_ = std::move(stored);
+    const std::vector<std::string> stored = ReadStoredList(Name + "MRU");
+    if (stored.empty()) return;
+    items_.clear();
+    for (const std::string& text : stored)
+        if (Count() < std::max(1, Number) && Find(text) == items_.end()) items_.push_back(text);
 }
 
 void ClsMRU::Save() const { WriteStoredList(Name + "MRU", items_); }

@@ -1,7 +1,11 @@
 // The steps of loading a document.
 #include "documents/DocumentLoading.h"
 
+#include "documents/CompilerRegistry.h"
+#include "documents/DocumentCalls.h"
+#include "documents/LoadMessages.h"
 #include "documents/Mod_File_params.h"
+#include "documents/OpenPaths.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -85,9 +89,41 @@ void ParseUnheard(frmDoc& document, const std::function<void()>& parse) {
     document.SubClass();
 }
 
+namespace {
+
+// Takes back what was begun where a member could not be opened, so that what was active still is.
+void GiveUp(frmDoc& document, const frmDoc* before, const std::shared_ptr<ClsProject>& project) {
+    const long serial = before == nullptr ? 0 : before->Serial;
+    UnloadDocument(&document);
+    MakeActive(DocumentOfSerial(serial));
+    gCurrentProject = project;
+}
+
+void ParseMember(ClsProject& project) {
+    CurrentFunctionName = MainProgram;
+    CurrentLocals = project.MainFunLocals;
+    CurrentTypeName.clear();
+    FoldLevel = 0;
+    IndentLevel = 0;
+    Mod_Parse::ParseAllLines();
+}
+
+} // namespace
+
+bool ActivateOpen(const std::string& path) {
+    const frmDoc* document = DocumentOfPath(path);
+    if (document == nullptr) return false;
+    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(document->m_strDocumentWindowID))
+        window->Activate();
+    return true;
+}
+
 bool OpenProjectsFile(const std::string& path, bool documentWindow) {
     return Guarded("OpenProjectsFile", "Mod_File", false, [&] {
+        // A second name of a file that is open would be a second document of it.
+        if (ActivateOpen(path)) return true;
         const auto project = gCurrentProject;
+        const frmDoc* before = ActiveForm();
         std::string reason;
         const std::shared_ptr<frmDoc> document = ReadDocument(path, reason);
         if (!document) return false;
@@ -97,21 +133,35 @@ bool OpenProjectsFile(const std::string& path, bool documentWindow) {
         document->SingleFile = false;
         document->CompilerUsed = project->Compiler;
         project->Sources.Add(document, path);
-        MakeActive(document.get());
-        document->Initialise(GetFileName(path));
-        ParseUnheard(*document, [&] {
-            CurrentFunctionName = MainProgram;
-            CurrentLocals = project->MainFunLocals;
-            CurrentTypeName.clear();
-            FoldLevel = 0;
-            IndentLevel = 0;
-            Mod_Parse::ParseAllLines();
-        });
-        BindWindow(*document, documentWindow);
+        try {
+            MakeActive(document.get());
+            document->Initialise(GetFileName(path));
+            ParseUnheard(*document, [&] { ParseMember(*project); });
+            BindWindow(*document, documentWindow);
+        } catch (...) {
+            GiveUp(*document, before, project);
+            throw;
+        }
         MakeActive(document.get());
         Mod_Sci::EmptyUndoBuffer();
         return true;
     });
+}
+
+bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& path, bool documentWindow) {
+    if (ActivateOpen(path)) return true;
+    const auto before = gCurrentProject;
+    gCurrentProject = project;
+    Mod_Main::SetActiveCompiler(project->Compiler);
+    if (!OpenProjectsFile(path, documentWindow)) {
+        gCurrentProject = before;
+        if (before) Mod_Main::SetActiveCompiler(before->Compiler);
+        TellUnloadable(path);
+        return false;
+    }
+    if (!documentWindow) Mod_Sci::GrabFocus();
+    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    return true;
 }
 
 } // namespace Mod_File

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+class ClsProject;
 class frmDoc;
 
 namespace Mod_File {
@@ -17,7 +18,14 @@ void ParseUnheard(frmDoc& document, const std::function<void()>& parse);
 // Puts a document into its window, which a layout may have brought back (`documentWindow`), and shows it.
 void BindWindow(frmDoc& document, bool documentWindow);
 
-// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message.
+// Brings the document of a path to the front. False where none is open.
+bool ActivateOpen(const std::string& path);
+// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message, and leaves
+// what was active as it was.
 bool OpenProjectsFile(const std::string& path, bool documentWindow = false);
+// Opens a member of a project that is open, or brings it to the front. False, with a message, when it cannot be
+// loaded. Writes gActiveDoc, gCurrentProject, SciWndData.
+bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& path,
+                bool documentWindow = false);
 
 } // namespace Mod_File

@@ -5,6 +5,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/LoadMessages.h"
 #include "documents/Mod_Project.h"
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "documents/RecentFiles.h"
 #include "editor/SciOptions.h"
@@ -18,6 +19,7 @@
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Outside.h"
 #include "host/Text.h"
 #include "host/WaitCursor.h"
 #include "sci/Mod_Sci.h"
@@ -32,19 +34,10 @@ namespace Mod_File {
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr std::size_t ShortestNamedPath = 3; // such a path is tried whatever its extension
 
 constexpr const char* OpenFilter = "All Supported Formats|*.bb;*.zpf|Zolto Project Files (*.zpf)|*.zpf|Blitz "
                                    "Basic File (*.bb)|*.bb|All Files|*.*";
-
-DocumentWindow* WindowOfFile(const std::string& path) {
-    for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
-        if (window->Key() == HelpWindow || window->HostedForm() == nullptr) continue;
-        if (EqualNoCase(static_cast<frmDoc*>(window->HostedForm())->FullFilename, path)) return window;
-    }
-    return nullptr;
-}
 
 bool CanBeRead(const std::string& path) {
     try {
@@ -56,14 +49,12 @@ bool CanBeRead(const std::string& path) {
 }
 
 // An open file comes to the front; with changes the user may have it loaded anew. True when the call is done.
-bool AlreadyOpen(const std::string& path) {
-    DocumentWindow* window = WindowOfFile(path);
-    if (window == nullptr) return false;
-    auto* document = static_cast<frmDoc*>(window->HostedForm());
-    if (!document->Dirty) {
-        window->Activate();
-        return true;
-    }
+bool AlreadyOpen(std::string& path) {
+    frmDoc* document = DocumentOfPath(path);
+    if (document == nullptr) return false;
+    path = document->FullFilename; // it keeps its name, whichever led to it
+    if (!document->Dirty) return ActivateOpen(path);
+    const long serial = document->Serial;
     const MessageAnswer answer = gHost.dialogs->Show(
         {"File " + document->Filename +
              " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
@@ -73,9 +64,12 @@ bool AlreadyOpen(const std::string& path) {
         TellUnloadable(path);
         return true;
     }
-    window->Attach(nullptr);
+    document = DocumentOfSerial(serial);
+    if (document == nullptr) return false;
+    DocumentWindow* window = gHost.dock->FindDocumentWindow(document->m_strDocumentWindowID);
+    if (window != nullptr) window->Attach(nullptr);
     UnloadDocument(document);
-    gHost.dock->DropDocumentWindow(*window);
+    if (window != nullptr) gHost.dock->DropDocumentWindow(*window);
     return false;
 }
 
@@ -145,9 +139,13 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     return true;
 }
 
-int NextNewNumber() {
+// A name that no open document has: with a number behind it where that is wanted, or where it is taken.
+std::string NewName() {
     static int counter = 0; // never reset while the program runs
-    return ++counter;
+    std::string name = Options::gDefNewName;
+    if (Options::gEnumerateNewFiles) name += " " + std::to_string(++counter);
+    while (gProjects.Exist_Key(name)) name = Options::gDefNewName + " " + std::to_string(++counter);
+    return name;
 }
 
 // Asks for files; all but a single one are opened here.
@@ -159,6 +157,34 @@ std::string AskForFile() {
     return {};
 }
 
+std::vector<std::string> SplitAtBlanks(const std::string& text) {
+    std::vector<std::string> parts;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t blank = std::min(text.find(' ', from), text.size());
+        parts.push_back(text.substr(from, blank - from));
+        from = blank + 1;
+    }
+    return parts;
+}
+
+std::string WithoutQuotes(std::string token) {
+    if (token.starts_with('"')) token.erase(0, 1);
+    if (token.ends_with('"')) token.pop_back();
+    return token;
+}
+
+// What stands between the quote that opens a token and the next one at a token's end, which is the one at
+// `last`; empty where there are no such two.
+std::string QuotedFrom(const std::vector<std::string>& tokens, std::size_t first, std::size_t& last) {
+    if (!tokens[first].starts_with('"')) return {};
+    std::string whole;
+    for (last = first; last < tokens.size(); ++last) {
+        whole += (last > first ? " " : "") + tokens[last];
+        if (whole.size() > 1 && whole.ends_with('"')) return whole.substr(1, whole.size() - 2);
+    }
+    return {};
+}
+
 } // namespace
 
 bool OpenFile(const std::string& wanted, bool documentWindow, bool isSnippet) {
@@ -167,6 +193,9 @@ bool OpenFile(const std::string& wanted, bool documentWindow, bool isSnippet) {
         if (path.empty()) return false;
         path = gHost.files->Find(path);
         if (ForeignFile(path) || AlreadyOpen(path)) return false;
+        std::string memberPath;
+        if (const auto project = ProjectOfMember(path, memberPath))
+            return OpenMember(project, memberPath, documentWindow);
         return LoadDocument(path, documentWindow, isSnippet);
     });
 }
@@ -176,8 +205,7 @@ void NewFile() {
         gHost.desktop->Pump();
         auto document = std::make_shared<frmDoc>();
         document->SubClass();
-        std::string name = Options::gDefNewName;
-        if (Options::gEnumerateNewFiles) name += " " + std::to_string(NextNewNumber());
+        const std::string name = NewName();
         DocumentWindow& window = gHost.dock->AddDocumentWindow("", name, nullptr);
         try {
             document->m_strDocumentWindowID = window.Key();
@@ -202,30 +230,36 @@ void NewFile() {
 
 void OpenFilesFromCommand(const std::string& commandLine) {
     Guarded("OpenFilesFromCommand", "Mod_File", [&] {
-        std::vector<std::string> tokens;
-        for (std::size_t from = 0; from <= commandLine.size();) {
-            const std::size_t blank = std::min(commandLine.find(' ', from), commandLine.size());
-            tokens.push_back(commandLine.substr(from, blank - from));
-            from = blank + 1;
-        }
-        for (std::string& token : tokens) {
-            if (token.starts_with('"')) token.erase(0, 1);
-            if (token.ends_with('"')) token.pop_back();
-        }
+        std::vector<std::string> tokens = SplitAtBlanks(commandLine);
         long line = 0;
+        const auto open = [&](const std::string& path) {
+            if (path.empty() || gHost.desktop->ShortPath(path).empty()) return false;
+            if (OpenFile(path) && line > 0) Mod_Sci::GotoLine(line - 1);
+            line = 0;
+            return true;
+        };
         for (std::size_t i = 0; i < tokens.size(); ++i) {
-            const std::string& token = tokens[i]; // untrimmed: a path may hold two blanks in a row
-            const std::string option = UCase(TrimBlanks(token));
-            if (option.starts_with("/L:")) {
-                line = std::lrint(std::strtod(option.c_str() + 3, nullptr));
-            } else if (!token.empty() && !gHost.desktop->ShortPath(token).empty()) {
-                if (OpenFile(token) && line > 0) Mod_Sci::GotoLine(line - 1);
-                line = 0;
-            } else if (i + 1 < tokens.size()) {
-                tokens[i + 1] = token + " " + tokens[i + 1];
+            std::size_t last = i;
+            // What stands in quotes is tried whole, for its first part may be the name of something else.
+            if (open(QuotedFrom(tokens, i, last))) {
+                i = last;
+                continue;
             }
+            const std::string token = WithoutQuotes(tokens[i]); // untrimmed: a path may hold two blanks in a row
+            const std::string option = UCase(TrimBlanks(token));
+            if (option.starts_with("/L:"))
+                line = std::lrint(std::strtod(option.c_str() + 3, nullptr));
+            else if (!open(token) && i + 1 < tokens.size())
+                tokens[i + 1] = token + " " + WithoutQuotes(tokens[i + 1]);
         }
     });
+}
+
+void FilesDropped(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths)
+        FromOutside([path] {
+            if (gHost.files->Kind(path) != PathKind::Folder) OpenFile(path);
+        });
 }
 
 } // namespace Mod_File

@@ -5,6 +5,7 @@
 #include "documents/Mod_File_params.h"
 
 #include <string>
+#include <vector>
 
 class frmDoc;
 
@@ -15,7 +16,7 @@ namespace Mod_File {
 bool OpenFile(const std::string& path, bool documentWindow = false, bool isSnippet = false);
 // Makes a new, unnamed document and activates it.
 void NewFile();
-// Saves one document, which becomes the active one. False when nothing was written.
+// Saves the text of one document, whichever is the active one. False when nothing was written.
 bool SaveFile(frmDoc* document);
 bool SaveFileAs(frmDoc* document);
 bool SaveAllFiles();     // every dirty document that has a file
@@ -26,6 +27,9 @@ bool CreateEmptyFile(const std::string& path);
 
 // Opens what a command line names: paths, quoted or not, and /L:<line> in front of one.
 void OpenFilesFromCommand(const std::string& commandLine);
+
+// Opens files that were dropped on the program; a folder is passed over.
+void FilesDropped(const std::vector<std::string>& paths);
 
 // Reads a .style file into the style table. Answers the name that was loaded, empty when none was.
 std::string LoadStyle(const std::string& name);

@@ -4,6 +4,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File_backup.h"
 #include "documents/Mod_Project.h"
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "documents/RecentFiles.h"
 #include "editor/SciOptions.h"
@@ -25,28 +26,35 @@ constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr int FailureSaveWithoutDocument = 99020;
 constexpr int FailureSaveAsWithoutDocument = 93320;
 
-// Works on a document as the active one and puts back which one was.
+// Works on a document as the active one and puts back which one was, if that is still open.
 class ActiveFor {
 public:
-    explicit ActiveFor(frmDoc& document) : before_(ActiveForm()) { MakeActive(&document); }
-    ~ActiveFor() { MakeActive(before_); }
+    explicit ActiveFor(frmDoc& document) : before_(ActiveForm() == nullptr ? 0 : ActiveForm()->Serial) {
+        MakeActive(&document);
+    }
+    ~ActiveFor() { MakeActive(DocumentOfSerial(before_)); }
     ActiveFor(const ActiveFor&) = delete;
     ActiveFor& operator=(const ActiveFor&) = delete;
 
 private:
-    frmDoc* before_;
+    long before_;
 };
 
 void Critical(std::string text, std::string title) {
     gHost.dialogs->Show({std::move(text), MessageIcon::Critical, std::move(title)});
 }
 
-// Writes the active editor's text with a block behind it.
-bool WriteActive(const std::string& path, const std::string& block) {
+std::string BytesOf(frmDoc& document, bool withBlock) {
+    const ActiveFor active(document);
+    return Mod_Sci::GetText() + (withBlock ? GetFileParameters() : std::string());
+}
+
+// Writes the text of a document, whichever is the active one, with a block behind it or without.
+bool WriteDocument(frmDoc& document, const std::string& path, bool withBlock) {
     BeginWaitCursor();
     bool written = true;
     try {
-        gHost.files->Write(path, Mod_Sci::GetText() + block);
+        gHost.files->Write(path, BytesOf(document, withBlock));
     } catch (const Failure&) {
         written = false;
     }
@@ -60,8 +68,12 @@ bool WriteActive(const std::string& path, const std::string& block) {
 
 void AfterWrite(frmDoc& document) {
     document.NewFile = false;
-    if (OptionsEdit::EmptyUndo) Mod_Sci::EmptyUndoBuffer();
-    Mod_Sci::SetSavePoint();
+    if (OptionsEdit::EmptyUndo) Mod_Sci::SendTo(document.SciEdi_WndData, SCI_EMPTYUNDOBUFFER);
+    Mod_Sci::SendTo(document.SciEdi_WndData, SCI_SETSAVEPOINT);
+}
+
+void InvalidName(const std::string& path, const char* why) {
+    Critical("File named " + GetFileName(path) + why, "Invalid name");
 }
 
 // A project's member stays in the project's folder, and its name is its own.
@@ -71,21 +83,23 @@ bool AllowedInProject(const ClsProject& project, const std::string& path) {
         return false;
     }
     if (project.Files.Exist_Key(GetFileName(path))) {
-        Critical("File named " + GetFileName(path) + " already exists in this project", "Invalid name");
+        InvalidName(path, " already exists in this project");
         return false;
     }
     return true;
 }
 
-// Two documents of one path could not be told apart: closing one would take the other's project away.
-bool OpenElsewhere(const frmDoc& document, const std::string& path) {
-    for (const auto& project : gProjects) {
-        const auto other = project.record->Sources.Find(path);
-        if (!other || other.get() == &document) continue;
-        Critical("File named " + GetFileName(path) + " is already open", "Invalid name");
+// Two documents of one path could not be told apart, nor could a file by itself be told from a member.
+bool TakenElsewhere(const frmDoc& document, const std::string& path) {
+    if (const frmDoc* other = DocumentOfPath(path); other != nullptr && other != &document) {
+        InvalidName(path, " is already open");
         return true;
     }
-    return false;
+    std::string memberPath;
+    const auto project = ProjectOfMember(path, memberPath);
+    if (!project || project->FullPath == document.PrjFullPath) return false;
+    InvalidName(path, " already exists in this project");
+    return true;
 }
 
 void RenameSingle(frmDoc& document, const std::shared_ptr<ClsProject>& project, const std::string& path) {
@@ -101,6 +115,7 @@ void RenameSingle(frmDoc& document, const std::shared_ptr<ClsProject>& project, 
 void RenameMember(ClsProject& project, const std::string& oldName, const std::string& path) {
     const auto file = project.Files.Find(oldName);
     if (file) {
+        if (EqualNoCase(project.MainFile, oldName)) project.MainFile = GetFileName(path);
         file->AbsPath = ToData(path.substr(project.Path.size()));
         file->Name = GetFileName(path);
         project.Files.RemoveKey(oldName);
@@ -134,6 +149,22 @@ void Rebind(frmDoc& document, const std::string& path) {
     if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
 }
 
+// Where the dialog starts: beside the file; a new one of a project in the project's folder.
+std::string StartFolder(const frmDoc& document) {
+    const std::string own = GetFolder(document.FullFilename);
+    if (!own.empty() || document.SingleFile) return own;
+    return gProjects.Item(document.PrjFullPath)->Path;
+}
+
+// A save can ask for a name, so each document is looked up when its turn comes.
+void SaveDirty(const std::vector<long>& serials) {
+    gHost.desktop->LockWindowUpdate(true);
+    for (const long serial : serials)
+        if (frmDoc* document = DocumentOfSerial(serial); document != nullptr && document->Dirty)
+            SaveFile(document);
+    gHost.desktop->LockWindowUpdate(false);
+}
+
 } // namespace
 
 bool SaveFile(frmDoc* document) {
@@ -141,10 +172,10 @@ bool SaveFile(frmDoc* document) {
         if (document == nullptr) throw Failure(FailureSaveWithoutDocument, "No document to save");
         const std::string path = document->FullFilename;
         if (path.find('/') == std::string::npos) return SaveFileAs(document);
-        const ActiveFor active(*document);
+        const long serial = document->Serial;
         if (Options::gBackupEnabled && document->Dirty) BackupFile(path);
-        const std::string block = document->IsSnippet ? std::string() : GetFileParameters();
-        if (!WriteActive(path, block)) return false;
+        document = DocumentOfSerial(serial);
+        if (document == nullptr || !WriteDocument(*document, path, !document->IsSnippet)) return false;
         AfterWrite(*document);
         return true;
     });
@@ -158,15 +189,15 @@ bool SaveFileAs(frmDoc* document) {
             document = ActiveForm();
             if (document == nullptr) return false;
         }
+        const long serial = document->Serial;
+        const std::string path = gHost.dialogs->SaveFile({"Save File As", "Blitz Basic File (*.bb)|*.bb",
+                                                          document->Filename, StartFolder(*document)});
+        document = path.empty() ? nullptr : DocumentOfSerial(serial);
+        if (document == nullptr) return false;
+        if (!document->SingleFile && !AllowedInProject(*gProjects.Item(document->PrjFullPath), path))
+            return false;
+        if (TakenElsewhere(*document, path) || !WriteDocument(*document, path, true)) return false;
         const ActiveFor active(*document);
-        const ClsProject& project = *gCurrentProject;
-        FileQuestion question{"Save File As", "Blitz Basic File (*.bb)|*.bb", document->Filename,
-                              document->SingleFile ? std::string() : project.Path};
-        const std::string path = gHost.dialogs->SaveFile(question);
-        if (path.empty()) return false;
-        if (!document->SingleFile && !AllowedInProject(project, path)) return false;
-        if (OpenElsewhere(*document, path)) return false;
-        if (!WriteActive(path, GetFileParameters())) return false;
         Rebind(*document, path);
         if (document->SingleFile) AddRecentFile(path);
         return true;
@@ -176,13 +207,13 @@ bool SaveFileAs(frmDoc* document) {
 bool SaveAllFiles() {
     return Guarded("SaveAllFiles", "Mod_File", true, [&] {
         if (gActiveDoc == nullptr) return true;
-        gHost.desktop->LockWindowUpdate(true);
-        for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
+        std::vector<long> serials;
+        for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
             if (window->Key() == HelpWindow || window->HostedForm() == nullptr) continue;
-            auto* document = static_cast<frmDoc*>(window->HostedForm());
-            if (document->Dirty && !document->NewFile) SaveFile(document);
+            const auto* document = static_cast<frmDoc*>(window->HostedForm());
+            if (!document->NewFile) serials.push_back(document->Serial);
         }
-        gHost.desktop->LockWindowUpdate(false);
+        SaveDirty(serials);
         return true;
     });
 }
@@ -191,13 +222,10 @@ bool SaveProjectFiles() {
     return Guarded("SaveProjectFiles", "Mod_File", true, [&] {
         const auto project = gCurrentProject;
         if (!project) return true;
-        std::vector<frmDoc*> documents; // a new name moves its entry, so the list is taken first
+        std::vector<long> serials;
         for (const auto& source : project->Sources)
-            documents.push_back(static_cast<frmDoc*>(source.record.get()));
-        gHost.desktop->LockWindowUpdate(true);
-        for (frmDoc* document : documents)
-            if (document->Dirty) SaveFile(document);
-        gHost.desktop->LockWindowUpdate(false);
+            serials.push_back(static_cast<const frmDoc&>(*source.record).Serial);
+        SaveDirty(serials);
         return true;
     });
 }
@@ -205,7 +233,7 @@ bool SaveProjectFiles() {
 bool WriteTextFile(const std::string& path) {
     return Guarded("WriteTextFile", "Mod_File", false, [&] {
         gHost.files->MakeFolders(GetFolder(path));
-        return WriteActive(path, "");
+        return ActiveForm() != nullptr && WriteDocument(*ActiveForm(), path, false);
     });
 }
 

@@ -6,6 +6,7 @@
 #include "documents/LoadMessages.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "documents/OpenPaths.h"
 #include "documents/RecentFiles.h"
 #include "documents/WorkspaceText.h"
 #include "editor/frmDoc.h"
@@ -106,7 +107,7 @@ void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
         return TellUnloadable(entry.path);
     if (entry.single)
         OpenFile(entry.path, true);
-    else if (!gProjects.Exist_Key(entry.path))
+    else if (!ProjectOfPath(entry.path))
         Mod_Project::LoadProject(entry.path, true);
 }
 
@@ -160,7 +161,7 @@ void Activate(const Workspace& workspace) {
     const bool known =
         document == nullptr ||
         std::any_of(workspace.views.begin(), workspace.views.end(), [&](const WorkspaceView& view) {
-            return EqualNoCase(view.path, document->FullFilename);
+            return view.path == document->FullFilename;
         });
     if (!known && workspace.caret < Mod_Sci::GetLength()) Mod_Sci::GotoPos(workspace.caret);
 }

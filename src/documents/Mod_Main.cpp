@@ -14,6 +14,7 @@
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
+#include "host/Outside.h"
 #include "host/SettingsStore.h"
 
 #include <cstdlib>
@@ -30,18 +31,19 @@ constexpr int StrictBadStyle = 16;
 
 int lastWindowState = 0; // the last state of the main window that was not minimised
 
-// True when another instance runs and this one has to end.
+// True when another instance took what this one was given, and this one has to end.
 bool HandedOver(const std::string& commandLine) {
     Options::MultipleInstances = std::atoi(gHost.settings->Get("Options", "MultipleInstances", "0").c_str());
     if (!gHost.instances->AnotherRuns() || Options::MultipleInstances != 0) return false;
-    std::string handle = "0";
-    for (int round = 0; round < WaitRounds && std::atoi(handle.c_str()) == 0; ++round) {
+    for (int round = 0; round < WaitRounds; ++round) {
+        if (round > 0) gHost.instances->WaitForPublish();
         gHost.desktop->Pump();
-        handle = gHost.settings->Get("Instance", "Handle", "0");
+        const std::string handle = gHost.settings->Get("Instance", "Handle", "0");
+        if (std::atoi(handle.c_str()) == 0) continue;
+        // A channel where nobody listens was left by an instance that was killed.
+        if (gHost.instances->Send(handle, commandLine.empty() ? BringForward : commandLine)) return true;
     }
-    if (std::atoi(handle.c_str()) != 0)
-        gHost.instances->Send(handle, commandLine.empty() ? BringForward : commandLine);
-    return true;
+    return false; // two windows are better than a file that does not open
 }
 
 void Status(const char* text) {
@@ -107,7 +109,7 @@ void TextReceived(const std::string& text) {
         gHost.dock->SetPlace(place);
     }
     gHost.dock->BringToFront();
-    if (text != BringForward) Mod_File::OpenFilesFromCommand(text);
+    if (text != BringForward) FromOutside([text] { Mod_File::OpenFilesFromCommand(text); });
 }
 
 void Resized() {

@@ -3,8 +3,6 @@
 
 #include <string>
 
-class DocumentWindow;
-
 namespace Mod_Main {
 
 // Process entry with the raw command line. False when this process must end at once because another
@@ -21,8 +19,13 @@ void TextReceived(const std::string& text);
 void PlaceMainWindow();
 // The whole of shutdown; `cancel` becomes true when a document would not close.
 void QueryUnload(bool& cancel);
-// The save prompt of a document window that is about to hide.
-void DocumentWindowHiding(DocumentWindow& window, bool& cancel);
+// Writes what is remembered between runs, without a question and without ending: the session may end soon.
+void SaveSession();
+// The same for a process that is told to end at once. Texts that were not saved are not written over their
+// files. The caller leaves the event loop.
+void EndNow();
+// Whether shutdown or EndNow has been through.
+bool Ended();
 // Keeps the last state of the main window that was not minimised.
 void Resized();
 

@@ -1,16 +1,15 @@
-// The window's place in the settings, the save prompt, and the fixed order of shutdown.
+// The window's place in the settings, and the fixed order of shutdown.
 #include "documents/Mod_Main.h"
 
 #include "documents/ClsMRU.h"
+#include "documents/CloseFiles.h"
 #include "documents/DocumentCalls.h"
-#include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"
 #include "documents/RecentFiles.h"
-#include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/Desktop.h"
-#include "host/Dialogs.h"
+#include "host/DockStudio.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
@@ -18,12 +17,12 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace Mod_Main {
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr const char* LayoutSection = "Layout0.8_0";
 constexpr const char* LayoutFile = "Layouts\\Layout0.8_0.mp";
 constexpr int Minimised = 1;
@@ -49,23 +48,29 @@ void SavePlace(const WindowPlace& place) {
     save("MainState", place.state);
 }
 
-// Hides every document window, which asks for each dirty one. False when one stayed.
-bool CloseDocuments() {
-    std::vector<std::string> keys;
-    for (const DocumentWindow* window : gHost.dock->DocumentWindows()) keys.push_back(window->Key());
-    for (const std::string& key : keys) {
-        DocumentWindow* window = key == HelpWindow ? nullptr : gHost.dock->FindDocumentWindow(key);
-        if (window == nullptr) continue;
-        window->SetVisible(false);
-        window = gHost.dock->FindDocumentWindow(key);
-        if (window != nullptr && window->Visible()) return false;
-    }
-    return true;
+bool ended = false; // what is remembered between runs has been written for the last time
+
+// Writes what is remembered between runs, but for the workspace.
+void SaveLists() {
+    // As on closing it: a project is saved without being asked for.
+    for (const auto& entry : gProjects)
+        if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
+    Mod_File::SaveRecentFilesProjects();
+    MRUCommandLine.Save();
+    const WindowPlace place = gHost.dock->Place();
+    if (place.state == Minimised) return;
+    // The place is kept even where the arrangement cannot be written.
+    Guarded("Form_QueryUnload", "frmMain", [] {
+        gHost.files->MakeFolders(AppPath("Layouts"));
+        gHost.dock->SaveLayout(AppPath(LayoutFile));
+    });
+    SavePlace(place);
 }
 
 } // namespace
 
 void PlaceMainWindow() {
+    ended = false;
     const ScreenSize screen = gHost.desktop->Screen();
     WindowPlace place;
     place.top = ReadPlace("MainTop", 1000);
@@ -78,51 +83,46 @@ void PlaceMainWindow() {
     gHost.dock->SetPlace(place);
 }
 
-void DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
-    Guarded("DS_DocumentWindowHiding", "frmMain", [&] {
-        if (window.HostedForm() == nullptr || window.Key() == HelpWindow) return;
-        auto* document = static_cast<frmDoc*>(window.HostedForm());
-        if (!document->Dirty) return;
-        window.Activate();
-        MakeActive(document);
-        const bool single = gCurrentProject == nullptr || gCurrentProject->SingleFile;
-        const MessageAnswer answer =
-            gHost.dialogs->Show({"The text in the file '" + document->Filename +
-                                     "' has changed.\r\n\r\nDo you want to save the changes ?",
-                                 MessageIcon::Question,
-                                 {},
-                                 single ? MessageButtons::YesNoCancel : MessageButtons::YesNo});
-        if (answer == MessageAnswer::Cancel) cancel = true;
-        if (answer == MessageAnswer::Yes && !Mod_File::SaveFile(document)) cancel = true;
-    });
-}
-
 void QueryUnload(bool& cancel) {
     Guarded("Form_QueryUnload", "frmMain", [&] {
+        const std::string handle = gHost.settings->Get("Instance", "Handle", "0");
         gHost.settings->Save("Instance", "Handle", "0");
-        if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
-        Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
-        if (!CloseDocuments()) {
+        if (!Mod_File::AskForAll()) {
+            // Who starts the program again must find this one.
+            gHost.settings->Save("Instance", "Handle", handle);
             cancel = true;
             return;
         }
-        // As on closing it: a project is saved without being asked for.
-        for (const auto& entry : gProjects)
-            if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
-        Mod_File::SaveRecentFilesProjects();
-        MRUCommandLine.Save();
-        const WindowPlace place = gHost.dock->Place();
-        if (place.state != Minimised) {
-            // The place is kept even where the arrangement cannot be written.
-            Guarded("Form_QueryUnload", "frmMain", [] {
-                gHost.files->MakeFolders(AppPath("Layouts"));
-                gHost.dock->SaveLayout(AppPath(LayoutFile));
-            });
-            SavePlace(place);
+        if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
+        Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
+        if (!Mod_File::CloseDocuments()) {
+            gHost.settings->Save("Instance", "Handle", handle);
+            cancel = true;
+            return;
         }
+        SaveLists();
+        ended = true;
         gHost.instances->Withdraw();
         gHost.desktop->Pump();
     });
 }
+
+void SaveSession() {
+    if (ended) return;
+    // Nobody may be there to close a report, and who ends the session doesn't wait.
+    const auto report = std::exchange(gShowErrorDialog, nullptr);
+    Mod_File::SaveWorkSpace(Mod_File::LastWorkspace());
+    Guarded("SaveSession", "Mod_Main", SaveLists);
+    gShowErrorDialog = report;
+}
+
+void EndNow() {
+    SaveSession();
+    if (!ended) gHost.settings->Save("Instance", "Handle", "0");
+    ended = true;
+    gHost.instances->Withdraw();
+}
+
+bool Ended() { return ended; }
 
 } // namespace Mod_Main

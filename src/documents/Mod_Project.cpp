@@ -6,6 +6,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/DocumentLoading.h"
 #include "documents/LoadMessages.h"
+#include "documents/OpenPaths.h"
 #include "documents/RecentFiles.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -30,10 +31,6 @@ std::string Behind(const std::string& path) { return path.substr(path.rfind('\\'
 std::string InFront(const std::string& path) {
     const std::size_t at = path.rfind('\\');
     return at == std::string::npos ? std::string() : path.substr(0, at);
-}
-
-std::string MemberPath(const ClsProject& project, const clsFile& file) {
-    return gHost.files->Find(CollapseSeparators(project.Path + ToDisk(file.AbsPath)));
 }
 
 void ReadSettings(ClsProject& project, const std::string& text) {
@@ -62,7 +59,7 @@ void ReadFile(ClsProject& project, const std::string& line) {
     file->Visible = IsBlockTrue(BlockAttribute(line, "Visible"));
     file->TreeParent = project.Name + file->PrjFolder;
     file->Name = Behind(file->AbsPath);
-    const std::string path = MemberPath(project, *file);
+    const std::string path = Mod_File::MemberPath(project, *file);
     if (gHost.files->Kind(path) == PathKind::None) {
         Mod_File::TellLoadFailure({" File " + path + " that is part of this project is missing " +
                                        "\r\n This file will be removed from this project",
@@ -75,9 +72,8 @@ void ReadFile(ClsProject& project, const std::string& line) {
 // The first member that is open already as something else; empty where none is.
 std::string AlreadyOpenMember(const ClsProject& project) {
     for (const auto& entry : project.Files) {
-        std::string path = MemberPath(project, *entry.record);
-        const DocumentWindow* window = gHost.dock->FindDocumentWindow(path);
-        if (window != nullptr && window->HostedForm() != nullptr) return path;
+        std::string path = Mod_File::MemberPath(project, *entry.record);
+        if (Mod_File::DocumentOfPath(path) != nullptr) return path;
     }
     return {};
 }
@@ -85,7 +81,7 @@ std::string AlreadyOpenMember(const ClsProject& project) {
 void OpenMembers(ClsProject& project, bool fromWorkspace) {
     const WaitCursor wait;
     std::vector<std::string> paths;
-    for (const auto& entry : project.Files) paths.push_back(MemberPath(project, *entry.record));
+    for (const auto& entry : project.Files) paths.push_back(Mod_File::MemberPath(project, *entry.record));
     for (const std::string& path : paths)
         if (!Mod_File::OpenProjectsFile(path, fromWorkspace)) Mod_File::TellUnloadable(path);
 }
@@ -95,8 +91,7 @@ void ShowMainFile(const ClsProject& project) {
     auto file = project.Files.Find(Behind(ToData(project.MainFile)));
     if (!file && project.Files.Count() > 0) file = project.Files.Item(0);
     if (!file) return;
-    DocumentWindow* window = gHost.dock->FindDocumentWindow(MemberPath(project, *file));
-    if (window != nullptr && window->HostedForm() != nullptr) window->Activate();
+    Mod_File::ActivateOpen(Mod_File::MemberPath(project, *file));
 }
 
 // The pipeline of the active document rests while other documents are loaded.
@@ -119,6 +114,12 @@ public:
 private:
     std::string window_;
 };
+
+// A project that brought no document leaves the active one in front, with its own project and compiler.
+void BackToActive() {
+    MakeActive(ActiveForm());
+    if (gCurrentProject) Mod_Main::SetActiveCompiler(gCurrentProject->Compiler);
+}
 
 template <class Collection, class Record>
 int SortedPlace(const Collection& collection, const Record& record) {
@@ -192,9 +193,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             Mod_File::TellLoadFailure({"Not a valid project file !", MessageIcon::Critical});
             return false;
         }
-        if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
-        Mod_Main::SetActiveCompiler(project->Compiler);
-        if (gProjects.Exist_Key(project->FullPath)) {
+        if (Mod_File::ProjectOfPath(project->FullPath)) {
             Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
             return false;
         }
@@ -206,6 +205,8 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
                  MessageIcon::Exclamation, "Project loading aborted..."});
             return false;
         }
+        if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
+        Mod_Main::SetActiveCompiler(project->Compiler);
         gProjects.Add(project, project->FullPath);
         {
             const PipelineRest rest;
@@ -213,6 +214,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             OpenMembers(*project, fromWorkspace);
         }
         if (!fromWorkspace) ShowMainFile(*project);
+        if (project->Sources.Count() == 0) BackToActive();
         Mod_File::AddRecentProject(path);
         if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
         if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
@@ -250,22 +252,6 @@ bool SaveProject(ClsProject& project) {
         text += "</Files>\r\n";
         gHost.files->Write(project.FullPath, text);
         project.Dirty = false;
-        return true;
-    });
-}
-
-bool CloseProject(std::shared_ptr<ClsProject> project) {
-    return Guarded("CloseProject", "Mod_File", false, [&] {
-        if (project->Dirty) SaveProject(*project);
-        std::vector<std::string> windows;
-        for (const auto& source : project->Sources) windows.push_back(source.record->m_strDocumentWindowID);
-        for (const std::string& key : windows)
-            if (DocumentWindow* window = gHost.dock->FindDocumentWindow(key)) window->SetVisible(false);
-        // What could not be saved is still open, and needs its project.
-        if (project->Sources.Count() > 0) return false;
-        if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
-        if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
-        if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
         return true;
     });
 }

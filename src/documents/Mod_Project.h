@@ -1,4 +1,4 @@
-// Project files: reading, opening, writing and closing.
+// Project files: reading, opening and writing.
 #pragma once
 
 #include "engine/ClsProject.h"
@@ -16,7 +16,6 @@ bool LoadProject(const std::string& path, bool fromWorkspace = false);
 void SetCommandLine(ClsProject& project, const std::string& text);
 // Writes the project's file and clears Dirty. A failed write is reported and leaves the old file.
 bool SaveProject(ClsProject& project);
-bool CloseProject(std::shared_ptr<ClsProject> project);
 // Insert by name, without regard to case, behind equal names.
 void DodajFileSorted(std::shared_ptr<clsFile> file, ClsProject& project);
 void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project);

@@ -1,6 +1,7 @@
 // The recent lists: paths here, their captions in the command that shows them.
 #include "documents/RecentFiles.h"
 
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "documents/StoredList.h"
 #include "host/Dialogs.h"
@@ -62,7 +63,7 @@ public:
 
 private:
     void Drop(const std::string& path) {
-        std::erase_if(paths_, [&](const std::string& entry) { return EqualNoCase(entry, path); });
+        std::erase_if(paths_, [&](const std::string& entry) { return SameFile(entry, path); });
     }
     void Cut() {
         const auto most = static_cast<std::size_t>(std::max(0, Options::gRecentFiles));

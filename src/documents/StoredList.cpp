@@ -4,31 +4,32 @@
 #include "host/Host.h"
 #include "host/SettingsStore.h"
 
-#include <algorithm>
-
 namespace {
 
 // No stored text, for it could not be typed or be a path.
 const std::string Missing("\0missing", 8);
+constexpr int LongestGap = 10; // keys in a row that somebody may have taken out by hand
 
 } // namespace
 
 std::vector<std::string> ReadStoredList(const std::string& section) {
     std::vector<std::string> entries;
-    for (;;) {
-        std::string text = gHost.settings->Get(section, std::to_string(entries.size() + 1), Missing);
-        if (text == Missing) return entries;
-        entries.push_back(std::move(text));
+    int gap = 0;
+    for (int key = 1; gap < LongestGap; ++key) {
+        std::string text = gHost.settings->Get(section, std::to_string(key), Missing);
+        gap = text == Missing ? gap + 1 : 0;
+        if (gap == 0) entries.push_back(std::move(text));
     }
+    return entries;
 }
 
 void WriteStoredList(const std::string& section, const std::vector<std::string>& entries) {
-    const std::vector<std::string> before = ReadStoredList(section);
-    for (std::size_t i = 0; i < std::max(before.size(), entries.size()); ++i) {
+    int gap = 0;
+    for (std::size_t i = 0; i < entries.size() || gap < LongestGap; ++i) {
         const std::string key = std::to_string(i + 1);
-        if (i >= entries.size())
-            gHost.settings->Delete(section, key);
-        else if (i >= before.size() || before[i] != entries[i])
-            gHost.settings->Save(section, key, entries[i]);
+        const std::string before = gHost.settings->Get(section, key, Missing);
+        gap = before == Missing ? gap + 1 : 0;
+        if (i < entries.size() && before != entries[i]) gHost.settings->Save(section, key, entries[i]);
+        if (i >= entries.size() && gap == 0) gHost.settings->Delete(section, key);
     }
 }

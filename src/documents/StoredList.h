@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-// All entries up to the first key that is missing.
+// All entries, over small gaps in their numbers.
 std::vector<std::string> ReadStoredList(const std::string& section);
 // Writes the entries and deletes those that stood behind them. Writes nothing that has not changed.
 void WriteStoredList(const std::string& section, const std::vector<std::string>& entries);

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 // A line of text with one stretch in a colour of its own (0x00BBGGRR): bytes of the document.
 struct TipText {
@@ -22,6 +23,6 @@ struct EditorCalls {
     // The help page of a word; false when no page has it.
     std::function<bool(const std::string& word)> ShowBrowserHelp;
     std::function<void()> UpdateSciCommandUI;              // "Undo" and "Redo" enable
-    std::function<void(const std::string& path)> OpenFile; // a file was dropped on a view
+    std::function<void(const std::vector<std::string>& paths)> FilesDropped; // on a view
 };
 extern EditorCalls gEditorCalls; // written by the wiring of the application alone

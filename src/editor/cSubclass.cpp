@@ -161,8 +161,7 @@ void cSubclass::OnKillFocus() {
 }
 
 void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
-    if (!gEditorCalls.OpenFile) return;
-    for (const std::string& path : paths) gEditorCalls.OpenFile(path);
+    if (gEditorCalls.FilesDropped) gEditorCalls.FilesDropped(paths);
 }
 
 void cSubclass::StyleNeeded() {

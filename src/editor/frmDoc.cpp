@@ -10,7 +10,16 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
-frmDoc::frmDoc() {
+namespace {
+
+long NextSerial() {
+    static long last = 0;
+    return ++last;
+}
+
+}
+
+frmDoc::frmDoc() : Serial(NextSerial()) {
     View = gHost.views->Create();
     if (!View) throw Failure(FailureFileNotFound, "The edit control could not be made");
     SciEdi_WndData = View->DirectPointer();
@@ -57,6 +66,14 @@ void frmDoc::RefreshCaption() {
 }
 
 frmDoc* ActiveForm() { return static_cast<frmDoc*>(gActiveDoc); }
+
+frmDoc* DocumentOfSerial(long serial) {
+    for (const auto& project : gProjects)
+        for (const auto& source : project.record->Sources)
+            if (auto* document = static_cast<frmDoc*>(source.record.get()); document->Serial == serial)
+                return document;
+    return nullptr;
+}
 
 void MakeActive(frmDoc* document) {
     gActiveDoc = document;

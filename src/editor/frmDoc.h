@@ -20,6 +20,9 @@ public:
 
     void* NativeWidget() override { return View->NativeWidget(); }
 
+    // Tells this document from every other of this run, also from one that gets its place in memory.
+    const long Serial;
+
     // Stores the display name, then sends all options and constants to the view, which must be the
     // active one (SciWndData).
     void Initialise(const std::string& filename);
@@ -45,6 +48,10 @@ private:
 
 // The active document as the form that it is; null when there is none.
 frmDoc* ActiveForm();
+
+// The open document of a serial number, null once it was closed. Whoever asks the user something keeps this
+// number and not the document, which may be gone when the answer comes.
+frmDoc* DocumentOfSerial(long serial);
 
 // Makes a document the one that all editor code works on: gActiveDoc, SciWndData and, when its project
 // is open, gCurrentProject.

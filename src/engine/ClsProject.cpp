@@ -6,7 +6,7 @@
 #include "engine/ParserState.h"
 #include "host/ErrorLog.h"
 
-CollectionTools<ClsProject> gProjects;
+CollectionTools<ClsProject> gProjects(KeysAre::Paths);
 std::shared_ptr<ClsProject> gCurrentProject;
 DocumentRecord* gActiveDoc = nullptr;
 EngineCalls gEngineCalls;
@@ -26,9 +26,15 @@ bool DocumentActive() { return gActiveDoc != nullptr && gActiveDoc->SciEdi_WndDa
 void UpdateVarFileNames(const std::string& oldName, const std::string& newName) {
     Guarded("UpdateVarFileNames", "Mod_Funkcii", [&] {
         ClsProject& project = *gCurrentProject;
+        const auto follow = [&](clsHash& table) {
+            table.ForEach([&](Symbol& symbol) {
+                if (symbol.File == oldName) symbol.File = newName;
+            });
+        };
         for (clsHash* table : {&project.Funkcii, &project.Globals, &project.Types, &project.Arrays,
                                &project.Labels, &project.Includes, &project.Constants})
-            for (const SymbolPointer& symbol : table->Items())
-                if (symbol->File == oldName) symbol->File = newName;
+            follow(*table);
+        project.Funkcii.ForEach([&](Symbol& symbol) { follow(*static_cast<ClsFunkcija&>(symbol).Locals); });
+        project.Types.ForEach([&](Symbol& symbol) { follow(*static_cast<ClsType&>(symbol).Fields); });
     });
 }

@@ -54,7 +54,7 @@ public:
     std::string Icon;
     CollectionTools<clsFolder> Folders;
     bool Expanded = false;
-    CollectionTools<DocumentRecord> Sources; // the open documents, by FullFilename
+    CollectionTools<DocumentRecord> Sources{KeysAre::Paths}; // the open documents, by FullFilename
     std::shared_ptr<clsHash> MainFunLocals;
     bool HasClosedSymbols = false; // a member was closed since the project was opened
 

@@ -1,5 +1,4 @@
-// An ordered keyed collection of shared records. Keys are compared without regard to case;
-// a missing key is failure number 5.
+// An ordered keyed collection of shared records; a missing key is failure number 5.
 #pragma once
 
 #include "host/Failure.h"
@@ -10,10 +9,15 @@
 #include <string>
 #include <vector>
 
+// Names are one key whatever their case; paths that differ in case can be two files.
+enum class KeysAre { Names, Paths };
+
 template <class Record>
 class CollectionTools {
 public:
     using Pointer = std::shared_ptr<Record>;
+
+    explicit CollectionTools(KeysAre keys = KeysAre::Names) : keys_(keys) {}
 
     // Adds a record under a key, in front of the entry at `before` or at the end (-1).
     // Fails with FailureDuplicateKey for a key in use.
@@ -61,8 +65,9 @@ private:
     using Entries = std::vector<Entry>;
 
     typename Entries::iterator Locate(const std::string& key) {
-        return std::find_if(entries_.begin(), entries_.end(),
-                            [&](const Entry& entry) { return EqualNoCase(entry.key, key); });
+        return std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            return keys_ == KeysAre::Paths ? entry.key == key : EqualNoCase(entry.key, key);
+        });
     }
     typename Entries::iterator Require(const std::string& key) {
         auto at = Locate(key);
@@ -74,5 +79,6 @@ private:
         return static_cast<std::size_t>(index);
     }
 
+    KeysAre keys_;
     Entries entries_;
 };

@@ -13,8 +13,11 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    // Handles what waits in the event queue, once.
+    // Handles what waits in the event queue, once; what the user did meanwhile and what comes from outside
+    // wait.
     virtual void Pump() = 0;
+    // Whether a modal window or a menu is open.
+    virtual bool WaitsForUser() = 0;
     virtual void SetWaitCursor(bool on) = 0;
     // Stops and resumes the painting of the main window.
     virtual void LockWindowUpdate(bool lock) = 0;
@@ -59,6 +62,8 @@ public:
     virtual bool AnotherRuns() = 0;
     // Opens the channel; answers the text that names it for others, to be stored.
     virtual std::string Publish(std::function<void(const std::string&)> received) = 0;
+    // Lets a moment pass in which an instance that is just starting may open its channel.
+    virtual void WaitForPublish() = 0;
     // Delivers a text to the channel of that name. False when nobody listens there.
     virtual bool Send(const std::string& handle, const std::string& text) = 0;
     virtual void Withdraw() = 0;

@@ -29,7 +29,7 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    // Shows a message and answers the button.
+    // Shows a message and answers the button; Cancel where it was dismissed, whatever buttons it has.
     virtual MessageAnswer Show(const Message& message) = 0;
     // Asks for files that exist. Empty on cancel.
     virtual std::vector<std::string> OpenFiles(const FileQuestion& question) = 0;

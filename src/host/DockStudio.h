@@ -150,7 +150,7 @@ public:
     // An empty key gets a unique id of 38 characters. Fails with FailureDuplicateKey for a key in use.
     virtual DocumentWindow& AddDocumentWindow(const std::string& key, const std::string& caption,
                                               Form* form) = 0;
-    // Null when no window has that key (compared without regard to case).
+    // Null when no window has that key, which is compared byte by byte.
     virtual DocumentWindow* FindDocumentWindow(const std::string& key) = 0;
     virtual DocumentWindow* ActiveDocumentWindow() = 0;
     virtual std::vector<DocumentWindow*> DocumentWindows() = 0;

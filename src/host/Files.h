@@ -17,6 +17,8 @@ public:
     // The path as it is on disk: itself when it exists, else one that differs by letter case alone,
     // else itself.
     virtual std::string Find(const std::string& path) = 0;
+    // What tells the file itself, whichever of its names the path is; empty for what is missing.
+    virtual std::string Identity(const std::string& path) = 0;
     // The whole content of a regular file; anything else is refused.
     virtual std::string Read(const std::string& path) = 0;
     // Replaces the file by these bytes. After a failure the old file is there as it was.

@@ -46,7 +46,7 @@ void SaveActiveAs(const Click&) {
 }
 
 void CloseActiveProject(const Click&) {
-    if (const auto project = gCurrentProject) Mod_Project::CloseProject(project);
+    if (const auto project = gCurrentProject) Mod_File::CloseProject(project);
 }
 
 void CompileActive(const Click&) {

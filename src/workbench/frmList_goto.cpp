@@ -2,6 +2,7 @@
 #include "workbench/frmList.h"
 
 #include "documents/Mod_File.h"
+#include "documents/OpenPaths.h"
 #include "editor/Mod_SciFun_goto.h"
 #include "editor/frmDoc.h"
 #include "engine/SymbolLine.h"
@@ -20,16 +21,6 @@ frmDoc* DocumentOf(const ClsProject& project, const Symbol& symbol) {
         if (source.record->SciEdi_WndData == symbol.SciWndData)
             return static_cast<frmDoc*>(source.record.get());
     return nullptr;
-}
-
-// Brings an open file to the front, as it stands there. False when it isn't open.
-bool ShowOpenFile(const std::string& path) {
-    for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
-        const auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
-        if (document != nullptr && EqualNoCase(document->FullFilename, path))
-            return Mod_SciFun::BringToFront(*document);
-    }
-    return false;
 }
 
 // The folder, with its separator, that a path in an Include starts from.
@@ -74,9 +65,7 @@ bool frmList::OpenFileOf(const SymbolPointer& symbol) {
     }
     const auto file = project->Files.Find(symbol->File);
     if (!file) return false;
-    const std::string path = CollapseSeparators(project->Path + ToDisk(file->AbsPath));
-    gCurrentProject = project;
-    return Mod_File::OpenProjectsFile(gHost.files->Find(path), false);
+    return Mod_File::OpenMember(project, Mod_File::MemberPath(*project, *file));
 }
 
 void frmList::ShowIncludePopup(const QPoint& at) {
@@ -100,7 +89,7 @@ void frmList::OpenInclude() {
             if (path.empty() || there) path = std::move(candidate);
             if (there) break;
         }
-        if (path.empty() || ShowOpenFile(path)) return;
+        if (path.empty() || Mod_File::ActivateOpen(path)) return;
         Mod_File::OpenFile(path);
     });
 }

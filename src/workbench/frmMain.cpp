@@ -172,7 +172,7 @@ void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {
 }
 
 void frmMain::DS_FilesDropped(const std::vector<std::string>& paths) {
-    for (const std::string& path : paths) Mod_File::OpenFile(path);
+    Mod_File::FilesDropped(paths);
 }
 
 void frmMain::DS_QueryUnload(bool& cancel) { Mod_Main::QueryUnload(cancel); }

@@ -2,6 +2,7 @@
 // chosen.
 #include "workbench/frmMain.h"
 
+#include "documents/CloseFiles.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
@@ -98,7 +99,7 @@ void frmMain::DS_DocumentWindowDeactivate(DocumentWindow& window) {
 }
 
 void frmMain::DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
-    Guarded("DS_DocumentWindowHiding", "frmMain", [&] { Mod_Main::DocumentWindowHiding(window, cancel); });
+    Guarded("DS_DocumentWindowHiding", "frmMain", [&] { Mod_File::DocumentWindowHiding(window, cancel); });
 }
 
 void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {

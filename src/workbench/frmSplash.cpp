@@ -1,6 +1,7 @@
 // The splash window. A window that flashes up for a few frames only disturbs, so it waits a moment first.
 #include "workbench/frmSplash.h"
 
+#include "host/Outside.h"
 #include "host/Paths.h"
 #include "workbench/Shown.h"
 
@@ -52,6 +53,7 @@ void frmSplash::SetStatus(const std::string& text) {
     }
     splash->status_->setText(::Shown(text));
     splash->status_->repaint();
+    const NestedLoop loop;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

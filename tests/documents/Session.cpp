@@ -1,4 +1,5 @@
 // The program up to its documents on a platform for tests.
+#include "documents/CloseFiles.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/Session.h"
 
@@ -91,7 +92,7 @@ void Session::DS_DocumentWindowDeactivate(DocumentWindow& window) {
 }
 
 void Session::DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
-    Mod_Main::DocumentWindowHiding(window, cancel);
+    Mod_File::DocumentWindowHiding(window, cancel);
 }
 
 void Session::DS_DocumentWindowHidden(DocumentWindow& window) {

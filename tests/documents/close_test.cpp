@@ -1,4 +1,5 @@
 // Closing documents and the program: what is asked, what Cancel keeps, and what is remembered.
+#include "documents/CloseFiles.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
@@ -7,6 +8,7 @@
 #include "engine/ClsProject.h"
 #include "sci/Mod_Sci.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -61,16 +63,23 @@ TEST_F(CloseTest, NoThrowsTheChangesAwayAndAFailedSaveKeepsTheWindow) {
     EXPECT_EQ(session.Bytes(path), "old\r\n");
 }
 
-TEST_F(CloseTest, CancelAtTheEndKeepsThisDocumentAndAllBehindIt) {
-    const std::string clean = session.Open("clean.bb", "").FullFilename;
+TEST_F(CloseTest, NothingClosesBeforeTheLastQuestionWasAnswered) {
+    session.Open("clean.bb", "");
     const std::string first = Dirty("first.bb").FullFilename;
     const std::string second = Dirty("second.bb").FullFilename;
+    const auto keys = session.WindowKeys();
     session.host.settings.Save("Instance", "Handle", "5");
-    dialogs.WillAnswer(MessageAnswer::Cancel);
-    EXPECT_TRUE(Cancelled());
-    EXPECT_EQ(session.WindowKeys(), (std::vector<std::string>{first, second}));
-    EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0"); // stays so until the next start
-    EXPECT_TRUE(session.host.dock.savedLayouts.empty());
+    const std::function<bool()> ends[] = {[&] { return Cancelled(); },
+                                          [] { return !Mod_File::CloseAllFiles(); }};
+    for (const auto& end : ends) {
+        dialogs.WillAnswer(MessageAnswer::No);
+        dialogs.WillAnswer(MessageAnswer::Cancel);
+        EXPECT_TRUE(end());
+        EXPECT_EQ(session.WindowKeys(), keys);
+        EXPECT_TRUE(gProjects.Item(first)->Sources.Item(0)->Dirty);
+        EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "5"); // it can still be found
+        EXPECT_TRUE(session.host.dock.savedLayouts.empty());
+    }
     dialogs.WillAnswer(MessageAnswer::No);
     dialogs.WillAnswer(MessageAnswer::Yes);
     EXPECT_FALSE(Cancelled());
@@ -78,6 +87,51 @@ TEST_F(CloseTest, CancelAtTheEndKeepsThisDocumentAndAllBehindIt) {
     EXPECT_EQ(session.Bytes(second), "; new old\r\n");
     EXPECT_EQ(session.host.dock.savedLayouts,
               std::vector<std::string>{session.host.Path("Layouts/Layout0.8_0.mp")});
+}
+
+// A member's prompt has Yes and No alone; the box that is dismissed cancels all the same.
+TEST_F(CloseTest, ADismissedPromptKeepsAProject) {
+    for (const char* name : {"one.bb", "two.bb"}) session.host.Put(name, "old\r\n");
+    const std::string path =
+        session.host.Put("game.zpf", "[Zolto Project file]\r\n<Files>\r\n AbsPath=\"one.bb\"\r\n "
+                                     "AbsPath=\"two.bb\"\r\n</Files>\r\n");
+    ASSERT_TRUE(Mod_Project::LoadProject(path));
+    const auto project = gProjects.Item(path);
+    const auto keys = session.WindowKeys();
+    for (const std::string& key : keys) {
+        session.host.dock.FindDocumentWindow(key)->Activate();
+        session.Type("; new ");
+    }
+    const std::function<bool()> ends[] = {[&] { return Cancelled(); },
+                                          [] { return !Mod_File::CloseAllFiles(); },
+                                          [&] { return !Mod_File::CloseProject(project); }};
+    for (const auto& end : ends) {
+        dialogs.WillAnswer(MessageAnswer::No);
+        dialogs.WillAnswer(MessageAnswer::Cancel);
+        EXPECT_TRUE(end());
+        EXPECT_EQ(dialogs.messages.back().buttons, MessageButtons::YesNo);
+        EXPECT_EQ(session.WindowKeys(), keys);
+        EXPECT_EQ(project->Sources.Count(), 2);
+        EXPECT_EQ(gProjects.Count(), 1);
+    }
+}
+
+// A process that is told to end asks nothing and writes no text over its file.
+TEST_F(CloseTest, TheEndWithoutAQuestionKeepsWhatIsRemembered) {
+    const std::string path = Dirty("a.bb").FullFilename;
+    session.host.settings.Save("Instance", "Handle", "5");
+    Mod_Main::PlaceMainWindow();
+    EXPECT_FALSE(Mod_Main::Ended());
+    Mod_Main::EndNow();
+    EXPECT_TRUE(Mod_Main::Ended());
+    EXPECT_EQ(session.Bytes(path), "old\r\n");
+    const std::string workspace = session.Bytes(session.host.Path("Conf/LastWorkspace.zws"));
+    EXPECT_NE(workspace.find(path), std::string::npos);
+    EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0");
+    EXPECT_EQ(session.host.dock.savedLayouts.size(), 1u);
+    session.host.dock.DropDocumentWindow(*session.host.dock.FindDocumentWindow(path));
+    Mod_Main::SaveSession(); // what has ended is not written again, with less in it
+    EXPECT_EQ(session.Bytes(session.host.Path("Conf/LastWorkspace.zws")), workspace);
 }
 
 TEST_F(CloseTest, TheStepsOfTheEndComeInTheirOrder) {

@@ -160,6 +160,41 @@ TEST_F(OpenTest, AnUndoGroupEndsWithItsDocument) {
     EXPECT_EQ(LCase(Mod_Sci::GetText()), "; one\r\n; two\r\na = 1\r\n");
 }
 
+// One file is one document, whichever path leads to it; two files are two, however alike their names.
+TEST_F(OpenTest, AFileIsOneDocumentUnderAllItsNames) {
+    const frmDoc& document = session.Open("folder/one.bb", "a=1\r\n");
+    const std::string path = document.FullFilename;
+    const std::string hard = session.host.Path("hard.bb");
+    const std::string soft = session.host.Path("soft");
+    std::filesystem::create_hard_link(path, hard);
+    std::filesystem::create_directory_symlink(session.host.Path("folder"), soft);
+    for (const std::string& name : {hard, soft + "/one.bb", session.host.Path("folder/../folder//one.bb"),
+                                    session.host.Path("folder/ONE.bb")}) {
+        EXPECT_FALSE(Mod_File::OpenFile(name)) << name;
+        EXPECT_EQ(ActiveForm(), &document);
+        EXPECT_EQ(Documents(), 1u);
+    }
+    session.Type("b=2\r\n");
+    session.host.dialogs.WillAnswer(MessageAnswer::Yes);
+    EXPECT_TRUE(Mod_File::OpenFile(hard)); // loaded anew, and not renamed
+    EXPECT_EQ(ActiveForm()->FullFilename, path);
+
+    const frmDoc& other = session.Open("folder/ONE.bb", "other=1\r\n");
+    EXPECT_EQ(Documents(), 2u);
+    session.Type("b=2\r\n");
+    EXPECT_TRUE(Mod_File::SaveFile(ActiveForm()));
+    EXPECT_EQ(session.Bytes(other.FullFilename).find("b=2\r\nother=1\r\n"), 0u);
+    EXPECT_EQ(session.Bytes(path), "a=1\r\n");
+    session.Close(other.FullFilename);
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
+}
+
+TEST_F(OpenTest, ADroppedFolderIsPassedOver) {
+    const std::string path = session.host.Put("folder/one.bb", "");
+    Mod_File::FilesDropped({session.host.Path("folder"), path});
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
+}
+
 struct CommandLineTest : OpenTest {
     std::string one = session.host.Put("one.bb", "a=1\r\na=2\r\na=3\r\n");
     std::string blanks = session.host.Put("a b/x  y.bb", "b=1\r\nb=2\r\nb=3\r\n");
@@ -172,6 +207,14 @@ TEST_F(CommandLineTest, PathsFallApartAtBlanksAndAreFoundAgain) {
         EXPECT_EQ(Documents(), 2u) << text;
         for (const std::string& key : session.WindowKeys()) session.Close(key);
     }
+}
+
+TEST_F(CommandLineTest, WhatStandsInQuotesIsOnePath) {
+    const std::string path = session.host.Put("My Game/x.bb", "");
+    const std::string folder = session.host.Path("My"); // the first part is the name of something else
+    std::filesystem::create_directory(folder);
+    Mod_File::OpenFilesFromCommand("\"" + path + "\" " + one);
+    EXPECT_EQ(session.WindowKeys(), (std::vector<std::string>{path, one}));
 }
 
 TEST_F(CommandLineTest, ALineBelongsToTheNextFileThatExists) {

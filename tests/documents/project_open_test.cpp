@@ -1,10 +1,13 @@
 // Projects as they are open: loading, members that are elsewhere, saving under other names, closing.
+#include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
 #include "engine/ClsCompiler.h"
 #include "sci/Mod_Sci.h"
 
+#include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -54,7 +57,7 @@ TEST_F(OpenProjectTest, EveryMemberOpensAndSharesTheTables) {
     document.m_oSubclass->DeactivateCheck();
     EXPECT_NE(project->Funkcii.ItemHash("Thrice"), nullptr); // its pipeline runs
     dialogs.WillAnswer(MessageAnswer::No);
-    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_TRUE(Mod_File::CloseProject(project));
     EXPECT_EQ(dialogs.messages.back().buttons, MessageButtons::YesNo);
     EXPECT_EQ(gProjects.Count(), 0);
     EXPECT_TRUE(session.WindowKeys().empty());
@@ -117,7 +120,7 @@ TEST_F(OpenProjectTest, AMemberStaysInTheFolderAndItsNameIsItsOwn) {
             "File Not Saved !");
     refused(session.host.Path("Game/Lib/MAIN.bb"), "File named MAIN.bb already exists in this project",
             "Invalid name");
-    EXPECT_EQ(dialogs.questions.back().folder, session.host.Path("Game/"));
+    EXPECT_EQ(dialogs.questions.back().folder, session.host.Path("Game/Lib/"));
     EXPECT_FALSE(project->Dirty);
 
     dialogs.WillSave(session.host.Path("Game/Lib/Algebra.bb"));
@@ -127,8 +130,92 @@ TEST_F(OpenProjectTest, AMemberStaysInTheFolderAndItsNameIsItsOwn) {
     EXPECT_EQ(project->Files.Item(0)->AbsPath, "Lib\\Algebra.bb");
     EXPECT_NE(project->Sources.Find(session.host.Path("Game/Lib/Algebra.bb")), nullptr);
     EXPECT_EQ(project->Funkcii.ItemHash("Twice")->File, "Algebra.bb");
-    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_TRUE(Mod_File::CloseProject(project));
     EXPECT_NE(session.Bytes(Zpf()).find("AbsPath=\"Lib\\Algebra.bb\""), std::string::npos); // saved unasked
+}
+
+// However a closed member is asked for, it comes back into its project, or nothing has changed.
+TEST_F(OpenProjectTest, AMemberOpensAsThatMemberByWhateverWay) {
+    const auto project = Load();
+    const auto path = [&](const char* below) { return session.host.Path(below); };
+    std::filesystem::create_symlink(Maths(), path("link.bb"));
+    const std::function<void()> ways[] = {[&] { EXPECT_TRUE(Mod_File::OpenFile(Maths())); },
+                                          [&] { EXPECT_TRUE(Mod_File::OpenFile(path("link.bb"))); },
+                                          [&] { Mod_File::OpenFilesFromCommand(path("Game/../Game/Lib/Maths.bb")); }};
+    for (const auto& way : ways) {
+        session.Close(Maths());
+        const frmDoc& single = session.Open("single.bb", "s=1\r\n");
+        way();
+        EXPECT_EQ(ActiveForm()->FullFilename, Maths());
+        EXPECT_FALSE(ActiveForm()->SingleFile);
+        EXPECT_EQ(gCurrentProject, project);
+        EXPECT_EQ(project->Sources.Count(), 2);
+        EXPECT_EQ(gProjects.Count(), 2);
+        EXPECT_EQ(project->Funkcii.Count(), 2); // declared once, beside the main program
+        session.Close(single.FullFilename);
+    }
+    session.Close(Maths());
+    frmDoc& single = session.Open("single.bb", "s=1\r\n");
+    dialogs.WillSave(Maths());
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_File::SaveFileAs(&single)); // it would be beside the project
+    EXPECT_EQ(session.LastMessage(), "File named Maths.bb already exists in this project");
+    session.host.files.Remove(Maths());
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    EXPECT_FALSE(Mod_File::OpenMember(project, Maths()));
+    EXPECT_EQ(session.LastMessage(), "Could not load file:\r\n" + Maths());
+    EXPECT_EQ(ActiveForm(), &single);
+    EXPECT_EQ(gCurrentProject, gProjects.Find(single.FullFilename));
+}
+
+// A window that cannot be had takes everything back.
+TEST_F(OpenProjectTest, AMemberThatGetsNoWindowLeavesTheActiveDocument) {
+    const auto project = Load();
+    session.Close(Maths());
+    const frmDoc& main = Member(Main());
+    session.host.dock.AddDocumentWindow(Maths(), "in its way", nullptr);
+    session.host.ExpectErrorLog();
+    EXPECT_FALSE(Mod_File::OpenProjectsFile(Maths()));
+    EXPECT_EQ(ActiveForm(), &main);
+    EXPECT_EQ(SciWndData, main.SciEdi_WndData);
+    EXPECT_EQ(project->Sources.Count(), 1);
+}
+
+TEST_F(OpenProjectTest, AProjectThatBringsNoDocumentLeavesTheActiveOneItsTables) {
+    const std::string path = session.Open("a.bb", "Global before\r\n").FullFilename;
+    for (const char* files : {"", " AbsPath=\"missing.bb\"\r\n"}) {
+        const std::string zpf = session.host.Put(
+            "p/x.zpf", std::string("[Zolto Project file]\r\n<Files>\r\n") + files + "</Files>\r\n");
+        if (*files != '\0') dialogs.WillAnswer(MessageAnswer::Ok);
+        EXPECT_TRUE(Mod_Project::LoadProject(zpf));
+        EXPECT_EQ(gCurrentProject, gProjects.Find(path));
+        session.Type("Global more\r\n");
+        ActiveForm()->m_oSubclass->DeactivateCheck();
+        EXPECT_NE(gProjects.Find(path)->Globals.ItemHash("more"), nullptr);
+        EXPECT_TRUE(Mod_File::CloseProject(gProjects.Find(zpf)));
+    }
+}
+
+// A new name goes with the file into the main file's key and into every table.
+TEST_F(OpenProjectTest, ARenamedMemberIsFollowedEverywhere) {
+    const auto project = Load();
+    frmDoc& main = Member(Main());
+    dialogs.WillSave(session.host.Path("Game/Start.bb"));
+    ASSERT_TRUE(Mod_File::SaveFileAs(&main));
+    EXPECT_EQ(project->MainFile, "Start.bb");
+    frmDoc& document = Member(Maths());
+    dialogs.WillSave(session.host.Path("Game/Lib/Algebra.bb"));
+    ASSERT_TRUE(Mod_File::SaveFileAs(&document));
+    EXPECT_EQ(project->MainFile, "Start.bb");
+    const auto locals = [&] {
+        return static_cast<ClsFunkcija&>(*project->Funkcii.ItemHash("Twice")).Locals->Count();
+    };
+    const int before = locals();
+    EXPECT_GT(before, 0);
+    session.Close(session.host.Path("Game/Lib/Algebra.bb"));
+    EXPECT_TRUE(Mod_File::OpenFile(session.host.Path("Game/Lib/Algebra.bb")));
+    EXPECT_EQ(locals(), before);
+    EXPECT_EQ(project->Funkcii.Count(), 2);
 }
 
 TEST_F(OpenProjectTest, SaveProjectFilesSavesOnlyThisProject) {
@@ -152,13 +239,13 @@ TEST_F(OpenProjectTest, AFailedSaveWhileClosingKeepsTheProject) {
     session.host.files.writesFail = true;
     dialogs.WillAnswer(MessageAnswer::Yes);
     dialogs.WillAnswer(MessageAnswer::Ok);
-    EXPECT_FALSE(Mod_Project::CloseProject(project));
+    EXPECT_FALSE(Mod_File::CloseProject(project));
     EXPECT_NE(gProjects.Find(Zpf()), nullptr);
     ASSERT_NE(session.host.dock.FindDocumentWindow(Maths()), nullptr);
     session.host.files.writesFail = false;
     EXPECT_TRUE(Mod_File::SaveFile(&document));
     EXPECT_EQ(session.Bytes(Maths()).find("; changed\r\n"), 0u);
-    EXPECT_TRUE(Mod_Project::CloseProject(project));
+    EXPECT_TRUE(Mod_File::CloseProject(project));
     EXPECT_EQ(gProjects.Count(), 0);
 }
 

@@ -7,6 +7,7 @@
 #include "documents/RecentFiles.h"
 
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -53,6 +54,14 @@ TEST(MruTest, AShorterListLeavesNothingOfALongerOneInTheStore) {
     again.Add("kept unless something is stored");
     again.Load();
     EXPECT_EQ(again.Items(), (Texts{"a", "c"}));
+    for (const auto& [key, text] : std::map<std::string, std::string>{{"3", "C"}, {"5", "e"}, {"6", "f"}})
+        host.settings.Save("MRUTestMRU", key, text); // written by hand: a text twice, a gap, too many
+    again.Number = 3;
+    again.Load();
+    EXPECT_EQ(again.Items(), (Texts{"a", "c", "e"}));
+    again.Number = 0; // the list of one that is always there
+    again.Add("z");
+    EXPECT_EQ(again.Items(), Texts{"z"});
     ClsMRU other("Other");
     other.Add("kept");
     other.Load();

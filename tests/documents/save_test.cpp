@@ -129,16 +129,16 @@ TEST_F(NewFileTest, ANewDocumentAsksForItsNameAtTheFirstSave) {
     EXPECT_TRUE(Mod_File::SaveFile(&document)); // and asks no more
 }
 
-TEST_F(NewFileTest, ASecondOneOfTheSameNameIsReportedAndLeavesNothingBehind) {
+TEST_F(NewFileTest, ASecondOneGetsTheNextFreeNumber) {
     Mod_File::NewFile();
-    frmDoc* first = ActiveForm();
-    session.host.ExpectErrorLog();
     Mod_File::NewFile();
-    EXPECT_NE(session.host.ErrorLog().find("NewFile"), std::string::npos);
-    EXPECT_EQ(session.WindowKeys().size(), 1u);
-    EXPECT_EQ(gProjects.Count(), 1);
-    EXPECT_EQ(ActiveForm(), first);
-    EXPECT_EQ(gCurrentProject, gProjects.Find("New"));
+    Mod_File::NewFile();
+    ASSERT_EQ(gProjects.Count(), 3);
+    EXPECT_EQ(gProjects.Key(0), "New");
+    const int number = std::atoi(gProjects.Key(1).c_str() + 4);
+    EXPECT_EQ(gProjects.Key(1), "New " + std::to_string(number));
+    EXPECT_EQ(gProjects.Key(2), "New " + std::to_string(number + 1));
+    EXPECT_EQ(ActiveForm()->Filename, gProjects.Key(2));
 }
 
 TEST_F(NewFileTest, CountedNamesGoOnAndAreNeverUsedAgain) {

@@ -26,13 +26,25 @@ TEST_F(StartTest, ASecondInstanceSendsWhatItWasGivenAndEnds) {
     EXPECT_FALSE(Mod_Main::Main("/L:3 \"/a b.bb\""));
     EXPECT_EQ(session.host.instances.sent,
               (std::vector<std::string>{"4711:channel Aktiviraj", "4711:channel /L:3 \"/a b.bb\""}));
-    session.host.settings.Save("Instance", "Handle", "0"); // the first one is closing
-    EXPECT_FALSE(Mod_Main::Main("a.bb"));
-    EXPECT_EQ(session.host.instances.sent.size(), 2u);
     EXPECT_EQ(gCompilers.Count(), 0); // nothing was loaded
     session.host.settings.Save("Options", "MultipleInstances", "1");
     EXPECT_TRUE(Mod_Main::Main(""));
     Options::MultipleInstances = 0;
+}
+
+// The first instance is closing, or was killed and left its channel behind.
+TEST_F(StartTest, AFileThatNobodyTakesOpensHere) {
+    session.host.instances.anotherRuns = session.host.instances.nobodyListens = true;
+    const std::string path = session.host.Put("a.bb", "");
+    for (const char* handle : {"0", "4711:stale"}) {
+        gCompilers.RemoveAll();
+        session.host.settings.Save("Instance", "Handle", handle);
+        session.host.instances.waits = 0;
+        EXPECT_TRUE(Mod_Main::Main(path));
+        EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
+        EXPECT_EQ(session.host.instances.waits, 30); // an instance that is just starting gets its time
+        session.Close(path);
+    }
 }
 
 TEST_F(StartTest, TheStepsComeInTheirOrder) {

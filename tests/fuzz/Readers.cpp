@@ -5,6 +5,7 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Main.h"
+#include "documents/CloseFiles.h"
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
 #include "editor/StyleTable.h"
@@ -80,7 +81,7 @@ std::string ReadProject(const std::string& bytes) {
     place.session.host.Put("Lib/b.bb", "Function Twice(n)\r\nEnd Function\r\n");
     const std::string path = place.session.host.Put("input.zpf", bytes);
     if (Mod_Project::LoadProject(path)) {
-        if (!Mod_Project::CloseProject(gProjects.Find(path))) return "the project did not close";
+        if (!Mod_File::CloseProject(gProjects.Find(path))) return "the project did not close";
         ClsProject first;
         Mod_Project::BuildProjectFromFile(path, first);
         Mod_Project::SaveProject(first);

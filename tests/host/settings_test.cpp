@@ -29,6 +29,21 @@ TEST(SettingsTest, ValuesComeBackInAnyCaseAndWithAnyBytes) {
     EXPECT_EQ(store.Get("OptionsEdit", "CursorWidth", "1"), "1");
 }
 
+TEST(SettingsTest, WhatWasWrittenByHandIsFoundInAnyCase) {
+    FakeHost host;
+    const std::string path = host.Put("Zolto.conf", "[Options]\ngStartUp=2\n[options]\ngrecentfiles=7\n");
+    {
+        QtSettingsStore store(path);
+        EXPECT_EQ(store.Get("Options", "gStartUp", "3"), "2");
+        EXPECT_EQ(store.Get("Options", "gRecentFiles", "3"), "7");
+        store.Save("OPTIONS", "GSTARTUP", "1");
+    }
+    QtSettingsStore store(path);
+    EXPECT_EQ(store.Get("Options", "gStartUp", "3"), "1");
+    store.Delete("Options", "gStartUp");
+    EXPECT_EQ(store.Get("Options", "gStartUp", "3"), "3");
+}
+
 TEST(SettingsTest, TheLockOfAProcessThatWasKilledHoldsNobodyUp) {
     FakeHost host;
     host.Put("Zolto.conf.lock", "");
@@ -55,6 +70,16 @@ TEST(SettingsTest, ADamagedFileIsPutAsideWithOneNotice) {
     EXPECT_NE(notices[0].find(path + ".damaged-1"), std::string::npos);
     EXPECT_EQ(host.files.Read(path + ".damaged-1"), damaged);
     EXPECT_EQ(QtSettingsStore(path).Get("Options", "StartUp", ""), "1");
+}
+
+TEST(InstancesTest, AnEmptyLockIsNobodys) {
+    FakeHost host;
+    host.Put("instance.lock", "");
+    QtInstances first(QString::fromStdString(host.folder));
+    EXPECT_FALSE(first.AnotherRuns());
+    QtInstances second(QString::fromStdString(host.folder));
+    EXPECT_TRUE(second.AnotherRuns());
+    EXPECT_FALSE(second.Send("1:" + host.Path("gone.socket"), "text"));
 }
 
 TEST(InstancesTest, TheFirstOwnsAndASecondDeliversItsText) {

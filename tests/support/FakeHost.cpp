@@ -3,6 +3,7 @@
 
 #include "host/ErrorLog.h"
 #include "host/Host.h"
+#include "host/Outside.h"
 #include "host/Paths.h"
 
 #include <cstdlib>
@@ -28,6 +29,8 @@ FakeHost::~FakeHost() {
     if (!errorsExpected_) {
         EXPECT_EQ(ErrorLog(), "");
     }
+    EXPECT_EQ(WaitingFromOutside(), 0u);
+    ForgetOutside();
     gHost = {};
     SetAppDir(oldAppDir_);
     std::error_code error;

@@ -2,9 +2,10 @@
 #include "support/FakePlatform.h"
 
 #include "host/Failure.h"
+#include "host/Outside.h"
 #include "host/Paths.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QWidget>
 #include <algorithm>
 #include <cstdio>
@@ -113,7 +114,14 @@ std::vector<std::string> FakeFiles::List(const std::string& folder) {
     return QtFiles::List(folder);
 }
 
-void FakeDesktop::Pump() { QCoreApplication::processEvents(); }
+void FakeDesktop::Pump() {
+    const NestedLoop loop;
+    QCoreApplication::processEvents();
+}
+
+bool FakeDesktop::WaitsForUser() {
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget();
+}
 
 int FakeDesktop::SetTimer(int milliseconds, std::function<void()> tick) {
     timers_[++lastTimer_] = {milliseconds, milliseconds, std::move(tick)};

@@ -46,6 +46,7 @@ private:
 class FakeDesktop : public Desktop {
 public:
     void Pump() override;
+    bool WaitsForUser() override;
     void SetWaitCursor(bool on) override { waitCursor = on; }
     void LockWindowUpdate(bool lock) override { locks += lock ? 1 : -1; }
     void Beep() override { ++beeps; }
@@ -130,13 +131,16 @@ public:
         receive = std::move(received);
         return "4711:channel";
     }
+    void WaitForPublish() override { ++waits; }
     bool Send(const std::string& handle, const std::string& text) override {
+        if (nobodyListens) return false;
         sent.push_back(handle + " " + text);
         return true;
     }
     void Withdraw() override { receive = nullptr; }
 
-    bool anotherRuns = false;
+    bool anotherRuns = false, nobodyListens = false;
+    int waits = 0;
     std::vector<std::string> sent;
     std::function<void(const std::string&)> receive;
 };

@@ -2,7 +2,6 @@
 #include "HeadlessDock.h"
 
 #include "host/Failure.h"
-#include "host/Paths.h"
 
 #include <QWidget>
 #include <algorithm>
@@ -106,7 +105,7 @@ DocumentWindow& HeadlessDock::AddDocumentWindow(const std::string& key, const st
 
 DocumentWindow* HeadlessDock::FindDocumentWindow(const std::string& key) {
     for (const auto& window : windows_)
-        if (EqualNoCase(window->Key(), key)) return window.get();
+        if (window->Key() == key) return window.get();
     return nullptr;
 }
 

@@ -1,6 +1,7 @@
 // While the user customises: takes over the pointer on the bars of the main window.
 #include "host/qt/BarEditor.h"
 
+#include "host/Outside.h"
 #include "host/qt/QtText.h"
 
 #include <QApplication>
@@ -143,6 +144,7 @@ void BarEditor::DragEntry(const std::string& place, int index, QWidget* bar) {
         drag->setPixmap(command->Action()->icon().pixmap(QSize(22, 22), bar->devicePixelRatio()));
     fromPlace_ = place;
     dropped_ = false;
+    const NestedLoop loop;
     const Qt::DropAction action = drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
     fromPlace_.clear();
     if (dropped_ || action != Qt::IgnoreAction) return;

@@ -1,6 +1,7 @@
 // All commands with their keys and menus, narrowed by words and by menu.
 #include "host/qt/CommandList.h"
 
+#include "host/Outside.h"
 #include "host/qt/QtText.h"
 
 #include <QDrag>
@@ -41,6 +42,7 @@ protected:
         drag->setMimeData(mime);
         drag->setPixmap(label.grab());
         drag->setHotSpot({-14, -14});
+        const NestedLoop loop;
         drag->exec(Qt::CopyAction);
     }
 };

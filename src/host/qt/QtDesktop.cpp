@@ -1,6 +1,7 @@
 // What only the desktop can do, through the toolkit.
 #include "host/qt/QtDesktop.h"
 
+#include "host/Outside.h"
 #include "host/qt/Painting.h"
 #include "host/qt/QtText.h"
 
@@ -42,7 +43,14 @@ std::string Release(const QString& key) {
 
 QtDesktop::~QtDesktop() = default;
 
-void QtDesktop::Pump() { QCoreApplication::processEvents(); }
+void QtDesktop::Pump() {
+    const NestedLoop loop;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+bool QtDesktop::WaitsForUser() {
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget();
+}
 
 void QtDesktop::SetWaitCursor(bool on) {
     if (on == waiting_) return;

@@ -12,6 +12,7 @@ public:
     ~QtDesktop() override;
 
     void Pump() override;
+    bool WaitsForUser() override;
     void SetWaitCursor(bool on) override;
     void LockWindowUpdate(bool lock) override;
     void Beep() override;

@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QRegularExpression>
 
@@ -65,6 +66,26 @@ QString StartPath(const FileQuestion& question, const QString& lastFolder) {
     return folder.isEmpty() ? name : folder + '/' + name;
 }
 
+// A box with Yes and No alone would take Escape and its X for a No, which throws work away.
+class MessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (IsYesNo() && event->matches(QKeySequence::Cancel)) return done(QMessageBox::Cancel);
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (!IsYesNo()) return QMessageBox::closeEvent(event);
+        event->accept();
+        done(QMessageBox::Cancel);
+    }
+
+private:
+    bool IsYesNo() const { return standardButtons() == (QMessageBox::Yes | QMessageBox::No); }
+};
+
 // What a name gets that is typed without an ending: that of the first pattern.
 QString Suffix(const std::string& filter) {
     const QString pattern = Shown(filter).section('|', 1, 1).section(';', 0, 0).trimmed();
@@ -91,16 +112,14 @@ MessageAnswer QtDialogs::Show(const Message& message) {
     // The texts carry line ends of either kind; a box takes LF alone.
     QString text = Shown(message.text);
     text.replace("\r\n", "\n").replace('\r', '\n');
-    QMessageBox box(Icon(message.icon), Title(message.title), text, Buttons(message.buttons), Parent());
+    MessageBox box(Icon(message.icon), Title(message.title), text, Buttons(message.buttons), Parent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(DefaultButton(message));
     switch (box.exec()) {
     case QMessageBox::Yes: return MessageAnswer::Yes;
     case QMessageBox::No: return MessageAnswer::No;
-    case QMessageBox::Cancel: return MessageAnswer::Cancel;
-    // A box with Yes and No alone has no other way out; closing it changes nothing.
     case QMessageBox::Ok: return MessageAnswer::Ok;
-    default: return message.buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Cancel;
+    default: return MessageAnswer::Cancel;
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
-#include "host/Paths.h"
 #include "host/qt/DropMark.h"
 #include "host/qt/GroupTree.h"
 #include "host/qt/QtText.h"
@@ -67,7 +66,7 @@ TabGroup* QtDocumentArea::NewGroup() {
 
 QtDocumentWindow* QtDocumentArea::Find(const std::string& key) const {
     for (const auto& window : windows_)
-        if (EqualNoCase(window->Key(), key)) return window.get();
+        if (window->Key() == key) return window.get();
     return nullptr;
 }
 

@@ -37,6 +37,12 @@ PathKind QtFiles::Kind(const std::string& path) {
     return S_ISDIR(status.st_mode) ? PathKind::Folder : PathKind::Other;
 }
 
+std::string QtFiles::Identity(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return {};
+    return std::to_string(status.st_dev) + ':' + std::to_string(status.st_ino);
+}
+
 std::string QtFiles::Find(const std::string& path) {
     if (path.empty() || Exists(path)) return path;
     // Part by part from the front; each folder is listed only where the exact name is missing.

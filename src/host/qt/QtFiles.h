@@ -6,6 +6,7 @@
 class QtFiles : public Files {
 public:
     PathKind Kind(const std::string& path) override;
+    std::string Identity(const std::string& path) override;
     std::string Find(const std::string& path) override;
     std::string Read(const std::string& path) override;
     void Write(const std::string& path, std::string_view bytes) override;

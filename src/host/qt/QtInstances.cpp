@@ -1,17 +1,20 @@
 // The single instance of a user: a lock file tells who is first, a local socket carries one text.
 #include "host/qt/QtInstances.h"
 
+#include "host/qt/OrphanedLock.h"
 #include "host/qt/QtText.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QThread>
 #include <unistd.h>
 
 namespace {
 
 constexpr int PatienceMilliseconds = 2000;
+constexpr unsigned long PublishMilliseconds = 50;
 constexpr qint64 LongestText = 1 << 20;
 
 // A folder that only this user can enter.
@@ -45,7 +48,9 @@ QtInstances::~QtInstances() { Withdraw(); }
 
 bool QtInstances::AnotherRuns() {
     if (lock_ && lock_->isLocked()) return false;
-    lock_ = std::make_unique<QLockFile>(folder_ + "/instance.lock");
+    const QString path = folder_ + "/instance.lock";
+    RemoveOrphanedLock(path);
+    lock_ = std::make_unique<QLockFile>(path);
     // The lock of a process that is gone counts as stale, that of a living one never does.
     lock_->setStaleLockTime(0);
     return !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
@@ -66,6 +71,8 @@ std::string QtInstances::Publish(std::function<void(const std::string&)> receive
     if (!server_->listen(path)) return {};
     return Typed(id) + ":" + PathBytes(path);
 }
+
+void QtInstances::WaitForPublish() { QThread::msleep(PublishMilliseconds); }
 
 bool QtInstances::Send(const std::string& handle, const std::string& text) {
     const auto colon = handle.find(':');

@@ -18,6 +18,7 @@ public:
     // The name is the process id, a colon and the socket's path, so it reads as a number that isn't 0.
     // Empty when no channel could be opened.
     std::string Publish(std::function<void(const std::string&)> received) override;
+    void WaitForPublish() override;
     bool Send(const std::string& handle, const std::string& text) override;
     void Withdraw() override;
 

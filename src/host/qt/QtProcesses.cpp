@@ -1,6 +1,7 @@
 // Child processes of this host: started here, polled by whoever started them.
 #include "host/qt/QtProcesses.h"
 
+#include "host/Outside.h"
 #include "host/qt/ChildOnPipes.h"
 #include "host/qt/CommandText.h"
 #include "host/qt/Spawn.h"
@@ -125,7 +126,10 @@ bool QtProcesses::RunIntoFile(const std::string& command, const std::string& tar
             leftAlone_.push_back(child);
             return false;
         }
-        QCoreApplication::processEvents();
+        {
+            const NestedLoop loop;
+            QCoreApplication::processEvents();
+        }
         usleep(PollMilliseconds * 1000);
     }
     return true;

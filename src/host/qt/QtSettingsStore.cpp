@@ -3,13 +3,13 @@
 #include "host/qt/QtSettingsStore.h"
 
 #include "host/Paths.h"
+#include "host/qt/OrphanedLock.h"
 #include "host/qt/QtText.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QThread>
 
 namespace {
 
@@ -51,50 +51,51 @@ QString UsablePath(const QString& path, const QtSettingsStore::Notice& notice) {
     return aside.isEmpty() ? QString() : path;
 }
 
-// A process that was killed between making the library's lock file and writing its name into it leaves an
-// empty one, which nobody is known to have left: the next writer would wait for half a minute.
-void RemoveOrphanedLock(const QString& path) {
-    constexpr int Rounds = 10;
-    constexpr int Milliseconds = 20;
-    const QString lock = path + ".lock";
-    for (int round = 0; round < Rounds; ++round) {
-        const QFileInfo info(lock);
-        if (!info.exists() || info.size() > 0) return;
-        QThread::msleep(Milliseconds);
-    }
-    QFile::remove(lock);
-}
-
 }
 
 QtSettingsStore::QtSettingsStore(const std::string& path, const Notice& notice) {
     QString file = PathText(path);
     if (path.empty())
         file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zolto/Zolto.conf";
-    RemoveOrphanedLock(file);
+    RemoveOrphanedLock(file + ".lock");
     file = UsablePath(file, notice);
     if (!file.isEmpty()) QDir().mkpath(QFileInfo(file).path());
     settings_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
+    FindOtherSpellings();
 }
 
 QtSettingsStore::~QtSettingsStore() = default;
 
+// What somebody wrote into the file by hand stands there in any case; what the program writes is folded.
+void QtSettingsStore::FindOtherSpellings() {
+    for (const QString& key : settings_->allKeys())
+        if (const QString folded = Folded(Typed(key.section('/', 0, 0)), Typed(key.section('/', 1)));
+            folded != key)
+            asWritten_[folded] = key;
+}
+
+QString QtSettingsStore::KeyFor(const QString& folded) const {
+    const auto at = asWritten_.find(folded);
+    return at == asWritten_.end() || settings_->contains(folded) ? folded : at->second;
+}
+
 std::string QtSettingsStore::Get(const std::string& section, const std::string& key,
                                  const std::string& byDefault) {
     if (IsShared(section)) settings_->sync();
-    const QVariant value = settings_->value(Folded(section, key));
+    const QVariant value = settings_->value(KeyFor(Folded(section, key)));
     return value.isValid() ? value.toByteArray().toStdString() : byDefault;
 }
 
 void QtSettingsStore::Save(const std::string& section, const std::string& key, const std::string& text) {
     // What is no UTF-8 is kept as bytes, so that a path comes back as it went in.
+    const QString name = KeyFor(Folded(section, key));
     if (IsUtf8(text))
-        settings_->setValue(Folded(section, key), QString::fromStdString(text));
+        settings_->setValue(name, QString::fromStdString(text));
     else
-        settings_->setValue(Folded(section, key), QByteArray::fromStdString(text));
+        settings_->setValue(name, QByteArray::fromStdString(text));
     if (IsShared(section)) settings_->sync();
 }
 
 void QtSettingsStore::Delete(const std::string& section, const std::string& key) {
-    settings_->remove(Folded(section, key));
+    settings_->remove(KeyFor(Folded(section, key)));
 }

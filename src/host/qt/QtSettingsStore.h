@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <functional>
+#include <map>
 #include <memory>
 
 class QSettings;
@@ -24,5 +25,9 @@ public:
     void Delete(const std::string& section, const std::string& key) override;
 
 private:
+    void FindOtherSpellings();
+    QString KeyFor(const QString& folded) const;
+
     std::unique_ptr<QSettings> settings_;
+    std::map<QString, QString> asWritten_; // the folded key of one that stands in the file otherwise
 };

@@ -1,0 +1,6 @@
+// The ends that nobody asks for: signals, and the end of the user's session.
+#pragma once
+
+// From here on a signal that ends the process, or the end of the session, first writes what is remembered
+// between runs. A second signal ends the process at once.
+void WatchForTheEnd();

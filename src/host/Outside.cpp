@@ -1,0 +1,48 @@
+// The queue of what came from outside. Nothing tells when the last modal window has closed, so while something
+// waits a timer looks.
+#include "host/Outside.h"
+
+#include "host/Desktop.h"
+#include "host/Host.h"
+
+#include <deque>
+#include <utility>
+
+namespace {
+
+constexpr int LookMilliseconds = 20;
+
+int nestedLoops = 0;
+int timer = 0;
+std::deque<std::function<void()>> waiting;
+
+bool MustWait() { return nestedLoops > 0 || (gHost.desktop != nullptr && gHost.desktop->WaitsForUser()); }
+
+void Deliver() {
+    while (!waiting.empty() && !MustWait()) {
+        const auto work = std::move(waiting.front());
+        waiting.pop_front();
+        work();
+    }
+    if (!waiting.empty() || timer == 0) return;
+    gHost.desktop->KillTimer(std::exchange(timer, 0));
+}
+
+}
+
+NestedLoop::NestedLoop() { ++nestedLoops; }
+NestedLoop::~NestedLoop() { --nestedLoops; }
+
+void FromOutside(std::function<void()> work) {
+    if (waiting.empty() && !MustWait()) return work();
+    waiting.push_back(std::move(work));
+    if (timer == 0 && gHost.desktop != nullptr) timer = gHost.desktop->SetTimer(LookMilliseconds, Deliver);
+}
+
+std::size_t WaitingFromOutside() { return waiting.size(); }
+
+void ForgetOutside() {
+    waiting.clear();
+    if (timer != 0 && gHost.desktop != nullptr) gHost.desktop->KillTimer(timer);
+    timer = 0;
+}
