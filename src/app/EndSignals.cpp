@@ -38,8 +38,9 @@ void End() {
 }
 
 void WatchForTheEnd() {
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [] { Mod_Main::SaveSession(); },
-                     Qt::DirectConnection);
+    QObject::connect(
+        qApp, &QGuiApplication::commitDataRequest, qApp, [] { Mod_Main::SaveSession(); },
+        Qt::DirectConnection);
     if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) return;
     auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier] {

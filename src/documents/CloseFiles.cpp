@@ -57,12 +57,12 @@ bool Ask(long serial) {
     if (document == nullptr || !document->Dirty) return true;
     if (DocumentWindow* window = WindowOf(*document)) window->Activate();
     MakeActive(document);
-    const MessageAnswer answer = gHost.dialogs->Show(
-        {"The text in the file '" + document->Filename +
-             "' has changed.\r\n\r\nDo you want to save the changes ?",
-         MessageIcon::Question,
-         {},
-         document->SingleFile ? MessageButtons::YesNoCancel : MessageButtons::YesNo});
+    const MessageAnswer answer =
+        gHost.dialogs->Show({"The text in the file '" + document->Filename +
+                                 "' has changed.\r\n\r\nDo you want to save the changes ?",
+                             MessageIcon::Question,
+                             {},
+                             document->SingleFile ? MessageButtons::YesNoCancel : MessageButtons::YesNo});
     document = DocumentOfSerial(serial);
     if (answer != MessageAnswer::Yes || document == nullptr) return answer == MessageAnswer::No;
     return SaveFile(document);

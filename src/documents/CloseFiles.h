@@ -8,8 +8,8 @@ class DocumentWindow;
 
 namespace Mod_File {
 
-// Closes every single file and then every project, the last first; asks for each document that is dirty. False
-// when something stayed open.
+// Closes every single file and then every project, the last first; asks for each document that is dirty.
+// False when something stayed open.
 bool CloseAllFiles();
 // Closes a project's documents, after asking for each that is dirty, and saves and closes the project. False
 // when something stayed open.

@@ -20,11 +20,11 @@ void BindWindow(frmDoc& document, bool documentWindow);
 
 // Brings the document of a path to the front. False where none is open.
 bool ActivateOpen(const std::string& path);
-// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message, and leaves
-// what was active as it was.
+// Opens one member of gCurrentProject; a file that cannot be loaded answers false without a message, and
+// leaves what was active as it was.
 bool OpenProjectsFile(const std::string& path, bool documentWindow = false);
-// Opens a member of a project that is open, or brings it to the front. False, with a message, when it cannot be
-// loaded. Writes gActiveDoc, gCurrentProject, SciWndData.
+// Opens a member of a project that is open, or brings it to the front. False, with a message, when it cannot
+// be loaded. Writes gActiveDoc, gCurrentProject, SciWndData.
 bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& path,
                 bool documentWindow = false);
 

@@ -245,7 +245,8 @@ void OpenFilesFromCommand(const std::string& commandLine) {
                 i = last;
                 continue;
             }
-            const std::string token = WithoutQuotes(tokens[i]); // untrimmed: a path may hold two blanks in a row
+            const std::string token =
+                WithoutQuotes(tokens[i]); // untrimmed: a path may hold two blanks in a row
             const std::string option = UCase(TrimBlanks(token));
             if (option.starts_with("/L:"))
                 line = std::lrint(std::strtod(option.c_str() + 3, nullptr));

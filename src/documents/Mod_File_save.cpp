@@ -190,8 +190,8 @@ bool SaveFileAs(frmDoc* document) {
             if (document == nullptr) return false;
         }
         const long serial = document->Serial;
-        const std::string path = gHost.dialogs->SaveFile({"Save File As", "Blitz Basic File (*.bb)|*.bb",
-                                                          document->Filename, StartFolder(*document)});
+        const std::string path = gHost.dialogs->SaveFile(
+            {"Save File As", "Blitz Basic File (*.bb)|*.bb", document->Filename, StartFolder(*document)});
         document = path.empty() ? nullptr : DocumentOfSerial(serial);
         if (document == nullptr) return false;
         if (!document->SingleFile && !AllowedInProject(*gProjects.Item(document->PrjFullPath), path))

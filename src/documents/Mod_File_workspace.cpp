@@ -158,11 +158,10 @@ void Activate(const Workspace& workspace) {
     if (frmDoc* document = ActiveForm()) document->m_oSubclass->OnSetFocus();
     if (gDocumentCalls.DocumentWindowActivated) gDocumentCalls.DocumentWindowActivated(*window);
     const frmDoc* document = ActiveForm();
-    const bool known =
-        document == nullptr ||
-        std::any_of(workspace.views.begin(), workspace.views.end(), [&](const WorkspaceView& view) {
-            return view.path == document->FullFilename;
-        });
+    const bool known = document == nullptr || std::any_of(workspace.views.begin(), workspace.views.end(),
+                                                          [&](const WorkspaceView& view) {
+                                                              return view.path == document->FullFilename;
+                                                          });
     if (!known && workspace.caret < Mod_Sci::GetLength()) Mod_Sci::GotoPos(workspace.caret);
 }
 

@@ -1,8 +1,8 @@
 // The window's place in the settings, and the fixed order of shutdown.
 #include "documents/Mod_Main.h"
 
-#include "documents/ClsMRU.h"
 #include "documents/CloseFiles.h"
+#include "documents/ClsMRU.h"
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"

@@ -11,7 +11,8 @@ struct clsFile;
 
 namespace Mod_File {
 
-// Whether two paths are one file; of files that are both missing, whether they are spelled alike but for case.
+// Whether two paths are one file; of files that are both missing, whether they are spelled alike but for
+// case.
 bool SameFile(const std::string& a, const std::string& b);
 // The open document of a path, null where there is none.
 frmDoc* DocumentOfPath(const std::string& path);

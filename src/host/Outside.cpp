@@ -1,5 +1,5 @@
-// The queue of what came from outside. Nothing tells when the last modal window has closed, so while something
-// waits a timer looks.
+// The queue of what came from outside. Nothing tells when the last modal window has closed, so while
+// something waits a timer looks.
 #include "host/Outside.h"
 
 #include "host/Desktop.h"

@@ -3,6 +3,7 @@
 #include "toolchain/CompilerOutput.h"
 
 #include "documents/Mod_File.h"
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -11,6 +12,7 @@
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Outside.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
@@ -86,8 +88,8 @@ frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
     // A document that was never saved is compiled from a copy of its text.
     if (!job.document.empty() && path == job.file)
         window = gHost.dock->FindDocumentWindow(job.document);
-    else if (window == nullptr && !path.empty())
-        window = gHost.dock->FindDocumentWindow(path);
+    else if (const frmDoc* open = window == nullptr ? Mod_File::DocumentOfPath(path) : nullptr)
+        window = gHost.dock->FindDocumentWindow(open->m_strDocumentWindowID);
     if (frmDoc* document = FormIn(window)) {
         if (document == gActiveDoc) return document;
         window->Activate();
@@ -139,8 +141,10 @@ public:
                 value >= LastStep ? EndCompile() : SetValue(value + Step);
             if (value >= 1 && value < LastStep && Read(line)) {
                 EndCompile();
-                Mod_Compiler::ParseError(line, job_);
-                if (SciWndData != 0) Mod_Sci::GrabFocus();
+                FromOutside([line, job = job_] {
+                    Mod_Compiler::ParseError(line, job);
+                    if (SciWndData != 0) Mod_Sci::GrabFocus();
+                });
                 return;
             }
         }

@@ -139,9 +139,10 @@ TEST_F(OpenProjectTest, AMemberOpensAsThatMemberByWhateverWay) {
     const auto project = Load();
     const auto path = [&](const char* below) { return session.host.Path(below); };
     std::filesystem::create_symlink(Maths(), path("link.bb"));
-    const std::function<void()> ways[] = {[&] { EXPECT_TRUE(Mod_File::OpenFile(Maths())); },
-                                          [&] { EXPECT_TRUE(Mod_File::OpenFile(path("link.bb"))); },
-                                          [&] { Mod_File::OpenFilesFromCommand(path("Game/../Game/Lib/Maths.bb")); }};
+    const std::function<void()> ways[] = {
+        [&] { EXPECT_TRUE(Mod_File::OpenFile(Maths())); },
+        [&] { EXPECT_TRUE(Mod_File::OpenFile(path("link.bb"))); },
+        [&] { Mod_File::OpenFilesFromCommand(path("Game/../Game/Lib/Maths.bb")); }};
     for (const auto& way : ways) {
         session.Close(Maths());
         const frmDoc& single = session.Open("single.bb", "s=1\r\n");

@@ -1,5 +1,6 @@
 // The main window as the program sets it up, with real documents in a real frame.
 #include "ForgetFrame.h"
+#include "WindowTest.h"
 #include "app/wire_up.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/DocumentCalls.h"
@@ -33,45 +34,6 @@
 #include <map>
 
 namespace {
-
-struct WindowTest : testing::Test {
-    FakeHost host;
-    std::unique_ptr<QtDockStudio> dock = std::make_unique<QtDockStudio>();
-    frmMain& window = frmMain::Instance();
-
-    void SetUp() override {
-        for (const char* folder : {"Conf", "Styles"})
-            std::filesystem::copy(std::string(ZOLTO_APPDIR) + "/" + folder, host.Path(folder),
-                                  std::filesystem::copy_options::recursive);
-        host.Put("Layout.mp", FactoryLayoutText());
-        gHost.dock = dock.get();
-        Options::gStartUp = 3;
-        OptionsEdit::SciStyleName = "Default";
-        Mod_Lexer::BuildCharacterTables();
-        Mod_Main::LoadCompilers();
-        Mod_Main::SetActiveCompiler(DefaultCompiler);
-        Mod_File::LoadStyle("Default");
-        window.Form_Load();
-        dock->SetPlace({.width = 18000, .height = 12000});
-        dock->ShowWindow();
-    }
-
-    void TearDown() override {
-        dock->SetEvents(nullptr);
-        for (DocumentWindow* open : dock->DocumentWindows()) open->Attach(nullptr);
-        MakeActive(nullptr);
-        gDocumentCalls = {};
-        gProjects.RemoveAll();
-        gCompilers.RemoveAll();
-        gActiveCompiler.reset();
-        DefaultCompiler.clear();
-        ForgetFrame();
-        gHost.dock = &host.dock;
-        dock.reset();
-    }
-
-    void Click(const char* name) { window.DS_CommandClick(*dock->FindCommand(name), -1); }
-};
 
 // A list that nobody sees must not get the keys.
 TEST_F(WindowTest, AListOfTheExplorerIsShownBeforeItGetsTheFocus) {

@@ -3,6 +3,6 @@
 
 class QString;
 
-// A process that was killed between making the library's lock file and writing its name into it leaves an empty
-// one, which would keep everybody waiting. One that stays empty for a moment is removed.
+// A process that was killed between making the library's lock file and writing its name into it leaves an
+// empty one, which would keep everybody waiting. One that stays empty for a moment is removed.
 void RemoveOrphanedLock(const QString& lock);

@@ -1,0 +1,269 @@
+// Another start hands over files while a dialog is open: whatever was asked, every text stays in its own
+// file, its own tab and its own tables.
+#include "WindowTest.h"
+#include "app/wire_up.h"
+#include "documents/Mod_File_workspace.h"
+#include "host/ErrorLog.h"
+#include "host/Outside.h"
+#include "host/qt/QtDesktop.h"
+#include "host/qt/QtDialogs.h"
+#include "sci/Mod_Sci.h"
+#include "workbench/frmFind.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace {
+
+using Button = QMessageBox::StandardButton;
+
+struct HandoverTest : WindowTest {
+    QtDialogs dialogs;
+    QtDesktop desktop;
+    std::string one, two, copy;
+    std::string typed = "Global more\r\nGlobal alpha\r\n";
+    std::vector<std::string> keys;        // of the windows when the dialog came up
+    std::function<void(QWidget*)> answer; // of the dialog that is waited for
+    int met = 0;
+    QTimer look;
+
+    void SetUp() override {
+        WindowTest::SetUp();
+        WireUp();
+        gHost.dialogs = &dialogs;
+        gHost.desktop = &desktop;
+        OptionsEdit::SaveFoldingState = OptionsEdit::SaveBookmarks = OptionsEdit::SaveCompilerCommandLine = 0;
+        one = host.Put("one.bb", "Global alpha\r\n");
+        two = host.Put("two.bb", "Global beta\r\n");
+        copy = host.Path("copy.bb");
+        QObject::connect(&look, &QTimer::timeout, &look, [this] { Meet(); });
+        look.start(5);
+    }
+    void TearDown() override {
+        look.stop();
+        frmFind::Unload();
+        Options::gBackupEnabled = 0;
+        gShowErrorDialog = nullptr;
+        ForgetOutside();
+        gHost.dialogs = &host.dialogs;
+        gHost.desktop = &host.desktop;
+        WindowTest::TearDown();
+    }
+
+    std::vector<std::string> Keys() {
+        std::vector<std::string> all;
+        for (const DocumentWindow* open : dock->DocumentWindows()) all.push_back(open->Key());
+        return all;
+    }
+    void HandOver() {
+        Mod_Main::TextReceived("\"" + two + "\"");
+        Mod_Main::TextReceived("\"" + one + "\"");
+    }
+    // A dialog or a menu is up: the first gets the files and the answer of the case, those behind it close.
+    void Meet() {
+        QWidget* up = QApplication::activePopupWidget();
+        if (!up) up = QApplication::activeModalWidget();
+        if (!up || !up->isVisible()) return;
+        if (++met > 1) return void(up->close());
+        keys = Keys();
+        HandOver();
+        QApplication::processEvents();
+        EXPECT_EQ(Keys(), keys);
+        EXPECT_EQ(WaitingFromOutside(), 2u);
+        answer(up);
+    }
+    void Settle() {
+        QTest::qWait(1);
+        EXPECT_TRUE(QTest::qWaitFor([] { return WaitingFromOutside() == 0; }, 3000));
+    }
+    // Each window has the document of its key, each document its project, and each project its own symbols.
+    void ExpectConsistent() {
+        std::size_t sources = 0;
+        for (const auto& project : gProjects) {
+            EXPECT_EQ(project.key, project.record->FullPath);
+            for (const auto& source : project.record->Sources) {
+                ++sources;
+                EXPECT_EQ(source.key, source.record->FullFilename);
+                const DocumentWindow* window = dock->FindDocumentWindow(source.key);
+                ASSERT_NE(window, nullptr) << source.key;
+                EXPECT_EQ(window->HostedForm(), static_cast<frmDoc*>(source.record.get()));
+            }
+            std::set<std::string> globals, expected;
+            for (const SymbolPointer& symbol : project.record->Globals.Items()) globals.insert(symbol->Ime);
+            const std::string text = TextOf(*project.record);
+            for (const char* name : {"alpha", "beta", "more"})
+                if (text.find(name) != std::string::npos) expected.insert(name);
+            EXPECT_EQ(globals, expected) << project.key;
+        }
+        EXPECT_EQ(sources, Keys().size());
+        ASSERT_NE(ActiveForm(), nullptr);
+        EXPECT_EQ(gHost.dock->ActiveDocumentWindow()->Key(), ActiveForm()->FullFilename);
+        EXPECT_EQ(SciWndData, ActiveForm()->SciEdi_WndData);
+        EXPECT_EQ(gCurrentProject, gProjects.Find(ActiveForm()->PrjFullPath));
+    }
+    static std::string TextOf(const ClsProject& project) {
+        frmDoc& document = static_cast<frmDoc&>(*project.Sources.Item(0));
+        const ActiveSwap swap(document);
+        document.m_oSubclass->DeactivateCheck();
+        return Mod_Sci::GetText();
+    }
+    frmDoc& Dirty() {
+        EXPECT_TRUE(Mod_File::OpenFile(one));
+        Mod_Sci::ReplaceSel("Global more\r\n");
+        EXPECT_TRUE(ActiveForm()->Dirty);
+        return *ActiveForm();
+    }
+};
+
+void Press(QWidget* box, Button button) { qobject_cast<QMessageBox*>(box)->button(button)->click(); }
+void Escape(QWidget* up) { QTest::keyClick(up, Qt::Key_Escape); }
+
+struct Case {
+    const char* name;
+    std::function<void(HandoverTest&, frmDoc&)> ask;
+    std::function<void(HandoverTest&, QWidget*)> answer;
+    bool written = false; // the typed text is in one.bb
+    bool closed = false;  // and its tab was closed, so that the file handed over opens anew
+    bool copied = false;  // the document has become copy.bb
+};
+
+const Case Cases[] = {
+    {"save prompt, Yes",
+     [](auto& test, auto& document) {
+         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
+     },
+     [](auto&, QWidget* up) { Press(up, QMessageBox::Yes); }, true, true},
+    {"save prompt, No",
+     [](auto& test, auto& document) {
+         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
+     },
+     [](auto&, QWidget* up) { Press(up, QMessageBox::No); }, false, true},
+    {"save prompt, Escape",
+     [](auto& test, auto& document) {
+         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
+     },
+     [](auto&, QWidget* up) { Escape(up); }},
+    {"exit", [](auto& test, auto&) { test.dock->CloseWindow(); }, [](auto&, QWidget* up) { Escape(up); }},
+    {"Save As", [](auto&, auto& document) { EXPECT_TRUE(Mod_File::SaveFileAs(&document)); },
+     [](auto& test, QWidget* up) {
+         auto* dialog = qobject_cast<QFileDialog*>(up);
+         EXPECT_EQ(dialog->directory().path().toStdString(), test.host.folder);
+         dialog->selectFile(QString::fromStdString(test.copy));
+         QMetaObject::invokeMethod(dialog, "accept");
+     },
+     false, true, true},
+    {"Open", [](auto& test, auto&) { test.Click("Open File"); }, [](auto&, QWidget* up) { Escape(up); }},
+    {"Open Workspace", [](auto& test, auto&) { test.Click("Open Workspace"); },
+     [](auto&, QWidget* up) { Escape(up); }},
+    {"reload question, No", [](auto& test, auto&) { Mod_File::OpenFile(test.one); },
+     [](auto&, QWidget* up) { Press(up, QMessageBox::No); }},
+    {"reload question, Yes", [](auto& test, auto&) { EXPECT_TRUE(Mod_File::OpenFile(test.one)); },
+     [](auto&, QWidget* up) { Press(up, QMessageBox::Yes); }, false, true},
+    {"backup error",
+     [](auto& test, auto& document) {
+         test.host.ExpectErrorLog();
+         Options::gBackupEnabled = Options::gBackupStoreType = 1;
+         Options::gBackupStoreFolder = test.one + "/no folder";
+         EXPECT_TRUE(Mod_File::SaveFile(&document));
+     },
+     [](auto&, QWidget* up) { up->close(); }, true},
+    {"write error",
+     [](auto& test, auto& document) {
+         test.host.files.writesFail = true;
+         EXPECT_FALSE(Mod_File::SaveFile(&document));
+     },
+     [](auto& test, QWidget* up) {
+         test.host.files.writesFail = false;
+         Press(up, QMessageBox::Ok);
+     }},
+    {"error report",
+     [](auto& test, auto&) {
+         test.host.ExpectErrorLog();
+         SetStopErrorLog(1);
+     },
+     [](auto&, QWidget* up) { up->close(); }},
+    {"about", [](auto& test, auto&) { test.Click("About"); }, [](auto&, QWidget* up) { up->close(); }},
+    {"Goto Line", [](auto& test, auto&) { test.Click("Goto Line"); },
+     [](auto&, QWidget* up) { up->close(); }},
+    {"folder", [](auto&, auto&) { gHost.dialogs->Folder("Folder", ""); },
+     [](auto&, QWidget* up) { Escape(up); }},
+    {"one line", [](auto&, auto&) { EXPECT_FALSE(gHost.dialogs->Input("Name", "", "")); },
+     [](auto&, QWidget* up) { Escape(up); }},
+    {"menu",
+     [](auto& test, auto&) {
+         test.dock->ShowPopup("PopupMenu1");
+         QTest::qWait(30); // it comes back at once
+     },
+     [](auto&, QWidget* up) { up->close(); }},
+};
+
+struct DialogTest : HandoverTest, testing::WithParamInterface<Case> {};
+
+TEST_P(DialogTest, FilesThatAreHandedOverWait) {
+    const Case& now = GetParam();
+    frmDoc& document = Dirty();
+    answer = [&](QWidget* up) { now.answer(*this, up); };
+    now.ask(*this, document);
+    Settle();
+    EXPECT_GE(met, 1);
+    EXPECT_EQ(host.files.Read(one), now.written ? typed : "Global alpha\r\n");
+    EXPECT_EQ(host.files.Read(two), "Global beta\r\n");
+    std::set<std::string> open = {one, two};
+    if (now.copied) {
+        open.insert(copy);
+        EXPECT_EQ(host.files.Read(copy), typed);
+    }
+    const auto found = Keys();
+    EXPECT_EQ(std::set<std::string>(found.begin(), found.end()), open);
+    EXPECT_EQ(found.size(), open.size());
+    ExpectConsistent();
+    // What was neither saved nor thrown away is still there.
+    const auto project = gProjects.Find(one);
+    ASSERT_NE(project, nullptr);
+    EXPECT_EQ(project->Sources.Item(0)->Dirty, !now.written && !now.closed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, DialogTest, testing::ValuesIn(Cases), [](const auto& info) {
+    std::string name;
+    for (const char c : std::string(info.param.name))
+        if (std::isalnum(static_cast<unsigned char>(c))) name += c;
+    return name;
+});
+
+// Windows that stay open beside the main window hold nothing up.
+TEST_F(HandoverTest, ModelessWindowsLetThemIn) {
+    for (const char* command : {"Find", "Customize"}) {
+        ASSERT_TRUE(Mod_File::OpenFile(one));
+        Click(command);
+        HandOver();
+        EXPECT_EQ(Keys(), (std::vector<std::string>{one, two})) << command;
+        ExpectConsistent();
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (qobject_cast<QDialog*>(top)) top->close();
+        for (const std::string& key : Keys()) dock->FindDocumentWindow(key)->SetVisible(false);
+        EXPECT_EQ(gProjects.Count(), 0);
+    }
+    EXPECT_EQ(met, 0);
+}
+
+// A prompt with Yes and No alone: Escape and the X are neither.
+TEST_F(HandoverTest, ADismissedBoxIsACancel) {
+    for (const auto& dismiss : {std::function<void(QWidget*)>(Escape), {[](QWidget* up) { up->close(); }}}) {
+        met = 0;
+        answer = dismiss;
+        EXPECT_EQ(gHost.dialogs->Show({.text = "?", .buttons = MessageButtons::YesNo}),
+                  MessageAnswer::Cancel);
+        Settle();
+    }
+}
+
+}
