@@ -104,7 +104,7 @@ TEST_F(DockTest, WindowsComeToTheFrontAndCloseInOrder) {
     EXPECT_FALSE(first.InFront());
     second.SetCaption("b.bb*");
     EXPECT_EQ(dock.Window().windowTitle(), "b.bb* - Zolto");
-    EXPECT_THROW(dock.AddDocumentWindow("A", "again", &c), Failure);
+    EXPECT_THROW(dock.AddDocumentWindow("a", "again", &c), Failure);
 
     recorder.cancelHiding = true;
     second.SetVisible(false);

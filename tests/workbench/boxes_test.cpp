@@ -1,5 +1,6 @@
 // The compiler box and the command-line box of the tool bars.
 #include "ForgetFrame.h"
+#include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
@@ -90,7 +91,7 @@ TEST_F(BoxesTest, AnyEntryRepairsAProjectWhoseCompilerIsNotKnown) {
     EXPECT_EQ(gCurrentProject->Compiler, "Gone"); // kept until the user says otherwise
     Choose("ZoltoBasic");
     TypeCommandLine("-x");
-    ASSERT_TRUE(Mod_Project::CloseProject(gCurrentProject));
+    ASSERT_TRUE(Mod_File::CloseProject(gCurrentProject));
     EXPECT_NE(session.Bytes(path).find("Compiler=\"ZoltoBasic\""), std::string::npos);
     EXPECT_NE(session.Bytes(path).find("CommandLine=\"-x\""), std::string::npos);
 }

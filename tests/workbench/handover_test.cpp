@@ -93,9 +93,9 @@ struct HandoverTest : WindowTest {
             for (const auto& source : project.record->Sources) {
                 ++sources;
                 EXPECT_EQ(source.key, source.record->FullFilename);
-                const DocumentWindow* window = dock->FindDocumentWindow(source.key);
-                ASSERT_NE(window, nullptr) << source.key;
-                EXPECT_EQ(window->HostedForm(), static_cast<frmDoc*>(source.record.get()));
+                const DocumentWindow* tab = dock->FindDocumentWindow(source.key);
+                ASSERT_NE(tab, nullptr) << source.key;
+                EXPECT_EQ(tab->HostedForm(), static_cast<frmDoc*>(source.record.get()));
             }
             std::set<std::string> globals, expected;
             for (const SymbolPointer& symbol : project.record->Globals.Items()) globals.insert(symbol->Ime);
@@ -135,6 +135,8 @@ struct Case {
     bool closed = false;  // and its tab was closed, so that the file handed over opens anew
     bool copied = false;  // the document has become copy.bb
 };
+
+std::ostream& operator<<(std::ostream& out, const Case& of) { return out << of.name; }
 
 const Case Cases[] = {
     {"save prompt, Yes",
@@ -232,9 +234,9 @@ TEST_P(DialogTest, FilesThatAreHandedOverWait) {
     EXPECT_EQ(project->Sources.Item(0)->Dirty, !now.written && !now.closed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, DialogTest, testing::ValuesIn(Cases), [](const auto& info) {
+INSTANTIATE_TEST_SUITE_P(Dialogs, DialogTest, testing::ValuesIn(Cases), [](const auto& of) {
     std::string name;
-    for (const char c : std::string(info.param.name))
+    for (const char c : std::string(of.param.name))
         if (std::isalnum(static_cast<unsigned char>(c))) name += c;
     return name;
 });
