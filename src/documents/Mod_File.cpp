@@ -18,10 +18,10 @@
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Outside.h"
 #include "host/Text.h"
-#include "host/WaitCursor.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

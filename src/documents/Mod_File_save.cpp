@@ -11,10 +11,10 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/OptionsEdit.h"
-#include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
@@ -158,11 +158,10 @@ std::string StartFolder(const frmDoc& document) {
 
 // A save can ask for a name, so each document is looked up when its turn comes.
 void SaveDirty(const std::vector<long>& serials) {
-    gHost.desktop->LockWindowUpdate(true);
+    const StillWindow still;
     for (const long serial : serials)
         if (frmDoc* document = DocumentOfSerial(serial); document != nullptr && document->Dirty)
             SaveFile(document);
-    gHost.desktop->LockWindowUpdate(false);
 }
 
 } // namespace

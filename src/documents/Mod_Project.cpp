@@ -13,8 +13,8 @@
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
-#include "host/WaitCursor.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

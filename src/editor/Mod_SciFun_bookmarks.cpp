@@ -5,8 +5,8 @@
 #include "editor/frmDoc.h"
 #include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
-#include "host/Desktop.h"
 #include "host/ErrorLog.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
@@ -18,14 +18,6 @@ namespace Mod_SciFun {
 namespace {
 
 constexpr std::intptr_t Bookmarks = Mod_Parse::MaskOf(Mod_Parse::MarkerBookmark);
-
-class StillWindow {
-public:
-    StillWindow() { gHost.desktop->LockWindowUpdate(true); }
-    ~StillWindow() { gHost.desktop->LockWindowUpdate(false); }
-    StillWindow(const StillWindow&) = delete;
-    StillWindow& operator=(const StillWindow&) = delete;
-};
 
 // The documents in the order of their windows, the active one first. The help tab is none.
 std::vector<frmDoc*> DocumentsFromActive() {

@@ -2,7 +2,7 @@
 #include "editor/OpenDocuments.h"
 
 #include "engine/ClsProject.h"
-#include "host/Desktop.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 
 #include <algorithm>
@@ -24,9 +24,8 @@ std::vector<frmDoc*> DocumentsFrom(bool ofProject) {
 
 void BringToFront(frmDoc& document) {
     if (gActiveDoc == &document) return;
-    gHost.desktop->LockWindowUpdate(true);
+    const StillWindow still;
     if (DocumentWindow* window = gHost.dock->FindDocumentWindow(document.m_strDocumentWindowID))
         window->Activate();
     MakeActive(&document);
-    gHost.desktop->LockWindowUpdate(false);
 }

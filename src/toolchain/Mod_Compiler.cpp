@@ -11,9 +11,9 @@
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Processes.h"
-#include "host/WaitCursor.h"
 #include "toolchain/CompilerOutput.h"
 #include "toolchain/ToolchainCalls.h"
 

@@ -2,11 +2,11 @@
 #include "workbench/Mod_MenuCommands.h"
 
 #include "documents/RecentFiles.h"
-#include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
@@ -33,10 +33,7 @@ int Stored(const std::string& section, const char* key, int byDefault) {
 
 // Loads an arrangement while nothing is painted, and brings it up to date.
 void LoadArrangement(const std::function<void()>& load) {
-    struct Lock {
-        Lock() { gHost.desktop->LockWindowUpdate(true); }
-        ~Lock() { gHost.desktop->LockWindowUpdate(false); }
-    } lock;
+    const StillWindow still;
     load();
     frmMain& main = frmMain::Instance();
     main.AdditionalUISetup();
