@@ -87,17 +87,15 @@ void QueryUnload(bool& cancel) {
     Guarded("Form_QueryUnload", "frmMain", [&] {
         const std::string handle = gHost.settings->Get("Instance", "Handle", "0");
         gHost.settings->Save("Instance", "Handle", "0");
-        if (!Mod_File::AskForAll()) {
-            // Who starts the program again must find this one.
-            gHost.settings->Save("Instance", "Handle", handle);
-            cancel = true;
-            return;
+        cancel = !Mod_File::AskForAll();
+        if (!cancel) {
+            if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
+            Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
+            cancel = !Mod_File::CloseDocuments();
         }
-        if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
-        Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
-        if (!Mod_File::CloseDocuments()) {
-            gHost.settings->Save("Instance", "Handle", handle);
-            cancel = true;
+        if (cancel) {
+            // Who starts the program again must find this one, unless it was told to end meanwhile.
+            if (!ended) gHost.settings->Save("Instance", "Handle", handle);
             return;
         }
         SaveLists();

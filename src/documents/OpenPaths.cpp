@@ -9,19 +9,34 @@
 
 namespace Mod_File {
 
-bool SameFile(const std::string& a, const std::string& b) {
-    if (a == b) return true;
-    // What was never saved has a name, which may happen to be that of a file in the present folder.
-    if (a.find('/') == std::string::npos || b.find('/') == std::string::npos) return false;
-    const std::string first = gHost.files->Identity(a);
-    const std::string second = gHost.files->Identity(b);
-    return first == second && (!first.empty() || EqualNoCase(a, b));
-}
+namespace {
+
+// A path with what the disk says of it, which is asked once for many comparisons.
+class Place {
+public:
+    explicit Place(const std::string& path) : path_(path), identity_(gHost.files->Identity(path)) {}
+
+    bool Is(const std::string& other) const {
+        if (path_ == other) return true;
+        // What was never saved has a name, which may happen to be that of a file in the present folder.
+        if (path_.find('/') == std::string::npos || other.find('/') == std::string::npos) return false;
+        return gHost.files->Identity(other) == identity_ && (!identity_.empty() || EqualNoCase(path_, other));
+    }
+
+private:
+    const std::string& path_;
+    std::string identity_;
+};
+
+} // namespace
+
+bool SameFile(const std::string& a, const std::string& b) { return Place(a).Is(b); }
 
 frmDoc* DocumentOfPath(const std::string& path) {
+    const Place place(path);
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources)
-            if (SameFile(source.record->FullFilename, path)) return static_cast<frmDoc*>(source.record.get());
+            if (place.Is(source.record->FullFilename)) return static_cast<frmDoc*>(source.record.get());
     return nullptr;
 }
 
@@ -36,11 +51,12 @@ std::string MemberPath(const ClsProject& project, const clsFile& file) {
 }
 
 std::shared_ptr<ClsProject> ProjectOfMember(const std::string& path, std::string& memberPath) {
+    const Place place(path);
     for (const auto& project : gProjects) {
         if (project.record->SingleFile) continue;
         for (const auto& file : project.record->Files) {
             memberPath = MemberPath(*project.record, *file.record);
-            if (SameFile(memberPath, path)) return project.record;
+            if (place.Is(memberPath)) return project.record;
         }
     }
     return nullptr;

@@ -155,6 +155,11 @@ TEST_F(OpenProjectTest, AMemberOpensAsThatMemberByWhateverWay) {
         EXPECT_EQ(project->Funkcii.Count(), 2); // declared once, beside the main program
         session.Close(single.FullFilename);
     }
+    session.Type("; changed\r\n");
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    EXPECT_TRUE(Mod_File::OpenFile(path("link.bb"))); // loaded anew
+    EXPECT_EQ(ActiveForm()->FullFilename, Maths());
+    EXPECT_FALSE(ActiveForm()->SingleFile || ActiveForm()->Dirty);
     session.Close(Maths());
     frmDoc& single = session.Open("single.bb", "s=1\r\n");
     dialogs.WillSave(Maths());
