@@ -2,7 +2,6 @@
 // file, its own tab and its own tables.
 #include "WindowTest.h"
 #include "app/wire_up.h"
-#include "documents/Mod_File_workspace.h"
 #include "host/ErrorLog.h"
 #include "host/Outside.h"
 #include "host/qt/QtDesktop.h"
@@ -13,18 +12,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <functional>
-#include <map>
 #include <set>
 
 namespace {
-
-using Button = QMessageBox::StandardButton;
 
 struct HandoverTest : WindowTest {
     QtDialogs dialogs;
@@ -124,13 +118,54 @@ struct HandoverTest : WindowTest {
     }
 };
 
-void Press(QWidget* box, Button button) { qobject_cast<QMessageBox*>(box)->button(button)->click(); }
-void Escape(QWidget* up) { QTest::keyClick(up, Qt::Key_Escape); }
+using Ask = std::function<void(HandoverTest&, frmDoc&)>;
+using Answer = std::function<void(HandoverTest&, QWidget*)>;
+
+Ask Command(const char* name) {
+    return [name](HandoverTest& test, frmDoc&) { test.Click(name); };
+}
+Answer Press(QMessageBox::StandardButton button) {
+    return [button](HandoverTest& test, QWidget* up) {
+        test.host.files.writesFail = false;
+        qobject_cast<QMessageBox*>(up)->button(button)->click();
+    };
+}
+void Escape(HandoverTest&, QWidget* up) { QTest::keyClick(up, Qt::Key_Escape); }
+void Shut(HandoverTest&, QWidget* up) { up->close(); }
+
+void CloseTab(HandoverTest& test, frmDoc& document) {
+    test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
+}
+void Reload(HandoverTest& test, frmDoc&) { Mod_File::OpenFile(test.one); }
+void SaveWithoutBackup(HandoverTest& test, frmDoc& document) {
+    test.host.ExpectErrorLog();
+    Options::gBackupEnabled = Options::gBackupStoreType = 1;
+    Options::gBackupStoreFolder = test.one + "/no folder";
+    EXPECT_TRUE(Mod_File::SaveFile(&document));
+}
+void SaveToAFullDisk(HandoverTest& test, frmDoc& document) {
+    test.host.files.writesFail = true;
+    EXPECT_FALSE(Mod_File::SaveFile(&document));
+}
+void Report(HandoverTest& test, frmDoc&) {
+    test.host.ExpectErrorLog();
+    SetStopErrorLog(1);
+}
+void OpenMenu(HandoverTest& test, frmDoc&) {
+    test.dock->ShowPopup("PopupMenu1");
+    QTest::qWait(30); // it comes back at once
+}
+void ChooseCopy(HandoverTest& test, QWidget* up) {
+    auto* dialog = qobject_cast<QFileDialog*>(up);
+    EXPECT_EQ(dialog->directory().path().toStdString(), test.host.folder);
+    dialog->selectFile(QString::fromStdString(test.copy));
+    QMetaObject::invokeMethod(dialog, "accept");
+}
 
 struct Case {
     const char* name;
-    std::function<void(HandoverTest&, frmDoc&)> ask;
-    std::function<void(HandoverTest&, QWidget*)> answer;
+    Ask ask;
+    Answer answer;
     bool written = false; // the typed text is in one.bb
     bool closed = false;  // and its tab was closed, so that the file handed over opens anew
     bool copied = false;  // the document has become copy.bb
@@ -139,73 +174,24 @@ struct Case {
 std::ostream& operator<<(std::ostream& out, const Case& of) { return out << of.name; }
 
 const Case Cases[] = {
-    {"save prompt, Yes",
-     [](auto& test, auto& document) {
-         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
-     },
-     [](auto&, QWidget* up) { Press(up, QMessageBox::Yes); }, true, true},
-    {"save prompt, No",
-     [](auto& test, auto& document) {
-         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
-     },
-     [](auto&, QWidget* up) { Press(up, QMessageBox::No); }, false, true},
-    {"save prompt, Escape",
-     [](auto& test, auto& document) {
-         test.dock->FindDocumentWindow(document.FullFilename)->SetVisible(false);
-     },
-     [](auto&, QWidget* up) { Escape(up); }},
-    {"exit", [](auto& test, auto&) { test.dock->CloseWindow(); }, [](auto&, QWidget* up) { Escape(up); }},
-    {"Save As", [](auto&, auto& document) { EXPECT_TRUE(Mod_File::SaveFileAs(&document)); },
-     [](auto& test, QWidget* up) {
-         auto* dialog = qobject_cast<QFileDialog*>(up);
-         EXPECT_EQ(dialog->directory().path().toStdString(), test.host.folder);
-         dialog->selectFile(QString::fromStdString(test.copy));
-         QMetaObject::invokeMethod(dialog, "accept");
-     },
-     false, true, true},
-    {"Open", [](auto& test, auto&) { test.Click("Open File"); }, [](auto&, QWidget* up) { Escape(up); }},
-    {"Open Workspace", [](auto& test, auto&) { test.Click("Open Workspace"); },
-     [](auto&, QWidget* up) { Escape(up); }},
-    {"reload question, No", [](auto& test, auto&) { Mod_File::OpenFile(test.one); },
-     [](auto&, QWidget* up) { Press(up, QMessageBox::No); }},
-    {"reload question, Yes", [](auto& test, auto&) { EXPECT_TRUE(Mod_File::OpenFile(test.one)); },
-     [](auto&, QWidget* up) { Press(up, QMessageBox::Yes); }, false, true},
-    {"backup error",
-     [](auto& test, auto& document) {
-         test.host.ExpectErrorLog();
-         Options::gBackupEnabled = Options::gBackupStoreType = 1;
-         Options::gBackupStoreFolder = test.one + "/no folder";
-         EXPECT_TRUE(Mod_File::SaveFile(&document));
-     },
-     [](auto&, QWidget* up) { up->close(); }, true},
-    {"write error",
-     [](auto& test, auto& document) {
-         test.host.files.writesFail = true;
-         EXPECT_FALSE(Mod_File::SaveFile(&document));
-     },
-     [](auto& test, QWidget* up) {
-         test.host.files.writesFail = false;
-         Press(up, QMessageBox::Ok);
-     }},
-    {"error report",
-     [](auto& test, auto&) {
-         test.host.ExpectErrorLog();
-         SetStopErrorLog(1);
-     },
-     [](auto&, QWidget* up) { up->close(); }},
-    {"about", [](auto& test, auto&) { test.Click("About"); }, [](auto&, QWidget* up) { up->close(); }},
-    {"Goto Line", [](auto& test, auto&) { test.Click("Goto Line"); },
-     [](auto&, QWidget* up) { up->close(); }},
-    {"folder", [](auto&, auto&) { gHost.dialogs->Folder("Folder", ""); },
-     [](auto&, QWidget* up) { Escape(up); }},
-    {"one line", [](auto&, auto&) { EXPECT_FALSE(gHost.dialogs->Input("Name", "", "")); },
-     [](auto&, QWidget* up) { Escape(up); }},
-    {"menu",
-     [](auto& test, auto&) {
-         test.dock->ShowPopup("PopupMenu1");
-         QTest::qWait(30); // it comes back at once
-     },
-     [](auto&, QWidget* up) { up->close(); }},
+    {"SaveThis", CloseTab, Press(QMessageBox::Yes), true, true},
+    {"DropThis", CloseTab, Press(QMessageBox::No), false, true},
+    {"DismissThis", CloseTab, Escape},
+    {"Exit", [](auto& test, auto&) { test.dock->CloseWindow(); }, Escape},
+    {"SaveAs", Command("Save File As"), ChooseCopy, false, true, true},
+    {"Open", Command("Open File"), Escape},
+    {"OpenWorkspace", Command("Open Workspace"), Escape},
+    {"SaveWorkspace", Command("Save Workspace As"), Escape},
+    {"KeepChanges", Reload, Press(QMessageBox::No)},
+    {"LoadAnew", Reload, Press(QMessageBox::Yes), false, true},
+    {"BackupError", SaveWithoutBackup, Shut, true},
+    {"WriteError", SaveToAFullDisk, Press(QMessageBox::Ok)},
+    {"ErrorReport", Report, Shut},
+    {"About", Command("About"), Shut},
+    {"GotoLine", Command("Goto Line"), Shut},
+    {"Folder", [](auto&, auto&) { gHost.dialogs->Folder("Folder", ""); }, Escape},
+    {"OneLine", [](auto&, auto&) { gHost.dialogs->Input("Name", "", ""); }, Escape},
+    {"Menu", OpenMenu, Shut},
 };
 
 struct DialogTest : HandoverTest, testing::WithParamInterface<Case> {};
@@ -234,12 +220,8 @@ TEST_P(DialogTest, FilesThatAreHandedOverWait) {
     EXPECT_EQ(project->Sources.Item(0)->Dirty, !now.written && !now.closed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, DialogTest, testing::ValuesIn(Cases), [](const auto& of) {
-    std::string name;
-    for (const char c : std::string(of.param.name))
-        if (std::isalnum(static_cast<unsigned char>(c))) name += c;
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Dialogs, DialogTest, testing::ValuesIn(Cases),
+                         [](const auto& of) { return of.param.name; });
 
 // Windows that stay open beside the main window hold nothing up.
 TEST_F(HandoverTest, ModelessWindowsLetThemIn) {
@@ -259,9 +241,9 @@ TEST_F(HandoverTest, ModelessWindowsLetThemIn) {
 
 // A prompt with Yes and No alone: Escape and the X are neither.
 TEST_F(HandoverTest, ADismissedBoxIsACancel) {
-    for (const auto& dismiss : {std::function<void(QWidget*)>(Escape), {[](QWidget* up) { up->close(); }}}) {
+    for (const Answer& dismiss : {Answer(Escape), Answer(Shut)}) {
         met = 0;
-        answer = dismiss;
+        answer = [&](QWidget* up) { dismiss(*this, up); };
         EXPECT_EQ(gHost.dialogs->Show({.text = "?", .buttons = MessageButtons::YesNo}),
                   MessageAnswer::Cancel);
         Settle();
