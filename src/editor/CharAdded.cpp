@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace {
@@ -45,18 +46,19 @@ std::intptr_t InFrontOfBrackets(std::intptr_t close, std::intptr_t lineStart) {
     return lineStart - 1;
 }
 
-// The place in front of what the signs at `scan` + 1 change; -1 when that is no statement of its own.
-std::intptr_t InFrontOfTarget(std::intptr_t scan, std::intptr_t lineStart) {
+// The place in front of what the signs at `scan` + 1 change; nothing when that is no statement of its own.
+std::optional<std::intptr_t> InFrontOfTarget(std::intptr_t scan, std::intptr_t lineStart) {
     for (;;) {
-        if (scan < lineStart || IsNoVariable(scan)) return -1;
+        if (scan < lineStart || IsNoVariable(scan)) return {};
         while (scan >= lineStart && IsName(CharAt(scan))) --scan;
         if (scan < lineStart) return scan;
         if (CharAt(scan) != ')' && CharAt(scan) != ']') break;
         scan = InFrontOfBrackets(scan, lineStart);
         if (scan >= lineStart && IsBlank[CharAt(scan)]) --scan;
-        if (scan < lineStart || !IsName(CharAt(scan))) return -1;
+        if (scan < lineStart || !IsName(CharAt(scan))) return {};
     }
-    return IsOperator[CharAt(scan)] ? -1 : scan;
+    if (IsOperator[CharAt(scan)]) return {};
+    return scan;
 }
 
 void LikeAbove() {
@@ -87,9 +89,8 @@ void ExpandPlusPlus(std::intptr_t pos, char ch) {
     auto scan = pos - 2;
     if (scan >= lineStart && IsBlank[CharAt(scan)]) targetEnd = scan--;
     const auto front = InFrontOfTarget(scan, lineStart);
-    if (front < 0 && lineStart > 0) return;
-    if (front < lineStart - 1) return;
-    const std::string target = Mod_Sci::GetTextRange(front + 1, targetEnd);
+    if (!front) return;
+    const std::string target = Mod_Sci::GetTextRange(*front + 1, targetEnd);
     if (target.empty()) return;
     Mod_Sci::ReplaceRange(targetEnd, pos + 1, "=" + target + ch + "1");
     Mod_Sci::GotoPos(pos + static_cast<std::intptr_t>(target.size()) + 2);

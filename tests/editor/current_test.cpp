@@ -109,24 +109,24 @@ TEST_F(CurrentLine, ALineThatWasColouredAsCurrentGetsItsOwnLookBack) {
 
 TEST_F(CurrentLine, ExpansionOfPlusPlus) {
     const Setting<int> on(OptionsEdit::ReplaceVarPlusPlus, 1);
-    const auto typed = [&](const std::string& keys, const char* end = "\r\n") {
-        Open(std::string("Global i, d") + end + "Dim a(3)" + end + end);
-        GoTo(2);
-        Settle();
-        Type(keys);
-        return Text(2);
-    };
-    for (const char* end : {"\r\n", "\n"}) {
-        EXPECT_EQ(typed("i++", end), "i=i+1");
-        EXPECT_EQ(typed("i --", end), "i=i-1");
-        EXPECT_EQ(typed("If d Then i++", end), "If d Then i=i+1");
-        EXPECT_EQ(typed("a(i)++", end), "a(i)=a(i)+1");
-        EXPECT_EQ(typed("; i++", end), "; i++");
-        EXPECT_EQ(typed("s$=\"i++", end), "s$=\"i++");
-        EXPECT_EQ(typed("d=i++", end), "d=i++");
-        EXPECT_EQ(typed("Print++", end), "Print++");
+    for (const int line : {2, 0}) {
+        for (const std::string end : {"\r\n", "\n"}) {
+            const auto typed = [&](const std::string& keys) {
+                const std::string declared = "Global i, d" + end + "Dim a(3)" + end;
+                Open(line == 0 ? end + declared : declared + end);
+                GoTo(line);
+                Settle();
+                Type(keys);
+                return Text(line);
+            };
+            EXPECT_EQ(typed("i++"), "i=i+1");
+            EXPECT_EQ(typed("i --"), "i=i-1");
+            EXPECT_EQ(typed("If d Then i++"), "If d Then i=i+1");
+            EXPECT_EQ(typed("a(i)++"), "a(i)=a(i)+1");
+            for (const char* kept : {"; i++", "s$=\"i++", "d=i++", "Print++"}) EXPECT_EQ(typed(kept), kept);
+        }
     }
-    Leave(0);
+    Leave(1);
     ExpectAsLoaded();
 }
 
