@@ -40,12 +40,18 @@ void BeginLongChange() {
     gWaitCursor = true;
 }
 
-// Whether the text that comes in is told and ends a line: behind it, near the document's end, there need be
-// no other line to see that by.
-bool HasLineEnd(const SciNotification& notification) {
-    if (notification.text == nullptr) return false;
+// Whether what comes in ends a line. Lines of the text as it stands tell nothing where the text is told: a
+// position behind a byte that is typed at a line's end lies on the next line where lines end in LF.
+bool EndsALine(const SciNotification& notification, int start, int end) {
+    if (notification.text == nullptr) return end > start && notification.length > 1;
     const std::string_view text(notification.text, static_cast<std::size_t>(notification.length));
     return text.find_first_of("\r\n") != std::string_view::npos;
+}
+
+// Whether a deletion takes one line end and nothing else.
+bool IsLineEnd(const SciNotification& notification, int line) {
+    return notification.position == Mod_Sci::GetLineEndPosition(line) &&
+           notification.position + notification.length == Mod_Sci::PositionFromLine(line + 1);
 }
 
 // Raises a flag for as long as it lives.
@@ -178,7 +184,7 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
     }
     if (notification.modificationType & SC_PERFORMED_USER) {
         gUserEdited = true;
-        if (notification.length == 2 && end == start + 1 && Mod_Sci::GetLineIndentation(end) > 1) {
+        if (IsLineEnd(notification, start) && Mod_Sci::GetLineIndentation(end) > 1) {
             State().mJoinPending = true;
             OpenUndoGroup();
         }
@@ -207,7 +213,7 @@ void cSubclass::GroupTyping(const SciNotification& notification) {
 void cSubclass::BeforeInsert(const SciNotification& notification, int start, int end) {
     if (!State().mLastOperationUndoRedo) {
         GroupTyping(notification);
-        if (end > start || HasLineEnd(notification)) OpenUndoGroup();
+        if (EndsALine(notification, start, end)) OpenUndoGroup();
     }
     if (State().UnparsedLine >= 0 && State().UnparsedLine != start) TakeBackEditedLine(true);
     if (State().UnparsedLine < 0 && HasMarker(start, MarkerParsed)) Snapshot(start);

@@ -118,18 +118,38 @@ TEST_F(PipelineTest, TypingEndFunctionMovesTheLocalsBelow) {
 }
 
 TEST_F(PipelineTest, BackspaceBeforeAnIndentedLineTakesTheIndentationToo) {
-    OpenLines({"If a", "\t\tx = 1", "\ty", " z"});
-    GoTo(1);
-    Type("\b");
-    EXPECT_EQ(Text(0), "If ax = 1");
-    Mod_Sci::Undo();
-    Settle();
-    EXPECT_EQ(Text(0), "If a");
-    EXPECT_EQ(Text(1), "\t\tx = 1");
-    // One column of indentation is not enough.
-    GoTo(3);
-    Type("\b");
-    EXPECT_EQ(Text(2).substr(Text(2).size() - 3), "y z");
+    for (const std::string end : {"\r\n", "\n"}) {
+        const std::string text = "If a" + end + "\t\tx = 1" + end + "\ty" + end + " z";
+        Open(text);
+        GoTo(1);
+        Type("\b");
+        EXPECT_EQ(Text(0), "If ax = 1");
+        Mod_Sci::Undo();
+        Settle();
+        EXPECT_EQ(Mod_Sci::GetText(), text);
+        // One column of indentation is not enough.
+        GoTo(3);
+        Type("\b");
+        EXPECT_EQ(Text(2).substr(Text(2).size() - 3), "y z");
+    }
+}
+
+TEST_F(PipelineTest, TypingIsUndoneInTheSameStepsWhateverTheLineEnds) {
+    std::vector<std::string> steps[2];
+    for (const bool lf : {false, true}) {
+        const std::string end = lf ? "\n" : "\r\n";
+        Open("x" + end + "y" + end);
+        GoTo(1, 1);
+        Type("abc  def+gh");
+        for (std::string last; Text(1) != "y" && Text(1) != last && steps[lf].size() < 20;) {
+            last = Text(1);
+            steps[lf].push_back(last);
+            Mod_Sci::Undo();
+            Settle();
+        }
+    }
+    EXPECT_EQ(steps[0], (std::vector<std::string>{"yabc  def+gh", "yabc  def", "yabc"}));
+    EXPECT_EQ(steps[1], steps[0]);
 }
 
 TEST_F(PipelineTest, AnEditOpensTheFoldItHappensIn) {
