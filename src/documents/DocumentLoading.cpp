@@ -19,22 +19,16 @@
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace Mod_File {
 
 namespace {
 
-bool OnlyLf(std::string_view text) {
-    return text.find('\n') != std::string_view::npos && text.find('\r') == std::string_view::npos;
-}
-
-// Puts a file's bytes into a view as they are. The block at the end has CR LF in every file, so it does not
-// tell how the source's own lines end.
+// Puts a file's bytes into a view as they are.
 void LoadText(frmDoc& document, const std::string& bytes) {
     const std::intptr_t view = document.SciEdi_WndData;
-    document.LfEnds = OnlyLf(std::string_view(bytes).substr(0, bytes.find("\r\n;~Zolto Editor Parameters:")));
-    document.MayHaveParameters = bytes.find(";~") != std::string::npos;
+    document.LfEnds = HasOnlyLf(bytes);
+    document.MayHaveParameters = FindParameters(bytes) != std::string::npos;
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
     Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,

@@ -23,7 +23,6 @@ namespace {
 using namespace Mod_Parse;
 
 constexpr std::string_view Header = ";~Zolto Editor Parameters:";
-constexpr std::string_view LineEnd = "\r\n";
 constexpr int EntriesOnALine = 20;
 constexpr int MostFoldLines = 1000;
 constexpr int MostBookmarkLines = 100;
@@ -49,7 +48,7 @@ int FromHex(std::string_view text) {
 }
 
 // The lines with a marker, in rows of entries behind a prefix; nothing when there are too many rows.
-std::optional<std::string> MarkedLines(int marker, std::string_view prefix, int mostRows,
+std::optional<std::string> MarkedLines(int marker, const std::string& prefix, int mostRows,
                                        const std::function<bool(int)>& counts) {
     std::string block;
     int entries = 0;
@@ -60,7 +59,7 @@ std::optional<std::string> MarkedLines(int marker, std::string_view prefix, int 
         if (!counts(line)) continue;
         if (entries % EntriesOnALine == 0) {
             if (++rows > mostRows) return std::nullopt;
-            block.append(LineEnd).append(prefix);
+            block.append(prefix);
         }
         ++entries;
         block += "#" + Hex(line);
@@ -98,50 +97,71 @@ bool ApplyLine(const std::string& text) {
     return true;
 }
 
-// The position of the first header, whatever its case; -1 where there is none. Searched in a copy: the view's
-// own search takes longer than to read the file.
-std::intptr_t FindHeader() {
-    const std::string text = Mod_Sci::GetText();
-    for (std::size_t at = text.find(";~"); at != std::string::npos; at = text.find(";~", at + 1))
-        if (EqualNoCase(std::string_view(text).substr(at, Header.size()), Header))
-            return static_cast<std::intptr_t>(at);
-    return -1;
+// The block's lines end as those of its file do. A CR anywhere makes it CR LF, because one at the text's end
+// would be taken for a part of the block's first line end.
+std::string BlockLineEnd() {
+    const bool lf = OptionsEdit::KeepLineEnds && gActiveDoc->LfEnds;
+    return lf && Mod_Sci::GetText().find('\r') == std::string::npos ? "\n" : "\r\n";
+}
+
+// Bytes of the line end in front of a position: 2 for CR LF, 1 for a CR or an LF alone.
+std::size_t LineEndBefore(std::string_view text, std::size_t position) {
+    text = text.substr(0, position);
+    if (text.ends_with("\r\n")) return 2;
+    return text.ends_with('\n') || text.ends_with('\r') ? 1 : 0;
 }
 
 } // namespace
 
+std::size_t FindParameters(std::string_view text) {
+    for (std::size_t at = text.find(";~"); at != std::string_view::npos; at = text.find(";~", at + 1))
+        if ((at == 0 || LineEndBefore(text, at) > 0) && EqualNoCase(text.substr(at, Header.size()), Header))
+            return at;
+    return std::string_view::npos;
+}
+
+bool HasOnlyLf(std::string_view text) {
+    std::string_view source = text.substr(0, FindParameters(text));
+    if (source.size() < text.size() && source.ends_with("\r\n")) source.remove_suffix(2);
+    return source.find('\n') != std::string_view::npos && source.find('\r') == std::string_view::npos;
+}
+
 std::string GetFileParameters() {
     return Guarded("GetFileParameters", "Mod_File", std::string(), [&]() -> std::string {
+        const std::string lineEnd = BlockLineEnd();
         std::string block;
         if (OptionsEdit::SaveFoldingState) {
-            const auto folds = MarkedLines(MarkerFoldOpens, ";~F", MostFoldLines,
+            const auto folds = MarkedLines(MarkerFoldOpens, lineEnd + ";~F", MostFoldLines,
                                            [](int line) { return Mod_Sci::GetFoldExpanded(line) == 0; });
             if (!folds) return {};
             block += *folds;
         }
         if (OptionsEdit::SaveBookmarks) {
             const auto marks =
-                MarkedLines(MarkerBookmark, ";~B", MostBookmarkLines, [](int) { return true; });
+                MarkedLines(MarkerBookmark, lineEnd + ";~B", MostBookmarkLines, [](int) { return true; });
             if (!marks) return {};
             block += *marks;
         }
         if (OptionsEdit::SaveCompilerCommandLine) {
             const ClsProject& project = *gCurrentProject;
             if (project.SingleFile && !project.CommandLine.empty())
-                block += std::string(LineEnd) + ";~L#" + project.CommandLine;
-            block += std::string(LineEnd) + ";~C#" + project.Compiler;
+                block += lineEnd + ";~L#" + project.CommandLine;
+            block += lineEnd + ";~C#" + project.Compiler;
         }
-        return block.empty() ? block : std::string(LineEnd) + std::string(Header) + block;
+        return block.empty() ? block : lineEnd + std::string(Header) + block;
     });
 }
 
 void CheckFileParameters() {
     Guarded("CheckFileParameters", "Mod_File", [&] {
-        const auto header = gActiveDoc->MayHaveParameters ? FindHeader() : -1;
-        if (header < 0) {
+        // Searched in a copy: the view's own search takes longer than to read the file.
+        const std::string text = gActiveDoc->MayHaveParameters ? Mod_Sci::GetText() : std::string();
+        const std::size_t found = FindParameters(text);
+        if (found == std::string::npos) {
             Coloring = false;
             return;
         }
+        const auto header = static_cast<std::intptr_t>(found);
         const ColoringScope own;
         const auto lines = Mod_Sci::GetLineCount();
         auto line = Mod_Sci::LineFromPosition(header) + 1;
@@ -151,12 +171,11 @@ void CheckFileParameters() {
         const auto end = line >= lines ? Mod_Sci::GetLength() : Mod_Sci::GetLineEndPosition(line - 1);
         // A line that goes would leave its markers to the line before it, which has its own.
         const auto headerLine = Mod_Sci::LineFromPosition(header);
-        const bool wholeLine = Mod_Sci::PositionFromLine(headerLine) == header;
-        for (auto gone = wholeLine ? std::max<std::intptr_t>(1, headerLine) : headerLine + 1; gone < line;
-             ++gone)
+        for (auto gone = std::max<std::intptr_t>(1, headerLine); gone < line; ++gone)
             Mod_Sci::MarkerDelete(gone, -1);
-        // The two bytes in front of the header are the line end that was written with it.
-        Mod_Sci::ReplaceRange(std::max<std::intptr_t>(0, header - 2), end, "");
+        // The line end in front of the header was written with it; a program that turned the file's line
+        // ends to LF has made one byte of its two.
+        Mod_Sci::ReplaceRange(header - static_cast<std::intptr_t>(LineEndBefore(text, found)), end, "");
     });
 }
 

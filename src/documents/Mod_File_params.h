@@ -1,9 +1,17 @@
 // The block of comment lines behind a saved source.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Mod_File {
+
+// The position of the block's header in a text: the first one that begins a line, whatever its case; npos
+// where there is none.
+std::size_t FindParameters(std::string_view text);
+// Whether the lines of a file end in LF alone, whatever the line ends of its block.
+bool HasOnlyLf(std::string_view text);
 
 // The parameter block of the active editor, empty when there is nothing to remember.
 std::string GetFileParameters();

@@ -109,6 +109,9 @@ TEST_F(ParametersTest, AHeaderInsideTheTextBeginsTheBlockThere) {
     EXPECT_EQ(Bookmarks(), std::vector<int>{0});
     session.Open("b.bb", ";~Zolto Editor Parameters:\r\n;~B#0\r\nc=3"); // nothing stands in front of it
     EXPECT_EQ(Mod_Sci::GetText(), "\r\nc=3");
+    const std::string quoted = "Print \"x;~Zolto Editor Parameters:\"\r\n;~B#0\r\n"; // no line begins with it
+    session.Open("c.bb", quoted);
+    EXPECT_EQ(Mod_Sci::GetText(), quoted);
 }
 
 TEST_F(ParametersTest, TheCompilerIsTakenFromTheLastLineAlone) {

@@ -84,18 +84,41 @@ TEST_F(EncodingTest, ANewLineIsOfTheFilesOwnKind) {
     }
 }
 
-// The block behind a source is written with CR LF, and must not turn the source's own line ends.
-TEST_F(EncodingTest, AFileWithLfStaysSoAfterItWasSavedWithABlock) {
-    const std::string path = session.Open("a.bb", "a=1\nb=2\n").FullFilename;
-    ASSERT_TRUE(Mod_File::SaveFile(ActiveForm()));
-    EXPECT_EQ(session.Bytes(path), "a=1\nb=2\n\r\n;~Zolto Editor Parameters:\r\n;~C#ZoltoBasic");
-    session.Close(path);
-    EXPECT_TRUE(session.Reopen(path).LfEnds);
-    EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), SC_EOL_LF);
+// A block ends its lines as the file does; one that another program has turned, or that stands behind LF with
+// CR LF, is read as well. Nothing is lost at any of many openings.
+TEST_F(EncodingTest, TheBlockKeepsTheSourceByteForByteInEveryKindOfFile) {
+    const auto replaced = [](std::string text, const std::string& end) {
+        for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += end.size())
+            text.replace(at, 1, end);
+        return text;
+    };
+    const std::string block = "\n;~Zolto Editor Parameters:\n;~B#0\n;~C#ZoltoBasic";
+    for (const std::string source : {"a=1\nb=2\n", "a=1\nb=2", "a=1", "\n", "a=1\n\n\n", "\"x\";~Zolto"})
+        for (const std::string lineEnd : {"\n", "\r\n"})
+            for (const std::string blockEnd : {"\n", "\r\n"}) {
+                const std::string text = replaced(source, lineEnd);
+                const std::string path = session.host.Put("a.bb", text + replaced(block, blockEnd));
+                std::string last;
+                for (int opening = 0; opening < 4; ++opening) {
+                    frmDoc& document = session.Reopen(path);
+                    EXPECT_EQ(Mod_Sci::GetText(), text) << opening;
+                    EXPECT_EQ(Mod_Sci::MarkerGet(0) & 16, 16) << opening;
+                    ASSERT_TRUE(Mod_File::SaveFile(&document));
+                    const std::string saved = session.Bytes(path);
+                    const bool lf = document.LfEnds;
+                    EXPECT_EQ(saved, text + replaced(block, lf ? "\n" : "\r\n"));
+                    EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), lf ? SC_EOL_LF : SC_EOL_CRLF);
+                    if (source.back() == '\n') { EXPECT_EQ(lf, lineEnd == "\n"); }
+                    if (opening > 0) { EXPECT_EQ(saved, last); }
+                    last = saved;
+                    session.Close(path);
+                }
+            }
     OptionsEdit::KeepLineEnds = 0;
-    session.Close(path);
-    session.Reopen(path);
+    const std::string path = session.Open("a.bb", "a=1\n" + block).FullFilename;
     EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), SC_EOL_CRLF);
+    ASSERT_TRUE(Mod_File::SaveFile(ActiveForm()));
+    EXPECT_EQ(session.Bytes(path), "a=1\n" + replaced(block, "\r\n"));
 }
 
 }
