@@ -38,7 +38,9 @@ void WireEditor() {
     gEditorCalls.SetPositionText = [](const std::string& text) { frmMain::Instance().SetPositionText(text); };
     gEditorCalls.SetFunctionText = [](const std::string& text) { frmMain::Instance().SetFunctionText(text); };
     gEditorCalls.SetTipText = [](const TipText& tip) { frmMain::Instance().SetTipText(tip); };
+    gEditorCalls.SetNotice = [](const std::string& text) { frmMain::Instance().SetNotice(text); };
     gEditorCalls.UpdateSciCommandUI = [] { frmMain::Instance().UpdateSciCommandUI(); };
+    gEditorCalls.OpenMember = Mod_File::OpenMemberOfActive;
     gEditorCalls.FilesDropped = Mod_File::FilesDropped;
 }
 

@@ -158,4 +158,10 @@ bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& p
     return true;
 }
 
+bool OpenMemberOfActive(const std::string& name) {
+    const auto project = gCurrentProject;
+    const auto file = project ? project->Files.Find(name) : nullptr;
+    return file && OpenMember(project, MemberPath(*project, *file));
+}
+
 } // namespace Mod_File

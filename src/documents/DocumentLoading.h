@@ -27,5 +27,7 @@ bool OpenProjectsFile(const std::string& path, bool documentWindow = false);
 // be loaded. Writes gActiveDoc, gCurrentProject, SciWndData.
 bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& path,
                 bool documentWindow = false);
+// The same for a member of gCurrentProject by its name; false, without a message, when it has no such member.
+bool OpenMemberOfActive(const std::string& name);
 
 } // namespace Mod_File

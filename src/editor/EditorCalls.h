@@ -19,9 +19,12 @@ struct EditorCalls {
     std::function<void(const std::string& text)> SetPositionText; // status pane "L: 1 C: 1"
     std::function<void(const std::string& text)> SetFunctionText; // status pane of the current function
     std::function<void(const TipText& tip)> SetTipText;           // the tip box
+    std::function<void(const std::string& text)> SetNotice;       // a word (UTF-8) there for a few seconds
     std::function<void()> OpenBrowser;                            // makes the help window where there is none
     // The help page of a word; false when no page has it.
     std::function<bool(const std::string& word)> ShowBrowserHelp;
+    // Opens a closed member of the active project by its name and makes it active; false when it could not.
+    std::function<bool(const std::string& name)> OpenMember;
     std::function<void()> UpdateSciCommandUI;              // "Undo" and "Redo" enable
     std::function<void(const std::vector<std::string>& paths)> FilesDropped; // on a view
 };

@@ -1,9 +1,11 @@
 // The declaration of the word at the caret.
 #include "editor/Mod_SciFun_navigation.h"
 
+#include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_goto.h"
 #include "editor/PositionBrowser.h"
 #include "editor/frmDoc.h"
+#include "engine/ClosedFiles.h"
 #include "engine/ClsProject.h"
 #include "engine/LineStyles.h"
 #include "engine/Mod_Parse.h"
@@ -50,6 +52,15 @@ const frmDoc* DocumentOf(const Symbol& symbol) {
     return nullptr;
 }
 
+// Opens the file of a symbol that was closed, and finds what it has declared in its place. Null when it could not
+// be opened or has no such name any more.
+SymbolPointer Reopened(const clsHash& table, const SymbolPointer& symbol) {
+    const auto project = gCurrentProject; // owns the table
+    const int before = NamesakesBefore(table, *symbol);
+    if (!gEditorCalls.OpenMember || !gEditorCalls.OpenMember(symbol->File)) return nullptr;
+    return NamesakeOf(SciWndData, table, symbol->Ime, before);
+}
+
 void RememberCaret() {
     if (!OptionsEdit::CBrowserRememberOnGotoDefinition) return;
     const auto caret = Mod_Sci::GetCurrentPos();
@@ -67,13 +78,13 @@ void GotoDeclaration() {
         if (word.empty()) return;
         clsHash* table = TableOf(Mod_Sci::GetStyleAt(start) & StyleBits,
                                  static_cast<int>(Mod_Sci::LineFromPosition(caret)));
-        const SymbolPointer symbol = table == nullptr ? nullptr : Declaration(*table, word);
+        SymbolPointer symbol = table == nullptr ? nullptr : Declaration(*table, word);
         if (!symbol || symbol->File.empty()) return;
-        const frmDoc* document = DocumentOf(*symbol);
-        if (document == nullptr) return; // closed, and its view with it
-        const int line = LineOf(*symbol);
-        if (line < 0) return;
         RememberCaret();
+        if (DocumentOf(*symbol) == nullptr) symbol = Reopened(*table, symbol);
+        const frmDoc* document = symbol ? DocumentOf(*symbol) : nullptr;
+        const int line = document ? LineOf(*symbol) : -1;
+        if (line < 0) return;
         if (!BringToFront(*document)) return;
         GotoLine(line);
         RememberCaret();

@@ -3,6 +3,7 @@
 
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
+#include "host/Paths.h"
 
 namespace {
 
@@ -35,4 +36,23 @@ void DropClosedSymbols(ClsProject& project) {
             if (symbol->SciWndData == 0 && symbol->Handle != 0 && symbol->File == gActiveDoc->Filename)
                 table.RemoveRecord(symbol->Ime, *symbol);
     });
+}
+
+int NamesakesBefore(const clsHash& table, const Symbol& symbol) {
+    int before = 0;
+    for (const SymbolPointer& other : table.Items()) {
+        if (other.get() == &symbol) break;
+        if (other->File == symbol.File && EqualNoCase(other->Ime, symbol.Ime)) ++before;
+    }
+    return before;
+}
+
+SymbolPointer NamesakeOf(std::intptr_t view, const clsHash& table, std::string_view name, int before) {
+    SymbolPointer found;
+    for (const SymbolPointer& symbol : table.Items()) {
+        if (symbol->SciWndData != view || !EqualNoCase(symbol->Ime, name)) continue;
+        found = symbol;
+        if (before-- == 0) break;
+    }
+    return found;
 }

@@ -2,7 +2,10 @@
 // opened again and declares them anew.
 #pragma once
 
+#include "engine/clsHash.h"
+
 #include <cstdint>
+#include <string_view>
 
 class ClsProject;
 
@@ -10,3 +13,9 @@ class ClsProject;
 void CloseSymbols(ClsProject& project, std::intptr_t view);
 // Takes out what the active document's file had declared when it was closed.
 void DropClosedSymbols(ClsProject& project);
+
+// How many namesakes from its own file a table holds before a symbol.
+int NamesakesBefore(const clsHash& table, const Symbol& symbol);
+// What a view declared under a name, behind so many namesakes; the last of them when there are fewer, null when there
+// is none. With NamesakesBefore it finds a symbol of a closed file again after the file was opened.
+SymbolPointer NamesakeOf(std::intptr_t view, const clsHash& table, std::string_view name, int before);

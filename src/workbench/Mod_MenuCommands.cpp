@@ -23,10 +23,12 @@ constexpr int StrictStyle = 16;
 
 // Styles are written for lines that come into view, so the ones on the screen must count as new.
 void RestyleVisible() {
-    frmDoc* document = ActiveForm();
-    if (!document) return;
-    document->State.mOldStartLine = -100;
-    document->Redraw();
+    for (const auto& project : gProjects)
+        for (const auto& source : project.record->Sources) {
+            auto* document = static_cast<frmDoc*>(source.record.get());
+            document->State.mOldStartLine = -100;
+            document->Redraw();
+        }
 }
 
 }
@@ -48,12 +50,22 @@ void ChangeStrictMode() {
     Guarded("ChangeStrictMode", "Mod_MenuCommands", [] {
         DockCommand* command = gHost.dock->FindCommand("Strict Mode");
         if (!command) return;
-        const bool strict = !command->Checked();
-        command->SetChecked(strict);
-        command->SetCaption(strict ? " Strict On" : "Strict Off");
-        BadStyle = strict ? StrictStyle : 0;
-        RestyleVisible();
+        command->SetChecked(!command->Checked());
+        FollowStrictMark();
+        FocusText();
     });
+}
+
+void FollowStrictMark() {
+    DockCommand* command = gHost.dock->FindCommand("Strict Mode");
+    if (!command) return;
+    command->SetCaption(command->Checked() ? " Strict On" : "Strict Off");
+    BadStyle = command->Checked() ? StrictStyle : 0;
+    RestyleVisible();
+}
+
+void FocusText() {
+    if (const frmDoc* document = ActiveForm()) document->View->GrabFocus();
 }
 
 void cboCompilers() {

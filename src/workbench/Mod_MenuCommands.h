@@ -28,8 +28,12 @@ const std::vector<RoutedCommand>& Routes();
 // does nothing. Failures go on to the caller.
 void Route(DockCommand& command, int item);
 
-// Flips strict mode: its check mark and caption, BadStyle, and the colours on the screen.
+// Flips strict mode and gives the text the focus.
 void ChangeStrictMode();
+// Brings caption, BadStyle and the colours on the screen up to the check mark, which an arrangement may have set.
+void FollowStrictMark();
+// Gives the active document the focus; nothing happens without one.
+void FocusText();
 // Makes the compiler that was picked in the box the active project's one; the old name comes back when
 // its keywords cannot be loaded.
 void cboCompilers();

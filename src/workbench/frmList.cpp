@@ -71,7 +71,7 @@ frmList::frmList() {
 }
 
 void frmList::Connect(CodeList& list) {
-    list.chosen = [this, &list] { GotoItem(list.Current()); };
+    list.chosen = [this, &list] { GotoItem(list); };
     list.left = [this] {
         if (LeaveList) LeaveList();
     };

@@ -75,7 +75,8 @@ private:
     void SetFileColumn(bool hidden);
     void SetFunctionOrder();
     void ShowControl();
-    void GotoItem(const SymbolPointer& symbol);
+    void GotoItem(const CodeList& list);
+    SymbolPointer Reopened(const ClsProject& project, const SymbolPointer& symbol, const SymbolPointer& owner);
     bool OpenFileOf(const SymbolPointer& symbol);
     void ShowIncludePopup(const QPoint& at);
     void OpenInclude();

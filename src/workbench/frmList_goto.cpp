@@ -5,6 +5,7 @@
 #include "documents/OpenPaths.h"
 #include "editor/Mod_SciFun_goto.h"
 #include "editor/frmDoc.h"
+#include "engine/ClosedFiles.h"
 #include "engine/SymbolLine.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
@@ -23,6 +24,12 @@ frmDoc* DocumentOf(const ClsProject& project, const Symbol& symbol) {
     return nullptr;
 }
 
+// The locals of a function, the fields of a type.
+const clsHash& NamesIn(const Symbol& owner) {
+    const auto* function = dynamic_cast<const ClsFunkcija*>(&owner);
+    return function ? *function->Locals : *static_cast<const ClsType&>(owner).Fields;
+}
+
 // The folder, with its separator, that a path in an Include starts from.
 std::vector<std::string> IncludeFolders(const ClsProject& project, const Symbol& include) {
     std::vector<std::string> folders;
@@ -34,16 +41,16 @@ std::vector<std::string> IncludeFolders(const ClsProject& project, const Symbol&
 
 }
 
-void frmList::GotoItem(const SymbolPointer& symbol) {
+void frmList::GotoItem(const CodeList& list) {
     Guarded("GotoItem", "frmList", [&] {
         const auto project = lists_[construct_].project.lock();
+        const SymbolPointer symbol = list.Current();
         // The main program is declared on no line.
         if (!project || !symbol || symbol->Handle == 0) return;
         SymbolPointer target = symbol;
         if (DocumentOf(*project, *symbol) == nullptr) {
-            if (!OpenFileOf(symbol)) return;
-            // The file that was opened has declared it anew.
-            target = (project.get()->*Constructs[construct_].table).ItemHash(symbol->Ime);
+            const SymbolPointer owner = &list == &ShownList() ? nullptr : ShownList().Current();
+            target = Reopened(*project, symbol, owner);
         }
         frmDoc* document = target ? DocumentOf(*project, *target) : nullptr;
         if (document == nullptr || !Mod_SciFun::BringToFront(*document)) return;
@@ -51,6 +58,21 @@ void frmList::GotoItem(const SymbolPointer& symbol) {
         if (line >= 0) Mod_SciFun::GotoLine(line);
         document->View->GrabFocus();
     });
+}
+
+// Opens the file of a symbol that was closed, which declares all of its symbols anew, and finds this one among them.
+// `owner`: the function or type in whose list it stands. Null when there is none any more.
+SymbolPointer frmList::Reopened(const ClsProject& project, const SymbolPointer& symbol,
+                                const SymbolPointer& owner) {
+    const clsHash& table = project.*Constructs[construct_].table;
+    const int ownersBefore = owner ? NamesakesBefore(table, *owner) : 0;
+    const int before = NamesakesBefore(owner ? NamesIn(*owner) : table, *symbol);
+    if (!OpenFileOf(symbol)) return nullptr;
+    const std::intptr_t view = gActiveDoc->SciEdi_WndData;
+    if (!owner) return NamesakeOf(view, table, symbol->Ime, before);
+    // The main program is of no file.
+    const SymbolPointer again = owner->Handle == 0 ? owner : NamesakeOf(view, table, owner->Ime, ownersBefore);
+    return again ? NamesakeOf(view, NamesIn(*again), symbol->Ime, before) : nullptr;
 }
 
 // Opens the file of a symbol whose document was closed. False when it could not be opened.

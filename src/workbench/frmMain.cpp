@@ -25,6 +25,8 @@
 
 namespace {
 
+constexpr int NoticeMilliseconds = 6000;
+
 constexpr struct {
     const char* pane;
     const char* command;
@@ -139,7 +141,19 @@ void frmMain::SetFunctionText(const std::string& text) {
 }
 
 void frmMain::SetTipText(const TipText& tip) {
-    if (statusMain_) statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
+    tip_ = tip;
+    if (statusMain_ && noticeTimer_ == 0) statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
+}
+
+void frmMain::SetNotice(const std::string& text) {
+    if (!statusMain_) return;
+    if (noticeTimer_ != 0) gHost.desktop->KillTimer(noticeTimer_);
+    statusMain_->SetMarkedText(text, "", "", 0);
+    noticeTimer_ = gHost.desktop->SetTimer(NoticeMilliseconds, [this] {
+        gHost.desktop->KillTimer(noticeTimer_);
+        noticeTimer_ = 0;
+        SetTipText(tip_);
+    });
 }
 
 // What stands in the box is what the next run gets, committed or not.
@@ -156,19 +170,13 @@ void frmMain::DS_PaneShown(const std::string& pane, bool shown) {
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command)) command->SetChecked(shown);
 }
 
-// The context menu of the text stands in the menu bar for as long as the user can edit it there.
-void frmMain::DS_Customization(bool begins) {
-    if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);
-    gHost.dock->RemoveFromBar("MainMenu", "PopupMenu1");
-    ApplyCommandsAutoRepeat();
-}
-
 void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {
     if (command.Category() != "SciFocus") return;
     cancel = !DocumentActive();
     if (cancel || Mod_Sci::GetFocus()) return;
     cancel = true;
-    gHost.desktop->Beep();
+    // Enter means something in every list and box.
+    if (command.Name() != "New Line") gHost.desktop->Beep();
 }
 
 void frmMain::DS_FilesDropped(const std::vector<std::string>& paths) {

@@ -2,12 +2,12 @@
 // commands are enabled.
 #pragma once
 
+#include "editor/EditorCalls.h"
 #include "host/DockStudio.h"
 
 #include <string>
 
 class frmDoc;
-struct TipText;
 
 // The key of the help tab, which no handler takes for a document.
 inline constexpr const char* HelpWindowKey = "HELP WINDOW";
@@ -47,6 +47,8 @@ public:
     void SetFunctionText(const std::string& text);
     // The tip box: the call or the scope at the caret.
     void SetTipText(const TipText& tip);
+    // A word (UTF-8) in its place for a few seconds.
+    void SetNotice(const std::string& text);
     RecentTabs& Tabs() { return tabs_; }
 
     void DS_CommandClick(DockCommand& command, int item) override;
@@ -79,4 +81,6 @@ private:
     DockCommand* undo_ = nullptr;
     DockCommand* redo_ = nullptr;
     RecentTabs tabs_;
+    TipText tip_;
+    int noticeTimer_ = 0; // runs while a notice stands in the tip box
 };

@@ -126,7 +126,8 @@ void frmMain::DS_DocumentWindowContextClick(DocumentWindow& window, int place, i
     Guarded("DS_DocumentWindowContextClick", "frmMain", [&] {
         if (IsHelp(window)) return;
         if (place == InsideDocument) {
-            const auto position = Mod_Sci::PositionFromPoint(x, y);
+            const bool byMouse = x >= 0;
+            const auto position = byMouse ? Mod_Sci::PositionFromPoint(x, y) : Mod_Sci::GetCurrentPos();
             if (position < Mod_Sci::GetSelectionStart() || position > Mod_Sci::GetSelectionEnd())
                 Mod_Sci::SetSel(position, position);
             gHost.dock->ShowPopup("PopupMenu1");

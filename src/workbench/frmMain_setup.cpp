@@ -73,6 +73,7 @@ void frmMain::AdditionalUISetup() {
         ApplyCommandsAutoRepeat();
         AddMissingCommands();
         HideUnbuiltCommands();
+        Mod_MenuCommands::FollowStrictMark();
         for (const char* pane : {"Projects", "FileExplorer", "Output", "Snippets", "CodeExplorer"})
             if (DockPane* found = dock.FindPane(pane)) DS_PaneShown(pane, found->Visible());
         DockBar* status = dock.FindBar("StatusBar");
@@ -116,4 +117,12 @@ void frmMain::ApplyCommandsAutoRepeat() {
 void frmMain::ShowProgressPane(bool progress) {
     if (progress_) progress_->SetVisible(progress);
     if (position_) position_->SetVisible(!progress);
+}
+
+// The context menu of the text stands in the menu bar for as long as the user can edit it there.
+void frmMain::DS_Customization(bool begins) {
+    if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);
+    gHost.dock->RemoveFromBar("MainMenu", "PopupMenu1");
+    Mod_MenuCommands::FollowStrictMark();
+    ApplyCommandsAutoRepeat();
 }

@@ -14,6 +14,7 @@
 
 #include <QKeySequence>
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -270,6 +271,17 @@ TEST_F(RoutingTest, StrictModeFlipsMarkCaptionAndStyle) {
     Click("Strict Mode");
     EXPECT_EQ(strict.Caption(), " Strict On");
     EXPECT_EQ(BadStyle, 16);
+    // An arrangement brings a mark of its own.
+    host.Put("Layouts/Layout0.8_1.mp", "saved");
+    const std::function<void()> sources[] = {[&] { Click("SwitchToLayout1"); },
+                                             [&] { frmMain::Instance().DS_Customization(false); }};
+    for (const auto& arrives : sources)
+        for (const bool on : {false, true}) {
+            strict.SetChecked(on);
+            arrives();
+            EXPECT_EQ(BadStyle, on ? 16 : 0);
+            EXPECT_EQ(strict.Caption(), on ? " Strict On" : "Strict Off");
+        }
 }
 
 TEST_F(RoutingTest, CommandsThatNeedADocumentDoNothingWithoutOne) {

@@ -4,6 +4,7 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "documents/DocumentCalls.h"
+#include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "host/Host.h"
@@ -321,6 +322,42 @@ TEST_F(ExplorerTest, AClosedFileOfAProjectIsOpenedAgain) {
     EXPECT_EQ(Line(), 1);
     Settle();
     EXPECT_EQ(Rows("lvGlobals"), (Texts{"a%|a.bb", "b%|b.bb"}));
+}
+
+// Names that other files have as well, and names that stand in a function or a type.
+TEST_F(ExplorerTest, AReopenedFileIsEnteredAtTheNameThatWasChosen) {
+    OpenProject("Global n\r\nFunction f()\r\nLocal l\r\nEnd Function\r\n",
+                "y\r\nGlobal n\r\nGlobal n\r\nFunction f()\r\nLocal l\r\nEnd Function\r\n"
+                "Type T\r\nField x\r\nField l\r\nEnd Type\r\n");
+    gCurrentProject->MainFile = "a.bb";
+    const auto chosen = [&](const char* construct, int row, const char* side = nullptr, int sideRow = 0) {
+        Front("a.bb");
+        Show(construct);
+        host.dock.FindDocumentWindow(host.Path("p/b.bb"))->SetVisible(false);
+        Settle();
+        const std::string list = std::string("lv") + construct;
+        Select(list.c_str(), row);
+        if (side) Select(side, sideRow);
+        QTest::keyClick(&List(side ? side : list.c_str()), Qt::Key_Return);
+        return gActiveDoc->Filename + ":" + std::to_string(Line());
+    };
+    EXPECT_EQ(chosen("Globals", 1), "b.bb:1");
+    EXPECT_EQ(chosen("Globals", 2), "b.bb:2");
+    EXPECT_EQ(chosen("Functions", 2), "b.bb:3");
+    EXPECT_EQ(chosen("Functions", 2, "lvLocals", 0), "b.bb:4");
+    EXPECT_EQ(chosen("Types", 0, "lvFields", 0), "b.bb:8"); // "l" comes in front of "x"
+}
+
+TEST_F(ExplorerTest, ADeclarationInAClosedFileIsOpened) {
+    OpenProject("Print n\r\n", "y\r\nGlobal n\r\n");
+    Front("a.bb");
+    host.dock.FindDocumentWindow(host.Path("p/b.bb"))->SetVisible(false);
+    GoTo(0, 6);
+    Settle();
+    gEditorCalls.OpenMember = Mod_File::OpenMemberOfActive;
+    Command("Goto Declaration");
+    EXPECT_EQ(gActiveDoc->Filename, "b.bb");
+    EXPECT_EQ(Line(), 1);
 }
 
 TEST_F(ExplorerTest, AnIncludeIsOpenedFromItsPopup) {
