@@ -7,6 +7,7 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
+#include <QAccessible>
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstring>
@@ -67,6 +68,28 @@ void Typing(benchmark::State& state, QSize size) {
     TypeIn(state, *ActiveForm()->View, state.range(0) / 2, size);
 }
 
+// With assistive technology, the caret at the begin, in the middle and at the end (lines): a key must cost the same.
+void TypingHeard(benchmark::State& state, bool utf8) {
+    QAccessible::setActive(true);
+    {
+        const OpenSource source(static_cast<int>(state.range(0)));
+        if (utf8) ActiveForm()->View->SetUtf8(true);
+        QAccessible::queryAccessibleInterface(Widget(*ActiveForm()->View));
+        TypeIn(state, *ActiveForm()->View, state.range(1), OneLine);
+    }
+    QAccessible::setActive(false);
+}
+
+BENCHMARK_CAPTURE(TypingHeard, single_byte, false)
+    ->ArgsProduct({{52000}, {10, 26000, 51000}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1);
+BENCHMARK_CAPTURE(TypingHeard, utf8, true)
+    ->ArgsProduct({{52000}, {10, 26000, 51000}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1);
 BENCHMARK_CAPTURE(Floor_Typing, one_line, OneLine)
     ->Arg(52000)
     ->Unit(benchmark::kMillisecond)

@@ -96,6 +96,7 @@ const NumberKey EditNumbers[] = {
     {"ACshowWhenNoMore", &ACshowWhenNoMore},
     {"ACstartAfter", &ACstartAfter},
     {"ACcompleteOnlyOne", &ACcompleteOnlyOne, true},
+    {"ACEnterAccepts", &ACEnterAccepts, true},
     {"ACIncKeywords", &ACIncKeywords, true},
     {"ACIncVars", &ACIncVars, true},
     {"ACIncConstants", &ACIncConstants, true},

@@ -5,6 +5,7 @@
 #include "editor/frmDoc.h"
 #include "engine/Markers.h"
 #include "engine/Mod_Lexer.h"
+#include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
@@ -159,6 +160,10 @@ LineSpan SelectedLines() {
 
 void NewLine() {
     Command("NewLine", [] {
+        if (OptionsEdit::ACEnterAccepts && ActiveForm()->View->MovedInList()) {
+            Mod_Sci::AutoCComplete();
+            return;
+        }
         Mod_Sci::AutoCCancel();
         // Open across the indentation that follows.
         OpenUndoGroup();

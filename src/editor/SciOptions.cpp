@@ -59,7 +59,7 @@ void SendMargins() {
     Mod_Sci::SetMarginMaskN(2, MaskFolders);
     Mod_Sci::SetMarginSensitiveN(2, 1);
     Mod_Sci::SetMarginWidthN(2, FoldMarginPixels * ShowFoldMargin);
-    Mod_Sci::MarkerDefine(BreakpointMarker, BreakpointsAsBackground ? SC_MARK_BACKGROUND : SC_MARK_ROUNDRECT);
+    Mod_Sci::MarkerDefine(BreakpointMarker, BreakpointsAsBackground ? SC_MARK_BACKGROUND : SC_MARK_CIRCLE);
     Mod_Sci::SetFoldFlags(FoldLinesAroundContracted);
 }
 
@@ -113,7 +113,7 @@ void SendMarkerSymbols() {
                    {0, SC_MARK_EMPTY},
                    {3, SC_MARK_EMPTY},
                    {5, SC_MARK_EMPTY},
-                   {4, SC_MARK_ROUNDRECT},
+                   {4, SC_MARK_BOOKMARK},
                    {7, SC_MARK_EMPTY},
                    {8, SC_MARK_EMPTY},
                    {21, SC_MARK_CIRCLE},

@@ -3,6 +3,7 @@
 #include "editor/cSubclass.h"
 
 #include "editor/CharAdded.h"
+#include "editor/CodePage.h"
 #include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_edit.h"
@@ -162,6 +163,11 @@ void cSubclass::OnKillFocus() {
 
 void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
     if (gEditorCalls.FilesDropped) gEditorCalls.FilesDropped(paths);
+}
+
+bool cSubclass::OnBeyondCodePage(const std::string& character) {
+    return Guarded("OnBeyondCodePage", "cSubclass", false,
+                   [&] { return TakeBeyondCodePage(mFrmDoc, character); });
 }
 
 void cSubclass::StyleNeeded() {

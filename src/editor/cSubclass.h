@@ -18,6 +18,7 @@ public:
     void OnSetFocus() override;
     void OnKillFocus() override;
     void OnDropFiles(const std::vector<std::string>& paths) override;
+    bool OnBeyondCodePage(const std::string& character) override;
 
     void DeactivateCheck() override;
     void ParseNow() override;

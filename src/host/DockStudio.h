@@ -96,7 +96,7 @@ public:
     virtual void DS_DocumentWindowDeactivate(DocumentWindow& window) = 0;
     virtual void DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) = 0;
     virtual void DS_DocumentWindowHidden(DocumentWindow& window) = 0;
-    // `place`: 1 inside the document, 3 on the tab. Pixels, of the view.
+    // `place`: 1 inside the document, 3 on the tab. Pixels, of the view; -1 when it was asked for with a key.
     virtual void DS_DocumentWindowContextClick(DocumentWindow& window, int place, int x, int y,
                                                bool& cancel) = 0;
     virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
@@ -143,7 +143,8 @@ public:
     virtual DockPane* FindPane(const std::string& name) = 0;
     virtual void AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
                             Form& form, bool addNew) = 0;
-    virtual void ShowPopup(const std::string& name) = 0; // at the mouse
+    // At the place of the context menu that is being asked for, else at the mouse.
+    virtual void ShowPopup(const std::string& name) = 0;
     virtual void FillPopup(const std::string& name,
                            const std::vector<std::string>& commands) = 0; // "-" separates
 

@@ -34,6 +34,9 @@ public:
     virtual void OnSetFocus() = 0;
     virtual void OnKillFocus() = 0;
     virtual void OnDropFiles(const std::vector<std::string>& paths) = 0;
+    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes; empty
+    // while it is still being composed. Answers whether the view shows UTF-8 now; else the character is left out.
+    virtual bool OnBeyondCodePage(const std::string&) { return false; }
 };
 
 using SciDirectFunction = std::intptr_t (*)(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
@@ -50,6 +53,8 @@ public:
     // Asks for a repaint at the next turn of the event loop.
     virtual void Redraw() = 0;
     virtual void GrabFocus() = 0;
+    // The user's last key moved to another entry of a completion list that is open.
+    virtual bool MovedInList() = 0;
     // Text is shown as UTF-8 or as single bytes; positions are bytes in both.
     virtual void SetUtf8(bool utf8) = 0;
     // The toolkit's widget, for the one who places it.

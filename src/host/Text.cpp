@@ -65,11 +65,18 @@ std::string ToUtf8(std::string_view bytes) {
     if (IsUtf8(bytes)) return std::string(bytes);
     std::string text;
     text.reserve(bytes.size() * 2);
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        Append(text, byte >= 0x80 && byte < 0xA0 ? HighControls[byte - 0x80u] : char16_t{byte});
-    }
+    for (const char c : bytes) Append(text, CharacterOf(static_cast<unsigned char>(c)));
     return text;
+}
+
+std::string CharacterInUtf8(unsigned char byte) {
+    std::string text;
+    Append(text, CharacterOf(byte));
+    return text;
+}
+
+char16_t CharacterOf(unsigned char byte) {
+    return byte >= 0x80 && byte < 0xA0 ? HighControls[byte - 0x80u] : char16_t{byte};
 }
 
 bool FromUtf8ToSingleBytes(std::string_view utf8, std::string& bytes) {

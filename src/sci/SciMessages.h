@@ -231,7 +231,7 @@ enum : int {
 // Markers, margins and folds.
 enum : int {
     SC_MARK_CIRCLE = 0,
-    SC_MARK_ROUNDRECT = 1,
+    SC_MARK_BOOKMARK = 31,
     SC_MARK_EMPTY = 5,
     SC_MARK_VLINE = 9,
     SC_MARK_LCORNER = 10,

@@ -2,8 +2,13 @@
 #include "documents/Mod_File.h"
 #include "documents/Session.h"
 #include "engine/OptionsEdit.h"
+#include "editor/EditorCalls.h"
 #include "sci/Mod_Sci.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 namespace {
@@ -58,6 +63,15 @@ INSTANTIATE_TEST_SUITE_P(Files, RoundTripTest, testing::ValuesIn(Names), [](cons
 struct EncodingTest : testing::Test {
     Session session;
     std::intptr_t CodePage() { return Mod_Sci::Send(SCI_GETCODEPAGE); }
+    // As an input method does it: composes something first, then gives the text.
+    static void Commit(const std::string& text, const std::string& composed = "") {
+        auto* view = static_cast<QWidget*>(ActiveForm()->NativeWidget());
+        QInputMethodEvent composing(QString::fromStdString(composed), {});
+        QInputMethodEvent commit;
+        commit.setCommitString(QString::fromStdString(text));
+        if (!composed.empty()) QApplication::sendEvent(view, &composing);
+        QApplication::sendEvent(view, &commit);
+    }
 };
 
 TEST_F(EncodingTest, Utf8IsShownAsSuchAndEverythingElseAsSingleBytes) {
@@ -69,6 +83,49 @@ TEST_F(EncodingTest, Utf8IsShownAsSuchAndEverythingElseAsSingleBytes) {
     EXPECT_EQ(CodePage(), 0);
     session.Open("cut.bb", "Print \"\xC3\xA9\" ; \xC3"); // a sequence that ends too early
     EXPECT_EQ(CodePage(), 0);
+}
+
+// What is typed, composed or pasted is never turned into question marks unsaid.
+TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
+    std::string told;
+    gEditorCalls.SetNotice = [&](const std::string& text) { told = text; };
+    struct {
+        std::string before, typed, after;
+        bool isNew, utf8, isTold;
+    } rows[] = {
+        {";\xE9", "\u20AC\u201C", ";\xE9\x80\x93", false, false, false},
+        {";\xE9", "a\u0416b\u20AC", ";\xE9" "ab\x80", false, false, true},
+        {";a", "\u0416\u0443\u043A", ";a\u0416\u0443\u043A", false, true, true},
+        {"", "\u0416\u0443\u043A", "\u0416\u0443\u043A", true, true, true},
+        {";\xE9\x80", "\u0416\U0001F600", ";\u00E9\u20AC\u0416\U0001F600", true, true, true},
+        {";\u00E9", "\u0416", ";\u00E9\u0416", false, true, false},
+        {";\xE9", "e\u0301", ";\xE9\xE9", false, false, false}, // an accent of its own joins its letter
+    };
+    for (const auto& row : rows)
+        for (const char* composed : {"", "x", "\u0416"}) {
+            if (row.isNew) {
+                Mod_File::NewFile();
+                Mod_Sci::ReplaceSel(row.before.c_str());
+            } else {
+                session.Open("a.bb", row.before);
+            }
+            Mod_Sci::GotoPos(Mod_Sci::GetLength());
+            told.clear();
+            Commit(row.typed, composed);
+            EXPECT_EQ(Mod_Sci::GetText(), row.after) << composed;
+            EXPECT_EQ(CodePage(), row.utf8 ? SC_CP_UTF8 : 0) << row.after << composed;
+            if (composed[0] != '\xD0') { EXPECT_EQ(!told.empty(), row.isTold) << row.after << told; }
+            Mod_Sci::SetSavePoint();
+            if (row.isNew) ActiveForm()->SetDirty(false);
+            session.Close(ActiveForm()->m_strDocumentWindowID);
+        }
+    session.Open("a.bb", ";\xE9");
+    Mod_Sci::GotoPos(2);
+    QApplication::clipboard()->setText(QString::fromUtf8("\u20AC\u0416"));
+    Mod_Sci::Paste();
+    EXPECT_EQ(Mod_Sci::GetText(), ";\xE9\x80?");
+    EXPECT_NE(told.find("\u0416"), std::string::npos) << told;
+    gEditorCalls = {};
 }
 
 TEST_F(EncodingTest, ANewLineIsOfTheFilesOwnKind) {

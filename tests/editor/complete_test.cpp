@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QTest>
 
 namespace {
 
@@ -191,6 +192,22 @@ TEST_F(CompletionTest, TheChosenNameIsPutInAndTheLineStaysTrue) {
     EXPECT_EQ(Text(1), "numbers = 3");
     Leave(0);
     ExpectAsLoaded();
+}
+
+TEST_F(CompletionTest, EnterTakesAnEntryThatWasMovedToWhereTheUserWantsThat) {
+    const auto enter = [&](int accepts, const std::vector<Qt::Key>& keys) {
+        const Setting<int> setting(ACEnterAccepts, accepts);
+        Declare({"Global printer, primal$", "Const PrimeMost = 3"});
+        const auto line = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
+        EXPECT_NE(ListFor("pri"), "-");
+        for (const Qt::Key key : keys) QTest::keyClick(static_cast<QWidget*>(ActiveForm()->NativeWidget()), key);
+        Type("\n");
+        return Text(line);
+    };
+    EXPECT_EQ(enter(1, {Qt::Key_Down, Qt::Key_Down}), "Print");
+    EXPECT_EQ(enter(1, {Qt::Key_Down, Qt::Key_Shift}), "PrimeMost");
+    EXPECT_EQ(enter(1, {}), "pri");
+    EXPECT_EQ(enter(0, {Qt::Key_Down}), "pri");
 }
 
 } // namespace

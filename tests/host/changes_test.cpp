@@ -1,4 +1,4 @@
-// A view tells the same changes in the same order whether a screen reader runs or not.
+// A view tells the changes of its text in the order of the library, and assistive technology what became of them.
 #include "host/qt/EditorWidget.h"
 #include "host/qt/QtEditorView.h"
 
@@ -35,9 +35,13 @@ constexpr int Changes = 0xC03; // before and behind insertions and deletions
 // Writes down what it is told, with the length of the text at that moment.
 class Recorder : public EditorViewEvents {
 public:
-    explicit Recorder(EditorView& view)
+    // `byLibrary`: the mask goes past the view, which then makes no notification of its own.
+    explicit Recorder(EditorView& view, bool byLibrary = false)
         : view_(view), pointer_(view.DirectPointer()), send_(view.DirectFunction()) {
-        Send(SCI_SETMODEVENTMASK, Mask);
+        if (byLibrary)
+            static_cast<EditorWidget*>(view.NativeWidget())->SendScintilla(SCI_SETMODEVENTMASK, Mask);
+        else
+            Send(SCI_SETMODEVENTMASK, Mask);
         view.SetEvents(this);
     }
     ~Recorder() override { view_.SetEvents(nullptr); }
@@ -47,7 +51,7 @@ public:
         if (!change && told.code != 2001 && told.code != 2002) return;
         std::string row = std::to_string(told.code);
         if (change)
-            row += " type " + std::to_string(told.modificationType & ~0x1180) + " at " +
+            row += " type " + std::to_string(told.modificationType & ~0x3180) + " at " +
                    std::to_string(told.position) + " for " + std::to_string(told.length) + " lines " +
                    std::to_string(told.linesAdded) + " of " + std::to_string(Send(SCI_GETLENGTH));
         rows.push_back(row);
@@ -78,11 +82,10 @@ struct Told {
     std::vector<std::string> rows, texts;
 };
 
-Told EditWith(bool screenReader) {
-    QAccessible::setActive(screenReader);
+Told Edit(bool byLibrary) {
     QtEditorView view;
     auto* widget = static_cast<QWidget*>(view.NativeWidget());
-    Recorder recorder(view);
+    Recorder recorder(view, byLibrary);
     recorder.Text(SCI_REPLACESEL, 0, "one\r\ntwo\r\nthree");
     QTest::keyClick(widget, 'x');
     QTest::keyClick(widget, ' ');
@@ -100,33 +103,96 @@ Told EditWith(bool screenReader) {
     recorder.Send(SCI_ENDUNDOACTION);
     for (int i = 0; i < 9; ++i) recorder.Send(SCI_UNDO);
     for (int i = 0; i < 9; ++i) recorder.Send(SCI_REDO);
-    QAccessible::setActive(false);
     return {recorder.rows, recorder.texts};
 }
 
 TEST(ViewChanges, AreToldInTheLibrarysOrder) {
-    const Told with = EditWith(true);
-    const Told without = EditWith(false);
+    const Told with = Edit(true);
+    const Told without = Edit(false);
     EXPECT_GT(with.rows.size(), 40U);
     EXPECT_EQ(with.rows, without.rows);
     EXPECT_EQ(with.texts, without.texts);
 }
 
 TEST(ViewChanges, AnInsertionTellsItsTextBeforehand) {
-    const Told told = EditWith(false);
+    const Told told = Edit(false);
     const std::vector<std::string> expected{"one\r\ntwo\r\nthree", "x", " ", "+", "y", "a\nb", "O\r\nE"};
     ASSERT_GE(told.texts.size(), expected.size());
     EXPECT_EQ(std::vector(told.texts.begin(), told.texts.begin() + 7), expected);
 }
 
-TEST(ViewChanges, AViewThatIsOpenFollowsAScreenReader) {
-    QtEditorView view;
-    Recorder recorder(view);
-    for (const bool active : {true, false}) {
-        QAccessible::setActive(active);
-        recorder.rows.clear();
-        recorder.Text(SCI_REPLACESEL, 0, "a\r\n");
-        EXPECT_EQ(recorder.rows.size(), 2U) << active;
+std::vector<std::string> heard;
+
+void Listen(QAccessibleEvent* event) {
+    const auto add = [](const std::string& kind, int at, const QString& text) {
+        heard.push_back(kind + std::to_string(at) + " " + text.toStdString());
+    };
+    switch (event->type()) {
+    case QAccessible::TextInserted: {
+        auto* told = static_cast<QAccessibleTextInsertEvent*>(event);
+        return add("+", told->changePosition(), told->textInserted());
+    }
+    case QAccessible::TextRemoved: {
+        auto* told = static_cast<QAccessibleTextRemoveEvent*>(event);
+        return add("-", told->changePosition(), told->textRemoved());
+    }
+    case QAccessible::TextCaretMoved:
+        return add("|", static_cast<QAccessibleTextCursorEvent*>(event)->cursorPosition(), {});
+    case QAccessible::TextSelectionChanged: {
+        auto* told = static_cast<QAccessibleTextSelectionEvent*>(event);
+        return add("#", told->selectionStart(), QString::number(told->selectionEnd()));
+    }
+    default: return;
+    }
+}
+
+// Offsets are in UTF-16 units, also behind letters of several bytes.
+TEST(ViewChanges, AssistiveTechnologyHearsTextCaretAndSelection) {
+    for (const bool wide : {false, true}) {
+        QtEditorView view;
+        auto* widget = static_cast<EditorWidget*>(view.NativeWidget());
+        Recorder recorder(view);
+        recorder.Send(SCI_SETMODEVENTMASK, 0);
+        view.SetUtf8(wide);
+        recorder.Text(SCI_REPLACESEL, 0, wide ? "\u00E9\U0001F600\u0416\r\nend" : "\xE9\x80\x93" "b\r\nend");
+        recorder.Send(SCI_GOTOPOS, 1 + wide);
+        recorder.Send(SCI_SETMODEVENTMASK, Mask);
+        heard.clear();
+        QAccessible::setActive(true);
+        TextTeller::Send = Listen;
+        widget->show();
+        const auto settle = [&] {
+            widget->viewport()->repaint();
+            QApplication::processEvents();
+        };
+        settle();
+        EXPECT_EQ(heard, std::vector<std::string>{}) << "the first look";
+        QTest::keyClick(widget, 'x');
+        settle();
+        recorder.Send(SCI_SETSEL, 2 + wide, wide ? 7 : 4);
+        settle();
+        QTest::keyClick(widget, Qt::Key_Backspace);
+        settle();
+        TextTeller::Send = QAccessible::updateAccessibility;
+        const std::vector<std::string> narrow{"+1 x", "|2 ", "|4 ", "#2 4", "-2 \u20AC\u201C", "|2 ", "#2 2"};
+        const std::vector<std::string> two{"+1 x", "|2 ", "|4 ", "#2 4", "-2 \U0001F600", "|2 ", "#2 2"};
+        EXPECT_EQ(heard, wide ? two : narrow);
+        QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(widget)->textInterface();
+        ASSERT_NE(text, nullptr);
+        const QString all = wide ? QString::fromUtf8("\u00E9x\u0416\r\nend") : QString::fromUtf8("\u00E9xb\r\nend");
+        EXPECT_EQ(text->characterCount(), all.size());
+        EXPECT_EQ(text->text(0, -1), all);
+        int start = 0, end = 0;
+        EXPECT_EQ(text->textAtOffset(6, QAccessible::LineBoundary, &start, &end), "end");
+        EXPECT_EQ(start, 5);
+        EXPECT_EQ(text->textAtOffset(6, QAccessible::WordBoundary, &start, &end), "end");
+        EXPECT_EQ(text->textBeforeOffset(5, QAccessible::LineBoundary, &start, &end), all.left(5));
+        EXPECT_EQ(text->textAfterOffset(0, QAccessible::CharBoundary, &start, &end), "x");
+        text->setSelection(0, 1, 3);
+        EXPECT_EQ(recorder.Send(SCI_GETLENGTH), wide ? 10 : 8);
+        text->selection(0, &start, &end);
+        EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
+        QAccessible::setActive(false);
     }
 }
 

@@ -2,11 +2,15 @@
 #include "host/Failure.h"
 #include "host/qt/EditorWidget.h"
 #include "host/qt/QtDockStudio.h"
+#include "host/qt/TabGroup.h"
 #include "support/FakeHost.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -48,8 +52,11 @@ struct Recorder : DockStudioEvents {
         events.push_back("hidden " + window.Key());
         if (hidden) hidden(window);
     }
-    void DS_DocumentWindowContextClick(DocumentWindow&, int place, int, int, bool& cancel) override {
+    std::function<void(int x)> context;
+
+    void DS_DocumentWindowContextClick(DocumentWindow&, int place, int x, int, bool& cancel) override {
         events.push_back("context " + std::to_string(place));
+        if (context) context(x);
         cancel = true;
     }
     void DS_DocumentWindowDoubleClick(DocumentWindow&, int) override {}
@@ -161,6 +168,38 @@ TEST_F(DockTest, ACancelledShortcutGoesOnToTheFocusedWidget) {
     EXPECT_GT(view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH), 0); // the view's own Enter
 }
 
+TEST_F(DockTest, TheMenuKeyAsksAtTheCaretAndAViewIsCalledByItsFile) {
+    DocumentWindow& window = dock.AddDocumentWindow("a", "one.bb", &a);
+    window.Activate();
+    QApplication::processEvents();
+    auto* view = static_cast<QWidget*>(a.View().NativeWidget());
+    window.SetCaption("one.bb*");
+    EXPECT_EQ(view->accessibleName(), "one.bb");
+    dock.AddDocumentWindow("b", "R&D.bb", &b).SetVisible(true);
+    for (const bool first : {false, true}) {
+        if (first) window.Activate();
+        QAccessibleInterface* bar =
+            QAccessible::queryAccessibleInterface(dock.Window().findChild<DocumentTabBar*>());
+        EXPECT_EQ(bar->child(0)->state().selected, first);
+        EXPECT_EQ(bar->child(1)->state().selected, !first);
+        EXPECT_EQ(bar->child(1)->text(QAccessible::Name), "R&D.bb");
+    }
+    QMenu* menu = nullptr;
+    dock.FillPopup("Popup", {"Save"});
+    recorder.context = [&](int x) {
+        EXPECT_EQ(x, -1);
+        dock.ShowPopup("Popup");
+        menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    const QRect caret = view->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, caret.center(), view->mapToGlobal(caret.center()));
+    QApplication::sendEvent(view, &key);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->pos(), view->mapToGlobal(caret.bottomLeft()));
+    menu->close();
+    recorder.context = nullptr;
+}
+
 TEST_F(DockTest, DisabledCommandsDontFireAndHeldKeysRepeatOnlyWhereAllowed) {
     dock.AddDocumentWindow("a", "a", &a).Activate();
     QApplication::processEvents();
@@ -176,6 +215,17 @@ TEST_F(DockTest, DisabledCommandsDontFireAndHeldKeysRepeatOnlyWhereAllowed) {
     dock.FindCommand("Save")->SetAutoRepeat(true);
     hold();
     EXPECT_EQ(Take(), Events{"click Save"});
+    // The clock of the events may begin anywhere; what counts is how much later than others one comes.
+    const auto press = [&](quint64 made, bool repeat) {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, QString(), repeat);
+        key.setTimestamp(made);
+        QApplication::sendEvent(focus, &key);
+        return Take().size();
+    };
+    EXPECT_EQ(press(500'000, false), 1U);
+    EXPECT_EQ(press(500'000, true), 1U);
+    EXPECT_EQ(press(499'000, true), 0U) << "a repeat that comes a second late";
+    EXPECT_EQ(press(499'000, false), 1U) << "a press was made, however late it comes";
     dock.FindCommand("Save")->SetEnabled(false);
     QTest::keyClick(focus, Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(Take(), Events{});

@@ -6,7 +6,6 @@
 
 #include <Qsci/qsciscintillabase.h>
 
-#include <QAccessible>
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstring>
@@ -42,8 +41,8 @@ QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
 
 } // namespace
 
-ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand)
-    : view_(view), hand_(std::move(hand)), pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
+ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard)
+    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)), pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
     views.push_back(this);
 }
 
@@ -72,6 +71,7 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
         if (ChangeEvents* events = Of(pointer)) {
             events->mask_ = static_cast<int>(wParam);
             events->ApplyMask();
+            if (!events->narrowed_) events->unheard_();
             break;
         }
         [[fallthrough]];
@@ -113,15 +113,10 @@ bool ChangeEvents::CaretOnScreen() const {
            QGuiApplication::screenAt(view_.mapToGlobal(point));
 }
 
-void ChangeEvents::AccessibilityChanged() {
-    for (ChangeEvents* events : views) events->ApplyMask();
-}
-
 void ChangeEvents::ApplyMask() {
     if (mask_ < 0) return;
     // Bits that tell who made a change would let the narrowed ones through as well.
-    narrowed_ =
-        (mask_ & Change) == Change && (mask_ & BeforeChange) == BeforeChange && !QAccessible::isActive();
+    narrowed_ = (mask_ & Change) == Change && (mask_ & BeforeChange) == BeforeChange;
     view_.SendScintilla(Base::SCI_SETMODEVENTMASK, narrowed_ ? BeforeChange : mask_);
 }
 

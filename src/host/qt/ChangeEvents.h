@@ -1,6 +1,5 @@
-// The change notifications of one view. While no screen reader runs the library is not asked for those behind
-// a change, because it would count characters from the start of the text on each of them; the view hands
-// them on itself.
+// The change notifications of one view. The library is not asked for those behind a change, because it would count
+// characters from the start of the text on each of them; the view hands them on itself.
 #pragma once
 
 #include "host/EditorView.h"
@@ -14,8 +13,9 @@ class ChangeEvents {
 public:
     using Hand = std::function<void(const SciNotification&)>;
 
-    // `hand` takes what the owner of the view is to see.
-    ChangeEvents(QsciScintillaBase& view, Hand hand);
+    // `hand` takes what the owner of the view is to see; `unheard` runs when the owner asked for no changes and for
+    // as long as it did there may have been some.
+    ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;
     ChangeEvents& operator=(const ChangeEvents&) = delete;
@@ -23,9 +23,6 @@ public:
     // The one entry to every view: the library's direct function with the pending notification delivered
     // before and behind each message.
     static SciDirectFunction DirectFunction(SciDirectFunction library);
-
-    // Assistive technology began or ended: every view's mask takes the form that is right now.
-    static void AccessibilityChanged();
 
     // Takes a notification of the library and hands it on. What a change before it owes comes first.
     void Take(const SciNotification& notification);
@@ -55,6 +52,7 @@ private:
 
     QsciScintillaBase& view_;
     Hand hand_;
+    std::function<void()> unheard_;
     std::intptr_t pointer_;
     int mask_ = -1; // -1: none was asked for, the library's own is in force
     bool narrowed_ = false;

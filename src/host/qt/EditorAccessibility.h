@@ -1,7 +1,6 @@
-// What the edit control does for screen readers, kept off its typing path while none runs.
+// What a view is for assistive technology. The library's own part counts characters from the start of the text on every
+// caret move; this one takes its place.
 #pragma once
 
-// Call once an edit control exists: its library registers its own part then, and the later one is asked
-// first. While no assistive technology is active a view has a plain accessible object, whose text is not
-// counted on every caret move; when one becomes active the library's own object takes over.
+// Call once an edit control exists: its library registers its own part then, and the later one is asked first.
 void InstallEditorAccessibility();

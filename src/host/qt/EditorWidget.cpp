@@ -1,11 +1,10 @@
 // The edit control as this program uses it.
 #include "host/qt/EditorWidget.h"
 
-#include "host/qt/EditorAccessibility.h"
+#include "host/qt/HighBytes.h"
 #include "host/qt/NotificationCodes.h"
 #include "host/qt/QtText.h"
 
-#include <QApplication>
 #include <QChildEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -22,16 +21,34 @@ std::vector<std::string> LocalFiles(const QMimeData* dropped) {
     return paths;
 }
 
+// The keys that the completion list takes for itself.
+bool MovesInList(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
+           key == Qt::Key_Home || key == Qt::Key_End;
+}
+
+// One string for each character, with accents joined to their letters as far as there are such letters.
+QStringList Characters(const QString& text) {
+    QStringList characters;
+    for (const QChar unit : text.normalized(QString::NormalizationForm_C)) {
+        if (unit.isLowSurrogate() && !characters.isEmpty())
+            characters.back() += unit;
+        else
+            characters += unit;
+    }
+    return characters;
+}
+
 }
 
 EditorWidget::EditorWidget(QWidget* parent)
-    : QsciScintillaBase(parent), changes_(*this, [this](const SciNotification& notification) {
-          if (events_) events_->OnNotify(notification);
-      }) {
-    // Behind the library's own registration, which its first view makes, and in front of all that asks for
-    // this view's object.
-    InstallEditorAccessibility();
-    setAccessibleName(tr("Source text"));
+    : QsciScintillaBase(parent), changes_(
+                                     *this,
+                                     [this](const SciNotification& notification) {
+                                         teller_.Hear(notification);
+                                         if (events_) events_->OnNotify(notification);
+                                     },
+                                     [this] { teller_.Unheard(); }) {
     setFrameShape(QFrame::NoFrame);
     SendScintilla(SCI_SETCODEPAGE, 0UL);
     SendScintilla(SCI_USEPOPUP, 0UL);
@@ -40,6 +57,9 @@ EditorWidget::EditorWidget(QWidget* parent)
     SendScintilla(SCI_SETBUFFEREDDRAW, 0UL);
     // What was measured of the lines on the screen is kept: a key changes one of them, and all are painted.
     SendScintilla(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
+    // The horizontal bar is there when a line seen so far is wider than the view, and reaches to its end.
+    SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
+    SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
     ConnectNotifications();
 }
 
@@ -47,8 +67,23 @@ bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf
 
 void EditorWidget::Notify(const SciNotification& notification) { changes_.Take(notification); }
 
+// A question mark in place of what a code page lacks would be a silent loss, so its owner is asked first.
+bool EditorWidget::TakesCharacter(const QString& character, bool composing) const {
+    std::string byte;
+    if (IsUtf8() || FromUtf8ToSingleBytes(Typed(character), byte)) return true;
+    return events_ && events_->OnBeyondCodePage(composing ? std::string() : Typed(character));
+}
+
+// What the document lacks a byte for becomes a question mark.
 QByteArray EditorWidget::InDocument(const QString& text) const {
-    return IsUtf8() ? text.toUtf8() : text.toLatin1();
+    if (IsUtf8()) return text.toUtf8();
+    QByteArray bytes;
+    for (const QString& character : Characters(text)) {
+        std::string byte = "?";
+        FromUtf8ToSingleBytes(Typed(character), byte);
+        bytes += QByteArray::fromStdString(byte);
+    }
+    return bytes;
 }
 
 void EditorWidget::ConnectNotifications() {
@@ -114,11 +149,12 @@ void EditorWidget::childEvent(QChildEvent* event) {
 bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
 
 QByteArray EditorWidget::fromMimeData(const QMimeData* source, bool& rectangular) const {
+    if (source->hasText())
+        for (const QString& character : Characters(source->text()))
+            if (!TakesCharacter(character, false)) break;
     QByteArray bytes = QsciScintillaBase::fromMimeData(source, rectangular);
-    std::string single;
-    // The library writes "?" for what its narrower code page lacks.
-    if (!IsUtf8() && source->hasText() && FromUtf8ToSingleBytes(Typed(source->text()), single))
-        bytes = QByteArray::fromStdString(single);
+    // The library knows Latin-1 alone.
+    if (!IsUtf8() && source->hasText()) bytes = InDocument(source->text());
     // The line ends that the library would make of the pasted ones.
     bytes.replace("\r\n", "\n").replace('\r', '\n');
     if (SendScintilla(SCI_GETEOLMODE) == SC_EOL_CRLF) bytes.replace("\n", "\r\n");
@@ -161,32 +197,49 @@ void EditorWidget::paintEvent(QPaintEvent* event) {
     painting_ = true;
     QsciScintillaBase::paintEvent(event);
     painting_ = false;
+    if (!IsUtf8()) PaintHighBytes(*this);
 }
 
 void EditorWidget::keyPressEvent(QKeyEvent* event) {
     const QString text = event->text();
+    const bool modifier = event->key() >= Qt::Key_Shift && event->key() <= Qt::Key_Alt;
+    if (!modifier) movedInList_ = SendScintilla(SCI_AUTOCACTIVE) && MovesInList(event->key());
     // A letter with Alt is a menu's key that no menu has; it is not typing.
     const bool menuKey = event->modifiers() & Qt::AltModifier && !(event->modifiers() & Qt::ControlModifier);
     if (menuKey && !text.isEmpty() && text.front().isPrint()) return event->ignore();
     const bool beyondLatin1 =
         std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
-    if (IsUtf8() || !beyondLatin1) {
-        const ChangeEvents::Inserting typed(changes_, InDocument(text));
-        return QsciScintillaBase::keyPressEvent(event);
+    if (!IsUtf8() && beyondLatin1) return InsertTyped(text);
+    const ChangeEvents::Inserting typed(changes_, InDocument(text));
+    QsciScintillaBase::keyPressEvent(event);
+}
+
+// Character by character, as keys do it: undo steps and what follows a typed character hang on that. The
+// library takes the bytes of a single-byte text for Latin-1.
+void EditorWidget::InsertTyped(const QString& text) {
+    for (const QString& character : Characters(text)) {
+        if (!TakesCharacter(character, false)) continue;
+        const QByteArray bytes = InDocument(character);
+        const ChangeEvents::Inserting typed(changes_, bytes);
+        QInputMethodEvent one;
+        one.setCommitString(IsUtf8() ? character : QString::fromLatin1(bytes));
+        QsciScintillaBase::inputMethodEvent(&one);
     }
-    std::string bytes;
-    // A question mark in place of what was typed would be a silent loss.
-    if (!FromUtf8ToSingleBytes(Typed(text), bytes)) return QApplication::beep();
-    {
-        const ChangeEvents::Inserting typed(changes_, QByteArray::fromStdString(bytes));
-        SendScintilla(SCI_REPLACESEL, bytes.c_str());
-    }
-    for (const char c : bytes) Notify({.code = CharAdded, .ch = static_cast<unsigned char>(c)});
 }
 
 void EditorWidget::inputMethodEvent(QInputMethodEvent* event) {
-    const ChangeEvents::Inserting typed(changes_, InDocument(event->commitString()));
-    QsciScintillaBase::inputMethodEvent(event);
+    // Takes back what was being composed, because the document may change its code page now.
+    QInputMethodEvent nothing;
+    nothing.setCommitString({}, event->replacementStart(), event->replacementLength());
+    QsciScintillaBase::inputMethodEvent(&nothing);
+    InsertTyped(event->commitString());
+    if (event->preeditString().isEmpty()) return;
+    for (const QString& character : Characters(event->preeditString()))
+        if (!TakesCharacter(character, true)) break;
+    const QString shown =
+        IsUtf8() ? event->preeditString() : QString::fromLatin1(InDocument(event->preeditString()));
+    QInputMethodEvent composing(shown, event->attributes());
+    QsciScintillaBase::inputMethodEvent(&composing);
 }
 
 #include "moc_EditorWidget.cpp"

@@ -4,6 +4,7 @@
 
 #include "host/EditorView.h"
 #include "host/qt/ChangeEvents.h"
+#include "host/qt/TextTeller.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -15,6 +16,12 @@ public:
 
     void SetEvents(EditorViewEvents* events) { events_ = events; }
     bool IsUtf8() const;
+    // The last key moved in a completion list, which is still open.
+    bool MovedInList() const { return movedInList_ && SendScintilla(SCI_AUTOCACTIVE); }
+
+    // Inserts at the caret, as if it were typed.
+    void InsertTyped(const QString& text);
+    TextTeller& Teller() { return teller_; }
 
 protected:
     void childEvent(QChildEvent* event) override;
@@ -33,9 +40,12 @@ private:
     void ConnectNotifications();
     void Notify(const SciNotification& notification);
 
+    bool TakesCharacter(const QString& character, bool composing) const;
     QByteArray InDocument(const QString& text) const;
 
     EditorViewEvents* events_ = nullptr;
     bool painting_ = false;
+    bool movedInList_ = false;
+    TextTeller teller_{*this};
     mutable ChangeEvents changes_;
 };

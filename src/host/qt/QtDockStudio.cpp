@@ -158,7 +158,7 @@ void QtDockStudio::AttachPane(const std::string& name, const std::string& captio
 
 void QtDockStudio::ShowPopup(const std::string& name) {
     QtCommand* popup = table_.Find(name);
-    if (popup && popup->Menu()) popup->Menu()->popup(QCursor::pos());
+    if (popup && popup->Menu()) popup->Menu()->popup(area_->menuPlace.value_or(QCursor::pos()));
 }
 
 void QtDockStudio::FillPopup(const std::string& name, const std::vector<std::string>& commands) {

@@ -57,7 +57,9 @@ TabGroup* QtDocumentArea::NewGroup() {
         Activate(*window);
         const QPoint local = page->mapFromGlobal(global);
         bool cancel = false;
+        menuPlace = global;
         events->DS_DocumentWindowContextClick(*window, OnTab, local.x(), local.y(), cancel);
+        menuPlace.reset();
     });
     connect(group, &TabGroup::ListAsked, this, [this](QMenu* menu) { ListWindows(*menu); });
     ConnectDrag(group);

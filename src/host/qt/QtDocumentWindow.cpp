@@ -8,6 +8,7 @@
 #include <QAbstractScrollArea>
 #include <QContextMenuEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 constexpr int InsideDocument = 1;
@@ -36,6 +37,7 @@ void QtDocumentWindow::SetCaption(const std::string& caption) {
 }
 
 void QtDocumentWindow::ShowCaption() {
+    NameWidget();
     TabGroup* group = Group();
     if (!group) return;
     const int index = group->indexOf(page_);
@@ -43,6 +45,13 @@ void QtDocumentWindow::ShowCaption() {
     // A window that stands for no file has a key that means nothing to a person.
     group->setTabToolTip(index, Shown(key_.empty() || key_.front() == '{' ? caption_ : key_));
     area_.CaptionsChanged();
+}
+
+// Each view is called by its file; the star of unsaved changes is no part of its name.
+void QtDocumentWindow::NameWidget() {
+    QString name = Shown(caption_);
+    if (name.endsWith('*')) name.chop(1);
+    if (widget_ && widget_->accessibleName() != name) widget_->setAccessibleName(name);
 }
 
 void QtDocumentWindow::Attach(Form* form) {
@@ -58,6 +67,7 @@ void QtDocumentWindow::Attach(Form* form) {
     if (!widget_) return;
     page_->layout()->addWidget(widget_);
     page_->setFocusProxy(widget_);
+    NameWidget();
     widget_->installEventFilter(this);
     if (auto* scroll = qobject_cast<QAbstractScrollArea*>(widget_))
         scroll->viewport()->installEventFilter(this);
@@ -67,9 +77,21 @@ void QtDocumentWindow::Attach(Form* form) {
 bool QtDocumentWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ContextMenu || !area_.events) return QObject::eventFilter(watched, event);
     const auto* context = static_cast<QContextMenuEvent*>(event);
+    const bool byKey = context->reason() == QContextMenuEvent::Keyboard;
+    area_.menuPlace = byKey ? BelowCaret() : context->globalPos();
     bool cancel = false;
-    area_.events->DS_DocumentWindowContextClick(*this, InsideDocument, context->x(), context->y(), cancel);
+    area_.events->DS_DocumentWindowContextClick(*this, InsideDocument, byKey ? -1 : context->x(),
+                                                byKey ? -1 : context->y(), cancel);
+    area_.menuPlace.reset();
     return cancel;
+}
+
+// The caret may be scrolled out of sight.
+QPoint QtDocumentWindow::BelowCaret() const {
+    const QPoint caret = widget_->inputMethodQuery(Qt::ImCursorRectangle).toRect().bottomLeft();
+    const QRect inside = widget_->rect();
+    return widget_->mapToGlobal(QPoint(std::clamp(caret.x(), inside.left(), inside.right()),
+                                       std::clamp(caret.y(), inside.top(), inside.bottom())));
 }
 
 TabGroup* QtDocumentWindow::Group() const { return page_ ? area_.GroupOf(page_) : nullptr; }

@@ -3,8 +3,10 @@
 
 #include "host/DockStudio.h"
 
+#include <QPoint>
 #include <QPointer>
 #include <QWidget>
+#include <optional>
 
 class QtDocumentWindow;
 class TabGroup;
@@ -20,6 +22,8 @@ public:
     virtual void CaptionsChanged() = 0;
 
     DockStudioEvents* events = nullptr; // written by the frame alone
+    // Where (on the screen) the context menu belongs that is being asked for.
+    std::optional<QPoint> menuPlace;
 };
 
 class QtDocumentWindow : public QObject, public DocumentWindow {
@@ -47,6 +51,8 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void NameWidget();
+    QPoint BelowCaret() const;
 
     DocumentWindowOwner& area_;
     std::string key_;

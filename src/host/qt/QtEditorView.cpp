@@ -1,6 +1,7 @@
 // The edit control's own widget behind the seam that the editor speaks to.
 #include "host/qt/QtEditorView.h"
 
+#include "host/qt/EditorAccessibility.h"
 #include "host/qt/EditorWidget.h"
 
 namespace {
@@ -8,7 +9,11 @@ constexpr unsigned long SingleBytes = 0;
 constexpr unsigned long Utf8 = 65001;
 }
 
-QtEditorView::QtEditorView() : widget_(new EditorWidget) {}
+QtEditorView::QtEditorView() : widget_(new EditorWidget) {
+    // In front of all that asks for this view's object.
+    InstallEditorAccessibility();
+    widget_->setAccessibleName(QObject::tr("Source text"));
+}
 
 QtEditorView::~QtEditorView() {
     if (!widget_) return;
@@ -31,6 +36,7 @@ SciDirectFunction QtEditorView::DirectFunction() {
 void QtEditorView::SetEvents(EditorViewEvents* events) { widget_->SetEvents(events); }
 void QtEditorView::Redraw() { widget_->viewport()->update(); }
 void QtEditorView::GrabFocus() { widget_->setFocus(Qt::OtherFocusReason); }
+bool QtEditorView::MovedInList() { return widget_->MovedInList(); }
 void QtEditorView::SetUtf8(bool utf8) {
     widget_->SendScintilla(QsciScintillaBase::SCI_SETCODEPAGE, utf8 ? Utf8 : SingleBytes);
 }

@@ -17,6 +17,7 @@ public:
     void SetEvents(EditorViewEvents* events) override;
     void Redraw() override;
     void GrabFocus() override;
+    bool MovedInList() override;
     void SetUtf8(bool utf8) override;
     void* NativeWidget() override;
 

@@ -9,8 +9,12 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <chrono>
 
 namespace {
+
+constexpr qint64 LateMilliseconds = 100; // a held key repeats about every 30
+constexpr qint64 LongestLag = 60'000;    // beyond it a clock was set
 
 bool IsTextField(const QWidget* widget) {
     // An editable box has the focus itself and passes keys on to its field.
@@ -34,6 +38,16 @@ bool IsFieldKey(const QKeyEvent& event) {
     }
 }
 
+}
+
+bool KeyLag::IsLateRepeat(const QKeyEvent& event) {
+    if (event.timestamp() == 0) return false; // nobody says when it was made
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    const qint64 lag = std::chrono::duration_cast<std::chrono::milliseconds>(now).count() -
+                       static_cast<qint64>(event.timestamp());
+    // The two clocks begin anywhere: the least difference that was seen is that of a key without delay.
+    if (!least_ || lag < *least_ || lag > *least_ + LongestLag) least_ = lag;
+    return event.isAutoRepeat() && lag > *least_ + LateMilliseconds;
 }
 
 ShortcutFilter::ShortcutFilter(QMainWindow& window, CommandTable& table)
@@ -68,6 +82,7 @@ bool ShortcutFilter::eventFilter(QObject* watched, QEvent* event) {
     if ((!override && event->type() != QEvent::KeyPress) || !Concerns(watched)) return false;
     auto* widget = static_cast<QWidget*>(watched);
     auto& key = *static_cast<QKeyEvent*>(event);
+    if (!override && late_.IsLateRepeat(key)) return true;
     return override ? OfferOverride(widget, key) : OfferPress(widget, key);
 }
 

@@ -6,6 +6,17 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QPointer>
+#include <optional>
+
+// Tells the repeats of a held key that come late: the program has fallen behind, and would run on after the key
+// was let go.
+class KeyLag {
+public:
+    bool IsLateRepeat(const QKeyEvent& event);
+
+private:
+    std::optional<qint64> least_; // ms between the clock of the events and ours
+};
 
 class ShortcutFilter : public QObject {
 public:
@@ -24,5 +35,6 @@ private:
 
     QMainWindow& window_;
     CommandTable& table_;
+    KeyLag late_;
     QPointer<QWidget> claimant_; // the text field that keeps the key that is going down
 };

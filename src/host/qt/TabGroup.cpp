@@ -1,6 +1,8 @@
 // One group of tabs in the document area, and its bar.
 #include "host/qt/TabGroup.h"
 
+#include "host/qt/TabAccessibility.h"
+
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,6 +17,7 @@ constexpr int LeaveDistance = 12; // pixels beyond the bar at which a tab comes 
 }
 
 DocumentTabBar::DocumentTabBar(QWidget* parent) : QTabBar(parent) {
+    InstallTabAccessibility(); // in front of all that asks for this bar's object
     setExpanding(false);
     setAccessibleName(tr("Open documents"));
 }
