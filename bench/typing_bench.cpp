@@ -68,7 +68,8 @@ void Typing(benchmark::State& state, QSize size) {
     TypeIn(state, *ActiveForm()->View, state.range(0) / 2, size);
 }
 
-// With assistive technology, the caret at the begin, in the middle and at the end (lines): a key must cost the same.
+// With assistive technology, the caret at the begin, in the middle and at the end (lines): a key must cost
+// the same.
 void TypingHeard(benchmark::State& state, bool utf8) {
     QAccessible::setActive(true);
     {

@@ -21,7 +21,8 @@ void Tell(const std::string& text) {
     if (gEditorCalls.SetNotice) gEditorCalls.SetNotice(text);
 }
 
-// Gives the active view's high bytes the form they have in UTF-8; the selection stays where it is in the text.
+// Gives the active view's high bytes the form they have in UTF-8; the selection stays where it is in the
+// text.
 void WriteAsUtf8(const std::string& text) {
     auto anchor = Mod_Sci::Send(SCI_GETANCHOR), caret = Mod_Sci::GetCurrentPos();
     const auto grow = [](std::intptr_t& place, std::intptr_t at, std::size_t bytes) {

@@ -25,7 +25,7 @@ struct EditorCalls {
     std::function<bool(const std::string& word)> ShowBrowserHelp;
     // Opens a closed member of the active project by its name and makes it active; false when it could not.
     std::function<bool(const std::string& name)> OpenMember;
-    std::function<void()> UpdateSciCommandUI;              // "Undo" and "Redo" enable
+    std::function<void()> UpdateSciCommandUI;                                // "Undo" and "Redo" enable
     std::function<void(const std::vector<std::string>& paths)> FilesDropped; // on a view
 };
 extern EditorCalls gEditorCalls; // written by the wiring of the application alone

@@ -52,8 +52,8 @@ const frmDoc* DocumentOf(const Symbol& symbol) {
     return nullptr;
 }
 
-// Opens the file of a symbol that was closed, and finds what it has declared in its place. Null when it could not
-// be opened or has no such name any more.
+// Opens the file of a symbol that was closed, and finds what it has declared in its place. Null when it could
+// not be opened or has no such name any more.
 SymbolPointer Reopened(const clsHash& table, const SymbolPointer& symbol) {
     const auto project = gCurrentProject; // owns the table
     const int before = NamesakesBefore(table, *symbol);

@@ -1,4 +1,5 @@
-// A symbol of a closed file has no view. Another view may get the address of the old one, so it must not keep it.
+// A symbol of a closed file has no view. Another view may get the address of the old one, so it must not keep
+// it.
 #include "engine/ClosedFiles.h"
 
 #include "engine/ClsProject.h"

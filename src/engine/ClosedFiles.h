@@ -1,5 +1,5 @@
-// The symbols of a project's file that is not open any more: they stay known to the other files until their own is
-// opened again and declares them anew.
+// The symbols of a project's file that is not open any more: they stay known to the other files until their
+// own is opened again and declares them anew.
 #pragma once
 
 #include "engine/clsHash.h"
@@ -16,6 +16,7 @@ void DropClosedSymbols(ClsProject& project);
 
 // How many namesakes from its own file a table holds before a symbol.
 int NamesakesBefore(const clsHash& table, const Symbol& symbol);
-// What a view declared under a name, behind so many namesakes; the last of them when there are fewer, null when there
-// is none. With NamesakesBefore it finds a symbol of a closed file again after the file was opened.
+// What a view declared under a name, behind so many namesakes; the last of them when there are fewer, null
+// when there is none. With NamesakesBefore it finds a symbol of a closed file again after the file was
+// opened.
 SymbolPointer NamesakeOf(std::intptr_t view, const clsHash& table, std::string_view name, int before);

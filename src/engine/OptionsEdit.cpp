@@ -13,9 +13,9 @@ int HighlightCurrentLine = 1, AutoIndentType = 2, AutoIndentOnLoad = 0, EmptyUnd
     CBrowserRememberOnGotoDefinition = 1, BookMarksSingleFileBased = 0, SaveBookmarks = 1,
     SaveFoldingState = 1, SaveCompilerCommandLine = 1, FileDirtyOnBookmarks = 1, EachHelpInNewTab = 1,
     IFNoHelpFound = 2, HomeGoesToFirst = 0, CheckForMissingBracesOnFunctions = 0, KeepLineEnds = 1;
-int ACshowAuto = 1, ACcompleteOnlyOne = 0, ACEnterAccepts = 0, ACIncKeywords = 1, ACIncVars = 1, ACIncConstants = 1,
-    ACIncFunctions = 1, ACCloseListOnDelete = 1, ACCloseListOnNoMatch = 0, ACCloseListOnMatch = 1,
-    ACTypesLabelsEnable = 1;
+int ACshowAuto = 1, ACcompleteOnlyOne = 0, ACEnterAccepts = 0, ACIncKeywords = 1, ACIncVars = 1,
+    ACIncConstants = 1, ACIncFunctions = 1, ACCloseListOnDelete = 1, ACCloseListOnNoMatch = 0,
+    ACCloseListOnMatch = 1, ACTypesLabelsEnable = 1;
 std::string ACFillUpChars = "(", ACStopChars = "/\\,.~`!@#$%^&*)-_=+{}[]:;?<>|\"", SciStyleName = "Default";
 
 } // namespace OptionsEdit

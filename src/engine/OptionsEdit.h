@@ -14,8 +14,8 @@ extern int HighlightCurrentLine, AutoIndentType, AutoIndentOnLoad, EmptyUndo, Fi
     PopupCallTips, BreakpointsAsBackground, CBrowserMarkAsNew, CBrowserRememberOnGotoDefinition,
     BookMarksSingleFileBased, SaveBookmarks, SaveFoldingState, SaveCompilerCommandLine, FileDirtyOnBookmarks,
     EachHelpInNewTab, IFNoHelpFound, HomeGoesToFirst, CheckForMissingBracesOnFunctions, KeepLineEnds;
-extern int ACshowAuto, ACcompleteOnlyOne, ACEnterAccepts, ACIncKeywords, ACIncVars, ACIncConstants, ACIncFunctions,
-    ACCloseListOnDelete, ACCloseListOnNoMatch, ACCloseListOnMatch, ACTypesLabelsEnable;
+extern int ACshowAuto, ACcompleteOnlyOne, ACEnterAccepts, ACIncKeywords, ACIncVars, ACIncConstants,
+    ACIncFunctions, ACCloseListOnDelete, ACCloseListOnNoMatch, ACCloseListOnMatch, ACTypesLabelsEnable;
 extern std::string ACFillUpChars, ACStopChars, SciStyleName;
 
 } // namespace OptionsEdit

@@ -34,8 +34,9 @@ public:
     virtual void OnSetFocus() = 0;
     virtual void OnKillFocus() = 0;
     virtual void OnDropFiles(const std::vector<std::string>& paths) = 0;
-    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes; empty
-    // while it is still being composed. Answers whether the view shows UTF-8 now; else the character is left out.
+    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes;
+    // empty while it is still being composed. Answers whether the view shows UTF-8 now; else the character is
+    // left out.
     virtual bool OnBeyondCodePage(const std::string&) { return false; }
 };
 

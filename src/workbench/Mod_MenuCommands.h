@@ -30,7 +30,8 @@ void Route(DockCommand& command, int item);
 
 // Flips strict mode and gives the text the focus.
 void ChangeStrictMode();
-// Brings caption, BadStyle and the colours on the screen up to the check mark, which an arrangement may have set.
+// Brings caption, BadStyle and the colours on the screen up to the check mark, which an arrangement may have
+// set.
 void FollowStrictMark();
 // Gives the active document the focus; nothing happens without one.
 void FocusText();

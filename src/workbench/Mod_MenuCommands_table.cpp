@@ -214,7 +214,11 @@ const std::vector<RoutedCommand>& Routes() {
         {"SaveAsLayout3", [](const Click&) { SaveAsLayout(3); }},
         {"ResetLayout", [](const Click&) { ResetLayout(); }},
         {"About", [](const Click&) { ShowAbout(); }},
-        {"cboCompilers", [](const Click&) { cboCompilers(), FocusText(); }},
+        {"cboCompilers",
+         [](const Click&) {
+             cboCompilers();
+             FocusText();
+         }},
         {"cboCommandLine", [](const Click&) { cboCommandLine(); }},
         {"Compile and Run", CompileActive},
         {"Compile and Run Last", [](const Click&) { Mod_Compiler::CompileLast(); }},

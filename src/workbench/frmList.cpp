@@ -174,9 +174,7 @@ void frmList::FillSide() {
 void frmList::RefreshLines() {
     const auto project = lists_[Functions].project.lock();
     if (construct_ != Functions || !isVisible() || !project) return;
-    Guarded("RefreshLines", "frmList", [&] {
-        lists_[Functions].list->Rows().SetLines(LineOf);
-    });
+    Guarded("RefreshLines", "frmList", [&] { lists_[Functions].list->Rows().SetLines(LineOf); });
 }
 
 void frmList::SetFileColumn(bool hidden) {

@@ -76,7 +76,8 @@ private:
     void SetFunctionOrder();
     void ShowControl();
     void GotoItem(const CodeList& list);
-    SymbolPointer Reopened(const ClsProject& project, const SymbolPointer& symbol, const SymbolPointer& owner);
+    SymbolPointer Reopened(const ClsProject& project, const SymbolPointer& symbol,
+                           const SymbolPointer& owner);
     bool OpenFileOf(const SymbolPointer& symbol);
     void ShowIncludePopup(const QPoint& at);
     void OpenInclude();

@@ -60,8 +60,8 @@ void frmList::GotoItem(const CodeList& list) {
     });
 }
 
-// Opens the file of a symbol that was closed, which declares all of its symbols anew, and finds this one among them.
-// `owner`: the function or type in whose list it stands. Null when there is none any more.
+// Opens the file of a symbol that was closed, which declares all of its symbols anew, and finds this one
+// among them. `owner`: the function or type in whose list it stands. Null when there is none any more.
 SymbolPointer frmList::Reopened(const ClsProject& project, const SymbolPointer& symbol,
                                 const SymbolPointer& owner) {
     const clsHash& table = project.*Constructs[construct_].table;
@@ -71,7 +71,8 @@ SymbolPointer frmList::Reopened(const ClsProject& project, const SymbolPointer& 
     const std::intptr_t view = gActiveDoc->SciEdi_WndData;
     if (!owner) return NamesakeOf(view, table, symbol->Ime, before);
     // The main program is of no file.
-    const SymbolPointer again = owner->Handle == 0 ? owner : NamesakeOf(view, table, owner->Ime, ownersBefore);
+    const SymbolPointer again =
+        owner->Handle == 0 ? owner : NamesakeOf(view, table, owner->Ime, ownersBefore);
     return again ? NamesakeOf(view, NamesIn(*again), symbol->Ime, before) : nullptr;
 }
 

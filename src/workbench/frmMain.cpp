@@ -142,7 +142,8 @@ void frmMain::SetFunctionText(const std::string& text) {
 
 void frmMain::SetTipText(const TipText& tip) {
     tip_ = tip;
-    if (statusMain_ && noticeTimer_ == 0) statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
+    if (statusMain_ && noticeTimer_ == 0)
+        statusMain_->SetMarkedText(tip.left, tip.hot, tip.right, tip.colour);
 }
 
 void frmMain::SetNotice(const std::string& text) {
@@ -179,9 +180,7 @@ void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {
     if (command.Name() != "New Line") gHost.desktop->Beep();
 }
 
-void frmMain::DS_FilesDropped(const std::vector<std::string>& paths) {
-    Mod_File::FilesDropped(paths);
-}
+void frmMain::DS_FilesDropped(const std::vector<std::string>& paths) { Mod_File::FilesDropped(paths); }
 
 void frmMain::DS_QueryUnload(bool& cancel) { Mod_Main::QueryUnload(cancel); }
 

@@ -1,8 +1,8 @@
 // A source that is opened and saved comes back byte for byte, whatever its line ends and its code page.
 #include "documents/Mod_File.h"
 #include "documents/Session.h"
-#include "engine/OptionsEdit.h"
 #include "editor/EditorCalls.h"
+#include "engine/OptionsEdit.h"
 #include "sci/Mod_Sci.h"
 
 #include <QApplication>
@@ -94,7 +94,10 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
         bool isNew, utf8, isTold;
     } rows[] = {
         {";\xE9", "\u20AC\u201C", ";\xE9\x80\x93", false, false, false},
-        {";\xE9", "a\u0416b\u20AC", ";\xE9" "ab\x80", false, false, true},
+        {";\xE9", "a\u0416b\u20AC",
+         ";\xE9"
+         "ab\x80",
+         false, false, true},
         {";a", "\u0416\u0443\u043A", ";a\u0416\u0443\u043A", false, true, true},
         {"", "\u0416\u0443\u043A", "\u0416\u0443\u043A", true, true, true},
         {";\xE9\x80", "\u0416\U0001F600", ";\u00E9\u20AC\u0416\U0001F600", true, true, true},
@@ -114,7 +117,9 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
             Commit(row.typed, composed);
             EXPECT_EQ(Mod_Sci::GetText(), row.after) << composed;
             EXPECT_EQ(CodePage(), row.utf8 ? SC_CP_UTF8 : 0) << row.after << composed;
-            if (composed[0] != '\xD0') { EXPECT_EQ(!told.empty(), row.isTold) << row.after << told; }
+            if (composed[0] != '\xD0') {
+                EXPECT_EQ(!told.empty(), row.isTold) << row.after << told;
+            }
             Mod_Sci::SetSavePoint();
             if (row.isNew) ActiveForm()->SetDirty(false);
             session.Close(ActiveForm()->m_strDocumentWindowID);
@@ -165,8 +170,12 @@ TEST_F(EncodingTest, TheBlockKeepsTheSourceByteForByteInEveryKindOfFile) {
                     const bool lf = document.LfEnds;
                     EXPECT_EQ(saved, text + replaced(block, lf ? "\n" : "\r\n"));
                     EXPECT_EQ(Mod_Sci::Send(SCI_GETEOLMODE), lf ? SC_EOL_LF : SC_EOL_CRLF);
-                    if (source.back() == '\n') { EXPECT_EQ(lf, lineEnd == "\n"); }
-                    if (opening > 0) { EXPECT_EQ(saved, last); }
+                    if (source.back() == '\n') {
+                        EXPECT_EQ(lf, lineEnd == "\n");
+                    }
+                    if (opening > 0) {
+                        EXPECT_EQ(saved, last);
+                    }
                     last = saved;
                     session.Close(path);
                 }

@@ -200,7 +200,8 @@ TEST_F(CompletionTest, EnterTakesAnEntryThatWasMovedToWhereTheUserWantsThat) {
         Declare({"Global printer, primal$", "Const PrimeMost = 3"});
         const auto line = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
         EXPECT_NE(ListFor("pri"), "-");
-        for (const Qt::Key key : keys) QTest::keyClick(static_cast<QWidget*>(ActiveForm()->NativeWidget()), key);
+        for (const Qt::Key key : keys)
+            QTest::keyClick(static_cast<QWidget*>(ActiveForm()->NativeWidget()), key);
         Type("\n");
         return Text(line);
     };

@@ -1,4 +1,5 @@
-// A view tells the changes of its text in the order of the library, and assistive technology what became of them.
+// A view tells the changes of its text in the order of the library, and assistive technology what became of
+// them.
 #include "host/qt/EditorWidget.h"
 #include "host/qt/QtEditorView.h"
 
@@ -154,7 +155,10 @@ TEST(ViewChanges, AssistiveTechnologyHearsTextCaretAndSelection) {
         Recorder recorder(view);
         recorder.Send(SCI_SETMODEVENTMASK, 0);
         view.SetUtf8(wide);
-        recorder.Text(SCI_REPLACESEL, 0, wide ? "\u00E9\U0001F600\u0416\r\nend" : "\xE9\x80\x93" "b\r\nend");
+        recorder.Text(SCI_REPLACESEL, 0,
+                      wide ? "\u00E9\U0001F600\u0416\r\nend"
+                           : "\xE9\x80\x93"
+                             "b\r\nend");
         recorder.Send(SCI_GOTOPOS, 1 + wide);
         recorder.Send(SCI_SETMODEVENTMASK, Mask);
         heard.clear();
@@ -179,7 +183,8 @@ TEST(ViewChanges, AssistiveTechnologyHearsTextCaretAndSelection) {
         EXPECT_EQ(heard, wide ? two : narrow);
         QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(widget)->textInterface();
         ASSERT_NE(text, nullptr);
-        const QString all = wide ? QString::fromUtf8("\u00E9x\u0416\r\nend") : QString::fromUtf8("\u00E9xb\r\nend");
+        const QString all =
+            wide ? QString::fromUtf8("\u00E9x\u0416\r\nend") : QString::fromUtf8("\u00E9xb\r\nend");
         EXPECT_EQ(text->characterCount(), all.size());
         EXPECT_EQ(text->text(0, -1), all);
         int start = 0, end = 0;

@@ -42,7 +42,8 @@ QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
 } // namespace
 
 ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard)
-    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)), pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
+    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)),
+      pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
     views.push_back(this);
 }
 

@@ -1,5 +1,5 @@
-// The change notifications of one view. The library is not asked for those behind a change, because it would count
-// characters from the start of the text on each of them; the view hands them on itself.
+// The change notifications of one view. The library is not asked for those behind a change, because it would
+// count characters from the start of the text on each of them; the view hands them on itself.
 #pragma once
 
 #include "host/EditorView.h"
@@ -13,8 +13,8 @@ class ChangeEvents {
 public:
     using Hand = std::function<void(const SciNotification&)>;
 
-    // `hand` takes what the owner of the view is to see; `unheard` runs when the owner asked for no changes and for
-    // as long as it did there may have been some.
+    // `hand` takes what the owner of the view is to see; `unheard` runs when the owner asked for no changes
+    // and for as long as it did there may have been some.
     ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;

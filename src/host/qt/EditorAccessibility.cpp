@@ -55,14 +55,16 @@ public:
         view_.SendScintilla(Base::SCI_SETSEL, static_cast<unsigned long>(At(start)), At(end));
     }
 
-    QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override {
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start,
+                         int* end) const override {
         return Piece(offset, 0, type, start, end);
     }
     QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
                              int* end) const override {
         return Piece(offset, -1, type, start, end);
     }
-    QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override {
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start,
+                            int* end) const override {
         return Piece(offset, 1, type, start, end);
     }
 
@@ -75,8 +77,8 @@ public:
     }
     int offsetAtPoint(const QPoint& point) const override {
         const QPoint at = view_.viewport()->mapFromGlobal(point);
-        const long position =
-            view_.SendScintilla(Base::SCI_POSITIONFROMPOINTCLOSE, static_cast<unsigned long>(at.x()), long{at.y()});
+        const long position = view_.SendScintilla(Base::SCI_POSITIONFROMPOINTCLOSE,
+                                                  static_cast<unsigned long>(at.x()), long{at.y()});
         return position < 0 ? -1 : offsets().OffsetOf(position);
     }
     void scrollToSubstring(int start, int end) override {
@@ -108,7 +110,8 @@ private:
                 static_cast<int>(view_.SendScintilla(Base::SCI_POINTYFROMPOSITION, 0UL, position))};
     }
     QString Line(long line) const {
-        return offsets().Text(Ask(Base::SCI_POSITIONFROMLINE, line), Ask(Base::SCI_POSITIONFROMLINE, line + 1));
+        return offsets().Text(Ask(Base::SCI_POSITIONFROMLINE, line),
+                              Ask(Base::SCI_POSITIONFROMLINE, line + 1));
     }
     QString Piece(int offset, int step, QAccessible::TextBoundaryType type, int* start, int* end) const;
 
@@ -120,9 +123,10 @@ QTextBoundaryFinder::BoundaryType FinderOf(QAccessible::TextBoundaryType type) {
     return type == QAccessible::WordBoundary ? QTextBoundaryFinder::Word : QTextBoundaryFinder::Sentence;
 }
 
-// The piece of the text that holds an offset, or the one before or behind it. Words and characters are looked for
-// in one line; behind its last piece comes the next line's first.
-QString EditorText::Piece(int offset, int step, QAccessible::TextBoundaryType type, int* start, int* end) const {
+// The piece of the text that holds an offset, or the one before or behind it. Words and characters are looked
+// for in one line; behind its last piece comes the next line's first.
+QString EditorText::Piece(int offset, int step, QAccessible::TextBoundaryType type, int* start,
+                          int* end) const {
     const long position = At(offset);
     long line = Ask(Base::SCI_LINEFROMPOSITION, position);
     const long lines = Ask(Base::SCI_GETLINECOUNT);
@@ -139,7 +143,8 @@ QString EditorText::Piece(int offset, int step, QAccessible::TextBoundaryType ty
         *end = characterCount();
         return step == 0 ? text(0, *end) : QString();
     }
-    if (type == QAccessible::LineBoundary || type == QAccessible::ParagraphBoundary) return whole(line + step);
+    if (type == QAccessible::LineBoundary || type == QAccessible::ParagraphBoundary)
+        return whole(line + step);
     QString text = whole(line);
     const auto piece = [&](qsizetype from, qsizetype to) {
         const int lineStart = *start;
@@ -149,7 +154,8 @@ QString EditorText::Piece(int offset, int step, QAccessible::TextBoundaryType ty
     };
     QTextBoundaryFinder finder(FinderOf(type), text);
     finder.setPosition(offset - *start);
-    qsizetype from = finder.isAtBoundary() ? finder.position() : std::max<qsizetype>(0, finder.toPreviousBoundary());
+    qsizetype from =
+        finder.isAtBoundary() ? finder.position() : std::max<qsizetype>(0, finder.toPreviousBoundary());
     finder.setPosition(from);
     qsizetype to = finder.toNextBoundary();
     if (to < 0) to = text.size();

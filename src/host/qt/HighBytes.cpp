@@ -28,11 +28,14 @@ QColor Colour(Base& view, unsigned message, long style) {
 }
 
 QFont FontOf(Base& view, long style) {
-    const auto ask = [&](unsigned message) { return view.SendScintilla(message, static_cast<unsigned long>(style)); };
+    const auto ask = [&](unsigned message) {
+        return view.SendScintilla(message, static_cast<unsigned long>(style));
+    };
     std::vector<char> face(static_cast<std::size_t>(ask(Base::SCI_STYLEGETFONT)) + 1);
     view.SendScintilla(Base::SCI_STYLEGETFONT, static_cast<unsigned long>(style), face.data());
     QFont font(QString::fromUtf8(face.data()));
-    font.setPointSizeF(static_cast<double>(ask(Base::SCI_STYLEGETSIZE) + view.SendScintilla(Base::SCI_GETZOOM)));
+    font.setPointSizeF(
+        static_cast<double>(ask(Base::SCI_STYLEGETSIZE) + view.SendScintilla(Base::SCI_GETZOOM)));
     font.setBold(ask(Base::SCI_STYLEGETBOLD) != 0);
     font.setItalic(ask(Base::SCI_STYLEGETITALIC) != 0);
     return font;
@@ -99,16 +102,19 @@ void PaintHighBytes(QsciScintillaBase& view) {
     const long caret = view.SendScintilla(Base::SCI_GETCURRENTPOS);
     const int caretWidth = static_cast<int>(view.SendScintilla(Base::SCI_GETCARETWIDTH));
     for (const long position : positions) {
-        const auto byte = static_cast<unsigned char>(view.SendScintilla(Base::SCI_GETCHARAT, static_cast<unsigned long>(position)));
+        const auto byte = static_cast<unsigned char>(
+            view.SendScintilla(Base::SCI_GETCHARAT, static_cast<unsigned long>(position)));
         const QChar character(CharacterOf(byte));
         if (character.unicode() == byte) continue; // it has none
-        const long style = view.SendScintilla(Base::SCI_GETSTYLEAT, static_cast<unsigned long>(position)) & 0xFF;
+        const long style =
+            view.SendScintilla(Base::SCI_GETSTYLEAT, static_cast<unsigned long>(position)) & 0xFF;
         const QFont font = FontOf(view, style);
         const double advance = QFontMetricsF(font).horizontalAdvance(character);
         const QPoint at = place(position), next = place(position + 1);
         const int width = next.y() == at.y() ? next.x() - at.x() : static_cast<int>(std::lround(advance));
         if (width <= 0 || !view.viewport()->rect().intersects(QRect(at, QSize(width, height)))) continue;
-        const QColor back = Painted(painter, at + QPoint(width - 1, 0), Colour(view, Base::SCI_STYLEGETBACK, style));
+        const QColor back =
+            Painted(painter, at + QPoint(width - 1, 0), Colour(view, Base::SCI_STYLEGETBACK, style));
         const int kept = position == caret ? caretWidth : 0;
         // The box may reach into the next cell, which a blank leaves empty.
         const auto behind = view.SendScintilla(Base::SCI_GETCHARAT, static_cast<unsigned long>(position + 1));

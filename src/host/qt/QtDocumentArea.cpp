@@ -33,7 +33,8 @@ QtDocumentArea::QtDocumentArea(QWidget* parent)
 
 QtDocumentArea::~QtDocumentArea() {
     events = nullptr;
-    // While a window goes its group shows another one, which must not be looked for among those that are gone.
+    // While a window goes its group shows another one, which must not be looked for among those that are
+    // gone.
     arranging_ = true;
     const auto windows = std::exchange(windows_, {});
 }

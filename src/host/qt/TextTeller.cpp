@@ -61,7 +61,8 @@ void TextTeller::Change(const SciNotification& notification) {
 
 // The first look at a view tells nothing: nobody has moved yet.
 void TextTeller::Caret() {
-    const std::pair now(view_.SendScintilla(Base::SCI_GETANCHOR), view_.SendScintilla(Base::SCI_GETCURRENTPOS));
+    const std::pair now(view_.SendScintilla(Base::SCI_GETANCHOR),
+                        view_.SendScintilla(Base::SCI_GETCURRENTPOS));
     const auto before = std::exchange(selection_, now);
     if (!before || *before == now) return;
     const int caret = offsets_.OffsetOf(now.second);

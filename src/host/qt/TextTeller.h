@@ -8,8 +8,8 @@
 #include <optional>
 #include <utility>
 
-// Makes the events of one view: text that came and went, the caret, the selection. Nothing is made while no assistive
-// technology is active, nor for what a view is filled with before its owner listens.
+// Makes the events of one view: text that came and went, the caret, the selection. Nothing is made while no
+// assistive technology is active, nor for what a view is filled with before its owner listens.
 class TextTeller {
 public:
     explicit TextTeller(QsciScintillaBase& view);
