@@ -18,165 +18,45 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
+#include <sstream>
 
 namespace {
 
 // Every name that an arrangement may use, in routing order.
-const std::vector<std::string> Names{"New Line",
-                                     "Undo",
-                                     "Redo",
-                                     "Cut",
-                                     "Copy",
-                                     "Paste",
-                                     "Delete",
-                                     "Select All",
-                                     "Indent Selection",
-                                     "UnIndent Selection",
-                                     "Word Left",
-                                     "Word Left Extend",
-                                     "Word Right",
-                                     "Word Right Extend",
-                                     "Document Start",
-                                     "Document Start Extend",
-                                     "Document End",
-                                     "Document End Extend",
-                                     "Delete Word Left",
-                                     "Delete Line Left",
-                                     "Delete Word Right",
-                                     "Delete Line Right",
-                                     "Cut Current Line",
-                                     "Delete Current Line",
-                                     "Copy Current Line",
-                                     "Move Current Line Up",
-                                     "Move Current Line Down",
-                                     "Comment Selection",
-                                     "UnComment Selection",
-                                     "Block From Selection",
-                                     "Goto Line",
-                                     "Goto Function",
-                                     "Goto Declaration",
-                                     "Goto Previous Position",
-                                     "Goto Next Position",
-                                     "Toggle Fold",
-                                     "KeywordHelp",
-                                     "Toggle Bookmark",
-                                     "Previous Bookmark",
-                                     "Next Bookmark",
-                                     "Clear All Bookmarks",
-                                     "Show Autocomplete",
-                                     "Show Calltip",
-                                     "Cycle Private",
-                                     "Copy Private",
-                                     "Paste Private",
-                                     "Find",
-                                     "Find Next",
-                                     "Find Previous",
-                                     "Replace",
-                                     "Next Function",
-                                     "Previous Function",
-                                     "Auto Indent Selection",
-                                     "Auto Indent Function",
-                                     "Complete Scope",
-                                     "Convert To Upper Case",
-                                     "Convert To Lower Case",
-                                     "Fold Everything",
-                                     "UnFold Everything",
-                                     "Fold Blocks",
-                                     "UnFold Blocks",
-                                     "Fold Functions",
-                                     "UnFold Functions",
-                                     "Fold Types",
-                                     "UnFold Types",
-                                     "Insert Color",
-                                     "Insert Filename",
-                                     "Insert FilePath",
-                                     "New File",
-                                     "New Project",
-                                     "Open File",
-                                     "Save File",
-                                     "Save All Files",
-                                     "Save File As",
-                                     "Close File",
-                                     "Close All Files",
-                                     "Load Last Workspace",
-                                     "Open Workspace",
-                                     "Save Workspace As",
-                                     "Next File Tab",
-                                     "Previous File Tab",
-                                     "Exit",
-                                     "Save This Project",
-                                     "Close Project",
-                                     "Close This Project",
-                                     "Add Existing Files",
-                                     "Remove File",
-                                     "Add New File",
-                                     "Create Category",
-                                     "Remove Category",
-                                     "Rename",
-                                     "Set As Main File",
-                                     "Add Folder With Files",
-                                     "FileRecentFiles",
-                                     "FileRecentProjects",
-                                     "FileRecentWorkspaces",
-                                     "WindowList",
-                                     "New Horizontal Tab Group",
-                                     "New Vertical Tab Group",
-                                     "File Explorer",
-                                     "Output Window",
-                                     "Projects Manager",
-                                     "Snippets Manager",
-                                     "Code Explorer",
-                                     "Functions",
-                                     "Types",
-                                     "Arrays",
-                                     "Globals",
-                                     "Constants",
-                                     "Labels",
-                                     "StatusBar",
-                                     "SwitchToLayout1",
-                                     "SwitchToLayout2",
-                                     "SwitchToLayout3",
-                                     "SaveAsLayout1",
-                                     "SaveAsLayout2",
-                                     "SaveAsLayout3",
-                                     "ResetLayout",
-                                     "About",
-                                     "cboCompilers",
-                                     "cboCommandLine",
-                                     "Compile and Run",
-                                     "Compile and Run Last",
-                                     "Run Last Created EXE",
-                                     "Check For Errors",
-                                     "DebugCompile",
-                                     "CreateExecutable",
-                                     "ProgramCommandLine",
-                                     "Toggle BreakPoint",
-                                     "Strict Mode",
-                                     "HotCode For Selection",
-                                     "Edit HotCodes",
-                                     "Apply HotCode",
-                                     "Editor Settings",
-                                     "Preferences",
-                                     "Color Styles",
-                                     "UI Styles",
-                                     "Export To HTML",
-                                     "Print",
-                                     "Print Preview",
-                                     "External Tools",
-                                     "MRUExternalTools",
-                                     "Edit Userlibs",
-                                     "Insert Snippet",
-                                     "Edit Snippet",
-                                     "Delete Snippet",
-                                     "Add Category",
-                                     "New Snippet",
-                                     "Refresh Snippets",
-                                     "Edit As File",
-                                     "Stop Program",
-                                     "Customize",
-                                     "Move To Next Tab Group",
-                                     "Move To Previous Tab Group",
-                                     "Close Tab"};
+const std::vector<std::string> Names = [] {
+    std::vector<std::string> names;
+    std::istringstream list(
+        "New Line,Undo,Redo,Cut,Copy,Paste,Delete,Select All,Indent Selection,"
+        "UnIndent Selection,Word Left,Word Left Extend,Word Right,Word Right Extend,"
+        "Document Start,Document Start Extend,Document End,Document End Extend,Delete Word Left,"
+        "Delete Line Left,Delete Word Right,Delete Line Right,Cut Current Line,Delete Current Line,"
+        "Copy Current Line,Move Current Line Up,Move Current Line Down,Comment Selection,"
+        "UnComment Selection,Block From Selection,Goto Line,Goto Function,Goto Declaration,"
+        "Goto Previous Position,Goto Next Position,Toggle Fold,KeywordHelp,Toggle Bookmark,"
+        "Previous Bookmark,Next Bookmark,Clear All Bookmarks,Show Autocomplete,Show Calltip,"
+        "Cycle Private,Copy Private,Paste Private,Find,Find Next,Find Previous,Replace,"
+        "Next Function,Previous Function,Auto Indent Selection,Auto Indent Function,Complete Scope,"
+        "Convert To Upper Case,Convert To Lower Case,Fold Everything,UnFold Everything,Fold Blocks,"
+        "UnFold Blocks,Fold Functions,UnFold Functions,Fold Types,UnFold Types,Insert Color,"
+        "Insert Filename,Insert FilePath,New File,New Project,Open File,Save File,Save All Files,"
+        "Save File As,Close File,Close All Files,Load Last Workspace,Open Workspace,"
+        "Save Workspace As,Next File Tab,Previous File Tab,Exit,Save This Project,Close Project,"
+        "Close This Project,Add Existing Files,Remove File,Add New File,Create Category,"
+        "Remove Category,Rename,Set As Main File,Add Folder With Files,FileRecentFiles,"
+        "FileRecentProjects,FileRecentWorkspaces,WindowList,New Horizontal Tab Group,"
+        "New Vertical Tab Group,File Explorer,Output Window,Projects Manager,Snippets Manager,"
+        "Code Explorer,Functions,Types,Arrays,Globals,Constants,Labels,StatusBar,"
+        "SwitchToLayout1,SwitchToLayout2,SwitchToLayout3,SaveAsLayout1,SaveAsLayout2,"
+        "SaveAsLayout3,ResetLayout,About,cboCompilers,cboCommandLine,Compile and Run,"
+        "Compile and Run Last,Run Last Created EXE,Check For Errors,DebugCompile,CreateExecutable,"
+        "ProgramCommandLine,Toggle BreakPoint,Strict Mode,HotCode For Selection,Edit HotCodes,"
+        "Apply HotCode,Editor Settings,Preferences,Color Styles,UI Styles,Export To HTML,Print,"
+        "Print Preview,External Tools,MRUExternalTools,Edit Userlibs,Insert Snippet,Edit Snippet,"
+        "Delete Snippet,Add Category,New Snippet,Refresh Snippets,Edit As File,Stop Program,"
+        "Customize,Move To Next Tab Group,Move To Previous Tab Group,Close Tab");
+    for (std::string name; std::getline(list, name, ',');) names.push_back(name);
+    return names;
+}();
 
 Layout DefaultLayout() {
     return ParseLayout(QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/data/Layout.mp"));
