@@ -1,26 +1,10 @@
 // The main window as the program sets it up, with real documents in a real frame.
-#include "ForgetFrame.h"
 #include "WindowTest.h"
 #include "app/wire_up.h"
-#include "documents/CompilerRegistry.h"
-#include "documents/DocumentCalls.h"
-#include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
-#include "documents/Mod_Main.h"
-#include "documents/Options.h"
-#include "editor/frmDoc.h"
-#include "engine/ClsCompiler.h"
-#include "engine/ClsProject.h"
-#include "engine/Mod_Lexer.h"
-#include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
-#include "host/Host.h"
-#include "host/qt/QtDockStudio.h"
 #include "sci/Mod_Sci.h"
-#include "support/FakeHost.h"
-#include "workbench/FactoryLayout.h"
 #include "workbench/Mod_MenuCommands.h"
-#include "workbench/frmMain.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -29,8 +13,6 @@
 #include <QTest>
 #include <algorithm>
 #include <ctime>
-#include <filesystem>
-#include <gtest/gtest.h>
 #include <map>
 
 namespace {
