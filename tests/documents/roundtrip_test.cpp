@@ -75,14 +75,13 @@ struct EncodingTest : testing::Test {
 };
 
 TEST_F(EncodingTest, Utf8IsShownAsSuchAndEverythingElseAsSingleBytes) {
-    session.Open("u.bb", "Print \"\xC3\xA9\"\r\n");
-    EXPECT_EQ(CodePage(), SC_CP_UTF8);
-    session.Open("w.bb", "Print \"\xE9\"\r\n");
-    EXPECT_EQ(CodePage(), 0);
-    session.Open("a.bb", "Print \"e\"\r\n");
-    EXPECT_EQ(CodePage(), 0);
-    session.Open("cut.bb", "Print \"\xC3\xA9\" ; \xC3"); // a sequence that ends too early
-    EXPECT_EQ(CodePage(), 0);
+    const std::pair<const char*, int> pages[] = {
+        {"\xC3\xA9", SC_CP_UTF8}, {"\xE9", 0}, {"e", 0}, {"\xC3\xA9 \xC3", 0}}; // one ends too early
+    for (const auto& [text, page] : pages) {
+        session.Open("u.bb", std::string("; ") + text);
+        EXPECT_EQ(CodePage(), page) << text;
+        session.Close(session.host.Path("u.bb"));
+    }
 }
 
 // What is typed, composed or pasted is never turned into question marks unsaid.
@@ -131,19 +130,6 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
     EXPECT_EQ(Mod_Sci::GetText(), ";\xE9\x80?");
     EXPECT_NE(told.find("\u0416"), std::string::npos) << told;
     gEditorCalls = {};
-}
-
-TEST_F(EncodingTest, ANewLineIsOfTheFilesOwnKind) {
-    for (const char* ends : {"\n", "\r\n"}) {
-        const std::string source = std::string("a=1") + ends + "b=2" + ends;
-        frmDoc& document = session.Open("a.bb", source);
-        EXPECT_EQ(document.LfEnds, std::string(ends) == "\n");
-        Mod_Sci::GotoPos(0);
-        Mod_Sci::NewLine();
-        EXPECT_EQ(LCase(Mod_Sci::GetText()), ends + source);
-        session.host.dialogs.WillAnswer(MessageAnswer::No);
-        session.Close(document.FullFilename);
-    }
 }
 
 // A block ends its lines as the file does; one that another program has turned, or that stands behind LF with

@@ -107,19 +107,32 @@ Told Edit(bool byLibrary) {
     return {recorder.rows, recorder.texts};
 }
 
-TEST(ViewChanges, AreToldInTheLibrarysOrder) {
+TEST(ViewChanges, AreToldInTheLibrarysOrderAndInsertionsWithTheirTextBeforehand) {
     const Told with = Edit(true);
     const Told without = Edit(false);
     EXPECT_GT(with.rows.size(), 40U);
     EXPECT_EQ(with.rows, without.rows);
     EXPECT_EQ(with.texts, without.texts);
+    const std::vector<std::string> expected{"one\r\ntwo\r\nthree", "x", " ", "+", "y", "a\nb", "O\r\nE"};
+    ASSERT_GE(with.texts.size(), expected.size());
+    EXPECT_EQ(std::vector(with.texts.begin(), with.texts.begin() + 7), expected);
 }
 
-TEST(ViewChanges, AnInsertionTellsItsTextBeforehand) {
-    const Told told = Edit(false);
-    const std::vector<std::string> expected{"one\r\ntwo\r\nthree", "x", " ", "+", "y", "a\nb", "O\r\nE"};
-    ASSERT_GE(told.texts.size(), expected.size());
-    EXPECT_EQ(std::vector(told.texts.begin(), told.texts.begin() + 7), expected);
+TEST(ViewPainting, HighBytesLookAsTheirCharactersDo) {
+    QImage seen[2];
+    for (const bool wide : {false, true}) {
+        QtEditorView view;
+        auto* widget = static_cast<EditorWidget*>(view.NativeWidget());
+        view.SetUtf8(wide);
+        widget->SendScintilla(EditorWidget::SCI_STYLESETFONT, EditorWidget::STYLE_DEFAULT, "Monospace");
+        widget->SendScintilla(EditorWidget::SCI_STYLECLEARALL);
+        Recorder(view).Text(SCI_REPLACESEL, 0, wide ? "a\u20AC b" : "a\x80 b");
+        widget->resize(200, 60);
+        // Up to the blank: what comes behind may stand on a fraction of a pixel.
+        const auto blank = widget->SendScintilla(EditorWidget::SCI_POINTXFROMPOSITION, 0UL, wide ? 4L : 2L);
+        seen[wide] = widget->viewport()->grab(QRect(0, 0, static_cast<int>(blank), 60)).toImage();
+    }
+    EXPECT_EQ(seen[0], seen[1]);
 }
 
 std::vector<std::string> heard;

@@ -43,10 +43,10 @@ QFont FontOf(Base& view, long style) {
 
 // The lines of the screen stand on one base line for all styles.
 int Ascent(Base& view) {
-    int ascent = QFontMetrics(FontOf(view, Base::STYLE_DEFAULT)).ascent();
+    double ascent = QFontMetricsF(FontOf(view, Base::STYLE_DEFAULT)).ascent();
     for (int style = 0; style <= LastTextStyle; ++style)
-        ascent = std::max(ascent, QFontMetrics(FontOf(view, style)).ascent());
-    return ascent;
+        ascent = std::max(ascent, QFontMetricsF(FontOf(view, style)).ascent());
+    return static_cast<int>(ascent); // rounded as the control does it
 }
 
 // The colour at a place of what is being painted; `otherwise` where that is no picture in memory.
@@ -122,7 +122,8 @@ void PaintHighBytes(QsciScintillaBase& view) {
         painter.fillRect(QRect(at + QPoint(kept, 0), QSize(width - kept + over, height)), back);
         painter.save();
         painter.translate(at);
-        if (advance > width) painter.scale(width / advance, 1); // a cell may be too narrow for it
+        // A cell may be too narrow for it; one that lost a fraction to the pixels is not.
+        if (advance > width + 1) painter.scale(width / advance, 1);
         painter.setFont(font);
         painter.setPen(Colour(view, Base::SCI_STYLEGETFORE, style));
         painter.drawText(0, ascent, QString(character));
