@@ -123,7 +123,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     MakeActive(document.get());
     document->Initialise(GetFileName(path));
     gHost.desktop->Pump();
-    MakeActive(document.get()); // the pump may have opened another document
+    MakeActive(document.get()); // a focus that moved in the pump may have made another one active
     {
         const WaitCursor wait;
         project->Compiler = CheckFileCompilerUsed();
