@@ -67,7 +67,7 @@ void LikeAbove() {
     const auto indent = Mod_Sci::GetLineIndentation(line - 1);
     if (indent <= 0) return;
     const ColoringScope own;
-    Mod_Sci::SetLineIndentation(line, indent);
+    Mod_Parse::SetIndentation(static_cast<int>(line), static_cast<int>(indent));
     Mod_Sci::GotoPos(Mod_Sci::GetLineIndentPosition(line));
 }
 

@@ -57,8 +57,8 @@ public:
         const auto at = std::upper_bound(names_.begin(), names_.end(), &name,
                                          [](const auto* a, const auto* b) { return Less(*a, *b); });
         if (once && at != names_.begin() && !Less(**(at - 1), name)) return;
-        if (names_.size() == most_) throw Failure(FailureOutOfRange, "Subscript out of range");
         names_.insert(at, &name);
+        if (names_.size() > most_) names_.pop_back(); // the first ones are shown
     }
 
     std::size_t Count() const { return names_.size(); }

@@ -41,8 +41,6 @@ private:
     ColoringScope own_;
 };
 
-void SetIndentation(int line, int columns) { Mod_Sci::SetLineIndentation(line, std::max(0, columns)); }
-
 void Shift(int columns) {
     const LineSpan lines = SelectedLines();
     {
@@ -68,7 +66,7 @@ public:
         const int length = Mod_Lexer::FillLineBuffer(text);
         count_ = Mod_Lexer::Tokenize(text, length, true);
         if (count_ == 0) return;
-        scopes_.keeps = Kind(1) == TOK_COMMENT || (Kind(1) == '.' && Kind(2) == TOK_IDENT);
+        scopes_.keeps = Kind(1) == TOK_COMMENT || Kind(1) == TOK_BLOCK_START || Kind(1) == TOK_BLOCK_END || (Kind(1) == '.' && Kind(2) == TOK_IDENT);
         for (index_ = 1; index_ <= count_; ++index_) Count();
     }
     const Scopes& Result() const { return scopes_; }

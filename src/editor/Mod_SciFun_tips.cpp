@@ -137,8 +137,7 @@ int OpenerAbove(int line) {
     for (int at = line - 1; at >= 0; --at) {
         const auto here = Mod_Sci::GetLineIndentation(at);
         if (here > indent) continue;
-        // The first character by the number of tabs.
-        const auto first = Mod_Sci::PositionFromLine(at) + here / std::max(1, OptionsEdit::TabValue);
+        const auto first = Mod_Sci::GetLineIndentPosition(at);
         if (Mod_Sci::GetCharAt(first) == ';') continue;
         if (here < indent) return -1;
         if (!EqualNoCase(Mod_Sci::GetTextRange(first, first + 4), "Else")) return at;

@@ -51,10 +51,14 @@ private:
     void JoinLines();
     void LeaveCurrentLook();
     void ShowLine(int line);
+    void BeforeParting(const SciNotification& notification, int start, int end);
+    void AfterParting(const SciNotification& notification);
+    void OpenFolds(int first, int last);
 
     frmDoc& mFrmDoc;
     bool background_ = false; // another document is the active one; what the window tells is about that one
     bool parsing_ = false;    // the scope that the colourers write belongs to the parser
+    int partedFrom_ = -1;     // the first line of a change that takes a CR LF apart or puts one together
     // All lines that wait lie between these two.
     int queuedFrom_ = 0;
     int queuedTo_ = -1;

@@ -54,6 +54,26 @@ bool IsLineEnd(const SciNotification& notification, int line) {
            notification.position + notification.length == Mod_Sci::PositionFromLine(line + 1);
 }
 
+// Whether a change is about to take a CR LF apart or to put one together: the lines on both sides change with
+// it, and the view moves their markers in a way of its own.
+bool PartsLineEnd(const SciNotification& notification) {
+    const auto at = [](std::intptr_t position) { return Mod_Sci::GetCharAt(position); };
+    const auto position = notification.position;
+    const auto end = position + notification.length;
+    const bool behindCr = at(position - 1) == '\r';
+    if (notification.modificationType & SC_MOD_BEFOREDELETE)
+        return (behindCr && (at(position) == '\n' || at(end) == '\n')) ||
+               (at(end - 1) == '\r' && at(end) == '\n');
+    // An undo does not tell what it brings back.
+    if (notification.text == nullptr)
+        return behindCr || (at(position) == '\n' &&
+                            (notification.modificationType & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)));
+    if (notification.length == 0) return false;
+    const char first = notification.text[0];
+    const char last = notification.text[notification.length - 1];
+    return (behindCr && (at(position) == '\n' || first == '\n')) || (last == '\r' && at(position) == '\n');
+}
+
 // Raises a flag for as long as it lives.
 class Raised {
 public:
@@ -142,12 +162,53 @@ void cSubclass::Modified(const SciNotification& notification) {
         mFrmDoc.SetDirty(true);
         const int start = LineOf(notification.position);
         const int end = LineOf(notification.position + notification.length);
-        if (type & SC_MOD_BEFOREDELETE)
+        if (PartsLineEnd(notification))
+            BeforeParting(notification, start, (type & SC_MOD_BEFOREDELETE) ? end : start);
+        else if (type & SC_MOD_BEFOREDELETE)
             BeforeDelete(notification, start, end);
         else
             BeforeInsert(notification, start, end);
+    } else if (partedFrom_ >= 0) {
+        AfterParting(notification);
     } else if (type & SC_MOD_INSERTTEXT) {
         AfterInsert(notification);
+    }
+}
+
+// A folded header that goes would leave its lines hidden with nothing to show them by.
+void cSubclass::OpenFolds(int first, int last) {
+    for (int line = first; line <= last; ++line)
+        if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
+}
+
+// The lines of the change and their neighbours lose all that the parser knows of them, so that no marker can
+// get to a wrong line; what is there afterwards waits.
+void cSubclass::BeforeParting(const SciNotification& notification, int start, int end) {
+    if (!State().mLastOperationUndoRedo) OpenUndoGroup();
+    if (notification.modificationType & SC_PERFORMED_USER) gUserEdited = true;
+    const int first = std::max(0, start - 1);
+    const int last = std::min(end + 1, static_cast<int>(Mod_Sci::GetLineCount()) - 1);
+    const int edited = State().UnparsedLine;
+    if (edited >= 0) TakeBackEditedLine(edited < first || edited > last);
+    OpenFolds(first, last);
+    for (int line = first; line <= last; ++line) {
+        if (HasMarker(line, MarkerParsed)) UnparseLine(line, false);
+        DeleteEvery(line, MarkerQueued);
+    }
+    State().mForceColor = true;
+    partedFrom_ = first;
+    ShowLine(start);
+}
+
+void cSubclass::AfterParting(const SciNotification& notification) {
+    ForgetLines(mFrmDoc.SciEdi_WndData);
+    const bool inserted = (notification.modificationType & SC_MOD_INSERTTEXT) != 0;
+    const auto end = notification.position + (inserted ? notification.length : 0);
+    const int last = std::min(LineOf(end) + 1, static_cast<int>(Mod_Sci::GetLineCount()) - 1);
+    queuedTo_ += std::max(0, static_cast<int>(notification.linesAdded));
+    for (int line = std::exchange(partedFrom_, -1); line <= last; ++line) {
+        ShowLine(line);
+        if (!HasMarker(line, MarkerParsed) && !HasMarker(line, MarkerQueued)) Queue(line);
     }
 }
 
@@ -170,17 +231,14 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
             Snapshot(start);
         }
     }
-    // A folded header that goes would leave its lines hidden with nothing to show them by.
-    if (end > start)
-        for (int line = start; line <= end; ++line)
-            if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
+    if (end > start) OpenFolds(start, end);
     // What waits below the lines that go moves up.
     queuedFrom_ = std::min(queuedFrom_, start);
     for (int line = start + 1; line <= end; ++line) {
         if (HasMarker(line, MarkerParsed))
             UnparseLine(line, false);
         else if (HasMarker(line, MarkerQueued))
-            Mod_Sci::MarkerDelete(line, MarkerQueued);
+            DeleteEvery(line, MarkerQueued);
     }
     if (notification.modificationType & SC_PERFORMED_USER) {
         gUserEdited = true;
@@ -222,13 +280,12 @@ void cSubclass::BeforeInsert(const SciNotification& notification, int start, int
 
 void cSubclass::AfterInsert(const SciNotification& notification) {
     const int line = LineOf(notification.position);
+    ShowLine(line);
     if (notification.linesAdded > 0) {
         queuedTo_ += static_cast<int>(notification.linesAdded);
         if (notification.linesAdded > LongChange) BeginLongChange();
         // Opens a fold into which a paste went.
         ShowLine(LineOf(notification.position - 1) + static_cast<int>(notification.linesAdded) + 1);
-    } else {
-        ShowLine(line);
     }
     const int last = LineOf(notification.position + notification.length);
     if (last == line) return;
@@ -250,6 +307,8 @@ void cSubclass::JoinLines() {
     const auto start = Mod_Sci::GetCurrentPos();
     auto end = start;
     while (IsBlank[static_cast<std::uint8_t>(Mod_Sci::GetCharAt(end))]) ++end;
+    // Without what parts them a lone CR and the LF behind would be one line end.
+    if (Mod_Sci::GetCharAt(start - 1) == '\r' && Mod_Sci::GetCharAt(end) == '\n') return;
     const ColoringScope own;
     Mod_Sci::ReplaceRange(start, end, "");
 }
@@ -288,7 +347,7 @@ void cSubclass::ParseQueue() {
         if (follows && (i + 1 == lines.size() || lines[i + 1] != line + 1)) FoldLevel = 0;
         Parseline(line, follows);
         expect = line;
-        Mod_Sci::MarkerDelete(line, MarkerQueued);
+        DeleteEvery(line, MarkerQueued);
     }
 }
 
@@ -358,6 +417,6 @@ void cSubclass::ParseWaiting() {
             continue;
         }
         Parseline(line, false);
-        Mod_Sci::MarkerDelete(line, MarkerQueued);
+        DeleteEvery(line, MarkerQueued);
     }
 }

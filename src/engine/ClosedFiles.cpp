@@ -35,7 +35,7 @@ void DropClosedSymbols(ClsProject& project) {
     ForEachTable(project, [&](clsHash& table) {
         for (const SymbolPointer& symbol : table.Items())
             if (symbol->SciWndData == 0 && symbol->Handle != 0 && symbol->File == gActiveDoc->Filename)
-                table.RemoveRecord(symbol->Ime, *symbol);
+                table.RemoveRecord(symbol->Key(), *symbol);
     });
 }
 

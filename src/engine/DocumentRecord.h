@@ -24,6 +24,7 @@ struct PipelineState {
     bool mSpaceTyped = false;
     bool mForceColor = false;
     bool mColoredAsCurrent = false; // a parsed line has the look of the line under the caret
+    bool mRefusalTold = false;      // a line that is too long for the scanner has been reported
     bool UndoGroup = false;         // an undo action is open in the view
 };
 

@@ -4,10 +4,11 @@
 #include "engine/ClsCompiler.h"
 #include "engine/Mod_Lexer.h"
 #include "engine/Mod_Parse_walk.h"
-#include "engine/Symbols.h"
+#include "engine/clsHash.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Mod_Parse {
 
@@ -43,7 +44,9 @@ private:
     void Declarations(Word word);
     void OpenDeclarations(Word word);
     void Place(Word word, std::shared_ptr<Symbol> record);
-    void Fill(Symbol& record, const std::string& name, int handle) const;
+    void KnowType();
+    void MoveBelow();
+    void Fill(Symbol& record, int name, int handle, int scopesBefore = 0) const;
     void FillTail(Symbol& record, const NameTail& tail, bool isVariable) const;
 
     int line_;
@@ -51,14 +54,20 @@ private:
     bool indents_ = true;
     int handle_ = 0;
     int lineStart_ = 0;
+    int length_ = 0;
     static std::string text_; // parses do not nest
     int index_ = 1;
     int count_ = 0;
     int opens_ = 0;     // levels that the line opens for the next
     int closes_ = 0;    // levels that it closes before itself
     int foldDelta_ = 0; // fold blocks opened less those closed
-    bool functionLine_ = false;
-    bool startsOutside_ = false; // of every function
+    int functionWords_ = 0; // that begin or end a function so far
+    int typeWords_ = 0;
+    std::vector<std::string> opened_; // the words whose scopes are open behind the line, where asked for
+    bool typeKnown_ = false;
+    std::shared_ptr<clsHash> localsBefore_; // those in front of the line
+    std::shared_ptr<clsHash> fieldsBefore_; // null outside every type
+    bool startsOutside_ = false;            // of every function
     bool startsWithComment_ = false;
 };
 

@@ -3,10 +3,13 @@
 
 #include "engine/DocumentRecord.h"
 #include "engine/EngineCalls.h"
+#include "engine/KnownLine.h"
 #include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "sci/Mod_Sci.h"
+
+#include <algorithm>
 
 namespace Mod_Folding {
 
@@ -25,20 +28,42 @@ int Lowered(int level) {
 
 int LevelOf(int line) { return static_cast<int>(Mod_Sci::GetFoldLevel(line)) & SC_FOLDLEVELNUMBERMASK; }
 
+// How many folds a parsed line opens less those that it closes; only its sign is right. Where it does both
+// the markers do not tell.
+int DeltaOf(int line) {
+    const auto markers = Mod_Sci::MarkerGet(line);
+    const bool opens = (markers & MaskOf(MarkerFoldOpens)) != 0;
+    const bool closes = (markers & MaskOf(MarkerFoldCloses)) != 0;
+    if (!opens || !closes) return opens ? 1 : closes ? -1 : 0;
+    LineEvents events;
+    ReadKnownEvents(line, events);
+    return FoldDelta(events);
+}
+
 int DeriveLevel(int line) {
-    int level = LevelOf(line - 1);
-    const auto markers = Mod_Sci::MarkerGet(line - 1);
-    // Behind the end of a function nothing is open, on whatever line it began.
-    if ((markers & MaskOf(MarkerFunction)) && (markers & MaskOf(MarkerFoldCloses))) return TopLevel;
-    if (markers & MaskOf(MarkerFoldOpens)) ++level;
-    if (markers & MaskOf(MarkerFoldCloses)) level = Lowered(level);
-    return level;
+    if (line == 0) return TopLevel;
+    const int delta = DeltaOf(line - 1);
+    // A function is a fold of the top, whatever was open, and so is what follows its end.
+    if (HasMarker(line - 1, MarkerFunction)) return delta > 0 ? FunctionLevel : TopLevel;
+    const int level = LevelOf(line - 1);
+    return delta > 0 ? level + 1 : delta < 0 ? Lowered(level) : level;
+}
+
+// Whether the last word on a line that begins or ends a function ends one.
+bool EndsFunction(int line) {
+    LineEvents events;
+    ReadKnownEvents(line, events);
+    const auto last = std::find_if(events.rbegin(), events.rend(),
+                                   [](const LineEvent& event) { return event.OfFunctions(); });
+    return last != events.rend() && last->kind == LineEvent::EndFunction;
 }
 
 // A closed fold whose level changes opens: the lines that it hides may belong to another one afterwards.
 void SetLevel(int line, int level) {
-    if (LevelOf(line) != (level & SC_FOLDLEVELNUMBERMASK) && !Mod_Sci::GetFoldExpanded(line))
-        Mod_Sci::EnsureVisible(line + 1);
+    if (LevelOf(line) != (level & SC_FOLDLEVELNUMBERMASK)) {
+        if (!Mod_Sci::GetLineVisible(line)) Mod_Sci::EnsureVisible(line);
+        if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::EnsureVisible(line + 1);
+    }
     Mod_Sci::SetFoldLevel(line, level);
 }
 
@@ -71,16 +96,13 @@ void CheckFold(int line, int level) {
     const bool bounded = end >= 0;
     if (!bounded) end = static_cast<int>(Mod_Sci::GetLineCount());
     for (int at = line + 1; at < end; ++at) {
-        const auto markers = Mod_Sci::MarkerGet(at);
-        const bool opens = (markers & MaskOf(MarkerFoldOpens)) != 0;
-        const bool closes = (markers & MaskOf(MarkerFoldCloses)) != 0;
-        // A line that opens and closes is no fold, as in a parse.
-        SetLevel(at, opens && !closes ? level | SC_FOLDLEVELHEADERFLAG : level);
-        if (opens && !closes) ++level;
-        if (closes && !opens) level = Lowered(level);
+        const int delta = DeltaOf(at);
+        SetLevel(at, delta > 0 ? level | SC_FOLDLEVELHEADERFLAG : level);
+        if (delta > 0) ++level;
+        if (delta < 0) level = Lowered(level);
         MarkMainProgram(at);
     }
-    if (bounded && HasMarker(end, MarkerFoldCloses)) MarkMainProgram(end);
+    if (bounded && HasMarker(end, MarkerFoldCloses) && EndsFunction(end)) MarkMainProgram(end);
 }
 
 void ToggleFold(int line) {

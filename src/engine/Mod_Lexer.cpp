@@ -34,33 +34,39 @@ void MarkRange(CharacterClass& table, char first, char last) {
     for (int c = first; c <= last; ++c) table[static_cast<std::size_t>(c)] = -1;
 }
 
+bool refused = false;
+
 [[noreturn]] void OutOfRange() { throw Failure(FailureOutOfRange, "Subscript out of range"); }
 
-// One pass over LineBuffer.
+using TokenArray = std::array<Token, MostTokens + 2>;
+using Buffer = std::array<std::uint8_t, LineBufferSize>;
+
+// One pass over a buffer.
 class FullScan {
 public:
-    FullScan(std::string_view line, int length) : line_(line), limit_(length + 1) {
+    FullScan(std::string_view line, int length, Buffer& buffer, TokenArray& tokens)
+        : line_(line), limit_(length + 1), buffer_(buffer), tokens_(tokens) {
         if (length < -1 || length > LongestLine) OutOfRange();
-        LineBuffer[static_cast<std::size_t>(limit_)] = CarriageReturn;
+        buffer_[static_cast<std::size_t>(limit_)] = CarriageReturn;
     }
 
     int Run() {
         while (column_ < limit_) {
             if (++count_ > MostTokens) OutOfRange();
             while (IsBlank[At(column_)]) ++column_;
-            token_ = &Tokens[static_cast<std::size_t>(count_)];
+            token_ = &tokens_[static_cast<std::size_t>(count_)];
             token_->StartPos = column_;
             if (!One(At(column_))) {
                 token_->Kind = TOK_NONE;
                 return --count_;
             }
         }
-        Tokens[static_cast<std::size_t>(count_) + 1].Kind = TOK_NONE;
+        tokens_[static_cast<std::size_t>(count_) + 1].Kind = TOK_NONE;
         return count_;
     }
 
 private:
-    static std::uint8_t At(int column) { return LineBuffer[static_cast<std::size_t>(column)]; }
+    std::uint8_t At(int column) const { return buffer_[static_cast<std::size_t>(column)]; }
 
     void RunOver(const CharacterClass& table) {
         while (table[At(column_)]) ++column_;
@@ -170,6 +176,8 @@ private:
 
     std::string_view line_;
     int limit_;
+    Buffer& buffer_;
+    TokenArray& tokens_;
     int column_ = 1;
     int count_ = 0;
     Token* token_ = nullptr;
@@ -266,20 +274,34 @@ void BuildCharacterTables() {
 }
 
 int Tokenize(std::string_view line, int length, bool quiet) {
+    refused = false;
     try {
-        return FullScan(line, length).Run();
+        return FullScan(line, length, LineBuffer, Tokens).Run();
     } catch (...) {
+        refused = true;
         if (!quiet) SetErrorLog("Tokenize", "Mod_Lexer");
         Tokens[1].Kind = TOK_NONE;
         return 0;
     }
 }
 
-int TokenizeLightPomosna(std::string_view line, int length) {
+int TokenizeBeside(std::string line) {
+    try {
+        const int length = FillLightBuffer(line);
+        return FullScan(line, length, LightBuffer, LightTokens).Run();
+    } catch (...) {
+        LightTokens[1].Kind = TOK_NONE;
+        return 0;
+    }
+}
+
+bool Refused() { return refused; }
+
+int TokenizeLightPomosna(std::string_view line, int length, bool quiet) {
     try {
         return LightScan(line, length).Run();
     } catch (...) {
-        SetErrorLog("TokenizeLightPomosna", "Mod_Lexer");
+        if (!quiet) SetErrorLog("TokenizeLightPomosna", "Mod_Lexer");
         LightTokens[1].Kind = TOK_NONE;
         return 0;
     }

@@ -55,7 +55,11 @@ void BuildCharacterTables();
 // Answer the number of tokens. A line beyond the limits answers 0, after a report unless `quiet`: what the
 // parser has reported, a repaint need not report again.
 int Tokenize(std::string_view line, int length, bool quiet = false);
-int TokenizeLightPomosna(std::string_view line, int length);
+int TokenizeLightPomosna(std::string_view line, int length, bool quiet = false);
+// Whether the last Tokenize refused its line.
+bool Refused();
+// The full scan of a line into LightBuffer and LightTokens, in the middle of a pass over Tokens.
+int TokenizeBeside(std::string line);
 
 // Copies a line to LineBuffer as the scanner wants it: a bare LF at its end becomes a CR in the copy.
 // Answers the length. A line longer than LongestLine is not copied; the scanner refuses it by length.

@@ -54,27 +54,33 @@ int LineParser::Run() {
     lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
     text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
     if (!text_.empty()) Mod_Sci::GetLine(line_, text_.data());
-    const int length = Mod_Lexer::FillLineBuffer(text_);
-    count_ = Mod_Lexer::Tokenize(text_, length);
-    gLineStyles.Begin(lineStart_ + 1, length, true);
+    length_ = Mod_Lexer::FillLineBuffer(text_);
+    // A file may have many lines that are too long; it is told of once.
+    bool& told = gActiveDoc->State.mRefusalTold;
+    count_ = Mod_Lexer::Tokenize(text_, length_, told);
+    told = told || Mod_Lexer::Refused();
+    gLineStyles.Begin(lineStart_ + 1, length_, true);
 
     if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
     // The type is asked for where it matters; what a paint left here must not reach the lines that follow.
     if (!sequential_) CurrentTypeName.clear();
     MarkMainProgram(line_);
     startsOutside_ = CurrentFunctionName == MainProgram;
+    localsBefore_ = CurrentLocals;
     // On loading, nothing indents unless the option says so, and nobody asks for the level.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
 
     while (index_ <= count_) One();
+    MoveBelow();
+    if (!opened_.empty()) LastScopeKeyword = opened_.back();
     // While a file is loaded nobody sees the line yet: the pass that shows it gives it all its styles.
     if (!ParsingFile) {
-        gLineStyles.Begin(lineStart_ + 1, length, true);
+        gLineStyles.Begin(lineStart_ + 1, length_, true);
         StyleLiterals(count_, lineStart_);
         gLineStyles.Flush();
     }
-    Mod_Folding::SetLineLevel(line_, foldDelta_, functionLine_, sequential_);
+    Mod_Folding::SetLineLevel(line_, foldDelta_, functionWords_ > 0, sequential_);
     if (indents_) Indent();
     return handle_;
 }
@@ -85,12 +91,8 @@ Token& LineParser::At(int index) const { return Tokens[static_cast<std::size_t>(
 
 bool LineParser::NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
 
-// The spelling that the line's text has from here on, too: what is cut from it must not depend on whether
-// the line was repaired now or earlier.
 void LineParser::Rewrite(int index, const std::string& spelling) {
-    if (At(index).Text == spelling) return;
-    RewriteToken(spelling, index, lineStart_);
-    text_.replace(static_cast<std::size_t>(At(index).StartPos) - 1, spelling.size(), spelling);
+    if (At(index).Text != spelling) RewriteToken(spelling, index, lineStart_);
 }
 
 // Takes the token at the index, and moves on to the next one that is not taken yet.
@@ -127,7 +129,7 @@ void LineParser::Identifier() {
     Rewrite(index_, keyword->Ime);
     if (keyword->IsStartScope) {
         opens_ += keyword->word == Word::Select ? 2 : 1;
-        if (RememberScopeKeyword) LastScopeKeyword = keyword->Ime;
+        if (RememberScopeKeyword) opened_.push_back(keyword->Ime);
     }
     if (OptionsEdit::AutoIndentType == 2 && keyword->IsEndScope) EndScope(keyword->word);
 
@@ -147,6 +149,7 @@ void LineParser::Identifier() {
 }
 
 void LineParser::General() {
+    if (!opened_.empty()) opened_.pop_back();
     if (opens_ >= 1)
         --opens_;
     else
@@ -184,7 +187,7 @@ void LineParser::Indent() {
         const int target = (IndentLevel - 1) * OptionsEdit::TabValue;
         if (Mod_Sci::GetLineIndentation(line_) != target) {
             const ColoringScope own;
-            Mod_Sci::SetLineIndentation(line_, target);
+            SetIndentation(line_, target);
         }
     }
     const auto caret = Mod_Sci::GetCurrentPos();

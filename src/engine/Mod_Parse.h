@@ -38,6 +38,9 @@ std::string CurrentType(int line);
 std::string CurrentFunctionForDisplay(int line);
 // The indentation level, from 1, of the line below.
 int GetNextIndent(int line);
+// Gives a line an indentation in columns. A blank line behind a lone CR keeps its own: while it has none the
+// two line ends would be one.
+void SetIndentation(int line, int columns);
 
 // --- colouring -------------------------------------------------------------------------------------
 

@@ -80,7 +80,7 @@ private:
         const Token& dot = At(index_);
         const auto position = lineStart_ + dot.StartPos;
         Style(lineStart_, dot, 1, static_cast<int>(Mod_Sci::GetStyleAt(position)));
-        OfferTypesBehind(index_);
+        if (index_ > 1) OfferTypesBehind(index_); // a label's name is a new one
     }
 
     void OfferTypesBehind(int dot) {
@@ -216,6 +216,7 @@ void TendList() {
 void ColorCurrentLine(int line, bool scopeKnown) {
     if (scopeKnown) SetStopErrorLog(StopScopeKnown);
     ColoringCurrentLine = true;
+    LineRespelt = false;
     Guarded("ColorCurrentLine", "Mod_Parse", [&] {
         const ColoringScope own;
         InDeclaration = false;
@@ -234,6 +235,7 @@ void ColorCurrentLine(int line, bool scopeKnown) {
         if (!ACShownNow && OptionsEdit::ACCloseListOnMatch) Mod_Sci::AutoCCancel();
     });
     ColoringCurrentLine = false;
+    if (LineRespelt && HasMarker(line, MarkerParsed)) RespellSymbols(line);
     if (HasMarker(line, MarkerParsed)) gActiveDoc->State.mColoredAsCurrent = true;
 }
 

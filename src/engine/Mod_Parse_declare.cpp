@@ -27,8 +27,10 @@ void LineParser::Dispatch(Word word) {
     }
 }
 
-void LineParser::Fill(Symbol& record, const std::string& name, int handle) const {
-    record.Ime = name;
+void LineParser::Fill(Symbol& record, int name, int handle, int scopesBefore) const {
+    record.Ime = At(name).Text;
+    record.Column = At(name).StartPos;
+    record.ScopesBefore = scopesBefore;
     record.Handle = handle;
     record.File = gActiveDoc->Filename;
     record.SciWndData = gActiveDoc->SciEdi_WndData;
@@ -39,15 +41,15 @@ void LineParser::Label() {
     ++index_;
     gCurrentProject->LabelsDirty = true;
     auto label = std::make_shared<clsLabel>();
-    Fill(*label, At(index_).Text, AddMarker(MarkerDeclares));
-    gCurrentProject->Labels.Add(label->Ime, label);
+    Fill(*label, index_, AddMarker(MarkerDeclares));
+    Enter(gCurrentProject->Labels, label);
 }
 
 void LineParser::Include() {
     gCurrentProject->IncludesDirty = true;
     auto include = std::make_shared<clsInclude>();
-    Fill(*include, At(index_ + 1).Text, AddMarker(MarkerDeclares));
-    gCurrentProject->Includes.Add(include->Ime, include);
+    Fill(*include, index_ + 1, AddMarker(MarkerDeclares));
+    Enter(gCurrentProject->Includes, include);
 }
 
 // --- functions -------------------------------------------------------------------------------------
@@ -58,32 +60,15 @@ void LineParser::Function() {
     ++foldDelta_;
     auto function = std::make_shared<ClsFunkcija>();
     ++index_;
-    functionLine_ = true;
-    Fill(*function, At(index_).Text, AddMarker(MarkerFunction));
+    ++functionWords_;
+    Fill(*function, index_, AddMarker(MarkerFunction));
     const int listStart = BuildFunction(*function);
     if (function->VlezNum > 0) {
-        std::string_view list = text_;
-        list.remove_prefix(static_cast<std::size_t>(listStart) - 1);
-        if (index_ <= count_)
-            list = list.substr(0, static_cast<std::size_t>(At(index_).StartPos - listStart));
-        while (list.ends_with('\r') || list.ends_with('\n')) list.remove_suffix(1);
-        function->Help = std::string(list);
+        function->Help = Cut(listStart, index_ <= count_ ? At(index_).StartPos : length_ + 1);
+        while (function->Help.ends_with('\r') || function->Help.ends_with('\n')) function->Help.pop_back();
     }
     AddMarker(MarkerFoldOpens);
-
-    if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
-    // While a whole file is parsed nothing below is in the tables yet, and nothing has to be looked for. What
-    // stands on this line in front of the word stays outside.
-    if (!ParsingFile) {
-        if (CurrentFunctionName == MainProgram) {
-            const int nextEnd = NextLineWith(line_ + 1, MarkerFunction);
-            if (const int local = NextLineWith(line_ + 1, MarkerLocal); local != NoEnd && local <= nextEnd)
-                MoveLocals(*CurrentLocals, *function->Locals, {line_ + 1, nextEnd});
-        } else {
-            MoveLocals(*CurrentLocals, *function->Locals, {line_ + 1, NoEnd});
-        }
-    }
-    gCurrentProject->Funkcii.Add(function->Ime, function);
+    Enter(gCurrentProject->Funkcii, function);
     CurrentFunctionName = function->Ime;
     CurrentLocals = function->Locals;
     DeleteEvery(line_, MarkerMainProgram);
@@ -100,9 +85,9 @@ int LineParser::BuildFunction(ClsFunkcija& function) {
     while (NextIsName()) {
         ++index_;
         auto parameter = std::make_shared<ClsLocalVar>();
-        Fill(*parameter, At(index_).Text, function.Handle);
+        Fill(*parameter, index_, function.Handle);
         FillTail(*parameter, GetVarTipColor(index_, count_, lineStart_), true);
-        function.Locals->Add(parameter->Ime, parameter);
+        Enter(*function.Locals, parameter);
         ++function.VlezNum;
         if (index_ > count_ || At(index_).Kind != ',') break;
     }
@@ -112,6 +97,8 @@ int LineParser::BuildFunction(ClsFunkcija& function) {
 void LineParser::End() {
     ++index_;
     const std::string word = UCase(At(index_).Text);
+    if (!opened_.empty() && (word == "FUNCTION" || word == "TYPE" || word == "IF" || word == "SELECT"))
+        opened_.pop_back();
     if (word == "FUNCTION") {
         EndFunction();
     } else if (word == "TYPE") {
@@ -132,18 +119,12 @@ void LineParser::EndFunction() {
     IndentLevel = 1;
     --foldDelta_;
     Rewrite(index_, "Function");
-    if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_);
-    if (CurrentFunctionName != MainProgram) {
-        CurrentFunctionName.clear();
-        if (!ParsingFile) {
-            const int nextEnd = NextLineWith(line_ + 1, MarkerFunction);
-            if (const int local = NextLineWith(line_, MarkerLocal); local != NoEnd && local <= nextEnd)
-                MoveLocals(*CurrentLocals, *gCurrentProject->MainFunLocals, {line_ + 1, NoEnd});
-        }
-    }
+    CurrentFunctionName = MainProgram;
+    CurrentLocals = gCurrentProject->MainFunLocals;
     // A function that begins and ends here leaves the line where it was.
-    if (functionLine_ && startsOutside_) AddMarker(MarkerMainProgram);
-    functionLine_ = true;
+    if (functionWords_ > 0 && startsOutside_ && !HasMarker(line_, MarkerMainProgram))
+        AddMarker(MarkerMainProgram);
+    ++functionWords_;
     AddMarker(MarkerFunction);
     AddMarker(MarkerFoldCloses);
     ++closes_;
@@ -151,13 +132,19 @@ void LineParser::EndFunction() {
 
 // --- types -----------------------------------------------------------------------------------------
 
+// Lets the type in front of the line be known, which most lines need not ask for.
+void LineParser::KnowType() {
+    if (typeKnown_) return;
+    typeKnown_ = true;
+    if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_ - 1);
+    if (!CurrentTypeName.empty()) fieldsBefore_ = CurrentFields;
+}
+
 void LineParser::EndType() {
     Rewrite(index_, "Type");
-    if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_);
-    if (!CurrentTypeName.empty()) {
-        CurrentTypeName.clear();
-        if (!ParsingFile) ReleaseFields(*CurrentFields, {line_ + 1, NoEnd});
-    }
+    KnowType();
+    ++typeWords_;
+    CurrentTypeName.clear();
     AddMarker(MarkerType);
     AddMarker(MarkerFoldCloses);
     --foldDelta_;
@@ -166,23 +153,26 @@ void LineParser::EndType() {
 
 void LineParser::Type() {
     gCurrentProject->TypesDirty = true;
+    KnowType();
     auto type = std::make_shared<ClsType>();
     ++index_;
-    const bool known = sequential_ && !CurrentTypeName.empty();
-    if (!known) CurrentTypeName = CurrentType(line_ - 1);
-    Fill(*type, At(index_).Text, AddMarker(MarkerType));
+    ++typeWords_;
+    Fill(*type, index_, AddMarker(MarkerType));
     AddMarker(MarkerFoldOpens);
-    if (CurrentTypeName.empty()) {
-        if (!gActiveDoc->tmpFields.empty())
-            TakeLooseFields(*type->Fields, {line_ + 1, NextLineWith(line_ + 1, MarkerType)});
-    } else if (!ParsingFile) {
-        MoveFields(*CurrentFields, *type->Fields, {line_ + 1, NoEnd});
-    }
-    gCurrentProject->Types.Add(type->Ime, type);
+    Enter(gCurrentProject->Types, type);
     CurrentTypeName = type->Ime;
     CurrentFields = type->Fields;
     ++foldDelta_;
     ++index_;
+}
+
+// What stands below the line belongs to the scopes behind it from now on. While a whole file is parsed
+// nothing below is in the tables yet.
+void LineParser::MoveBelow() {
+    if (ParsingFile) return;
+    if (functionWords_ > 0) MoveLocalsBelow(line_, *localsBefore_, *CurrentLocals);
+    if (typeWords_ > 0)
+        MoveFieldsBelow(line_, fieldsBefore_.get(), CurrentTypeName.empty() ? nullptr : CurrentFields.get());
 }
 
 // --- lists of names --------------------------------------------------------------------------------
@@ -192,12 +182,9 @@ void LineParser::OpenDeclarations(Word word) {
     switch (word) {
     case Word::Field:
         project.FieldsDirty = true;
-        if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_);
+        KnowType();
         break;
-    case Word::Local:
-        project.LocalsDirty = true;
-        if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_);
-        break;
+    case Word::Local: project.LocalsDirty = true; break;
     case Word::Dim: project.ArraysDirty = true; break;
     case Word::Global: project.GlobalsDirty = true; break;
     default: project.ConstantsDirty = true;
@@ -211,12 +198,12 @@ void LineParser::Place(Word word, std::shared_ptr<Symbol> record) {
         if (CurrentTypeName.empty())
             gActiveDoc->tmpFields[record->Handle] = std::static_pointer_cast<ClsField>(record);
         else
-            CurrentFields->Add(record->Ime, record);
+            Enter(*CurrentFields, record);
         break;
-    case Word::Local: CurrentLocals->Add(record->Ime, record); break;
-    case Word::Dim: project.Arrays.Add(record->Ime, record); break;
-    case Word::Global: project.Globals.Add(record->Ime, record); break;
-    default: project.Constants.Add(record->Ime, record);
+    case Word::Local: Enter(*CurrentLocals, record); break;
+    case Word::Dim: Enter(project.Arrays, record); break;
+    case Word::Global: Enter(project.Globals, record); break;
+    default: Enter(project.Constants, record);
     }
 }
 
@@ -234,7 +221,8 @@ void LineParser::Declarations(Word word) {
     while (NextIsName()) {
         ++index_;
         auto record = make();
-        Fill(*record, At(index_).Text, AddMarker(word == Word::Local ? MarkerLocal : MarkerDeclares));
+        Fill(*record, index_, AddMarker(word == Word::Local ? MarkerLocal : MarkerDeclares),
+             word == Word::Field ? typeWords_ : functionWords_);
         const bool array = word == Word::Dim;
         FillTail(*record,
                  array ? GetArrayVarTipColor(index_, count_, lineStart_)
@@ -251,9 +239,7 @@ void LineParser::FillTail(Symbol& record, const NameTail& tail, bool isVariable)
     if (tail.tip == TipCustom) record.Tajp = tail.tajp;
     if (!tail.closed) return;
     if (isVariable) record.IsBBArray = true;
-    const int start = At(tail.bracket).StartPos;
-    record.ArraySize = text_.substr(static_cast<std::size_t>(start) - 1,
-                                    static_cast<std::size_t>(At(index_ - 1).StartPos - start + 1));
+    record.ArraySize = Cut(At(tail.bracket).StartPos, At(index_ - 1).StartPos + 1);
 }
 
 } // namespace Mod_Parse

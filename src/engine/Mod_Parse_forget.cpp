@@ -14,7 +14,7 @@ void ForgetIn(clsHash& table) {
     std::vector<SymbolPointer> own;
     for (const SymbolPointer& symbol : table.Items())
         if (symbol->SciWndData == SciWndData) own.push_back(symbol);
-    for (const SymbolPointer& symbol : own) table.RemoveRecord(symbol->Ime, *symbol);
+    for (const SymbolPointer& symbol : own) table.RemoveRecord(symbol->Key(), *symbol);
 }
 
 } // namespace

@@ -6,11 +6,14 @@
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
 #include "engine/EngineCalls.h"
+#include "engine/LineEvents.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
+
+#include <algorithm>
 
 namespace Mod_Parse {
 
@@ -19,6 +22,8 @@ namespace {
 using Word = ClsBBFunkcija::Word;
 constexpr int StopUnknownFunction = 18800;
 constexpr int StopUnknownFunctionUnparsed = 11781;
+constexpr int DeclaringMask =
+    MaskOf(MarkerFunction) | MaskOf(MarkerType) | MaskOf(MarkerDeclares) | MaskOf(MarkerLocal);
 constexpr std::size_t ShortWord = 3; // the bracket check spares words up to this length
 
 const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
@@ -66,25 +71,37 @@ public:
         : line_(line), sequential_(sequential), count_(count), lineStart_(lineStart) {}
 
     void Run() {
-        for (index_ = 1; index_ <= count_; ++index_) {
-            const std::uint8_t kind = At(index_).Kind;
-            if (kind == TOK_IDENT) {
-                Identifier();
-            } else if (kind == '.' && index_ == 1 && NextIsName()) {
-                const Token& name = At(2);
-                Style(lineStart_, At(1), name.EndPos - At(1).StartPos, STYLE_Label);
-                ++index_;
-            } else if (IsNameSuffix[kind]) {
-                ColorSuffix(index_, count_, lineStart_);
-            } else if (IsBracket[kind]) {
-                Bracket(index_, lineStart_);
-            }
-        }
+        scopes_.clear();
+        if (sequential_ && (Mod_Sci::MarkerGet(line_) & (MaskOf(MarkerFunction) | MaskOf(MarkerType))))
+            ReadEvents(Tokens.data(), count_, 0, scopes_);
+        for (index_ = 1; index_ <= count_; ++index_) One();
     }
 
 private:
+    void One() {
+        const std::uint8_t kind = At(index_).Kind;
+        if (kind == TOK_IDENT) {
+            Identifier();
+        } else if (kind == '.' && index_ == 1 && NextIsName()) {
+            const Token& name = At(2);
+            Style(lineStart_, At(1), name.EndPos - At(1).StartPos, STYLE_Label);
+            ++index_;
+        } else if (IsNameSuffix[kind]) {
+            ColorSuffix(index_, count_, lineStart_);
+        } else if (IsBracket[kind]) {
+            Bracket(index_, lineStart_);
+        }
+    }
+
     bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
     const std::string& NextText() const { return At(index_ + 1).Text; }
+
+    // Whether the next token is what the parser took for a scope's name or for the second word of an end.
+    bool NextIs(LineEvent::Kind kind) const {
+        return std::any_of(scopes_.begin(), scopes_.end(), [&](const LineEvent& event) {
+            return event.kind == kind && event.token == index_ + 1;
+        });
+    }
 
     void Identifier() {
         ClsProject& project = *gCurrentProject;
@@ -118,14 +135,14 @@ private:
         ClsProject& project = *gCurrentProject;
         switch (keyword.word) {
         case Word::Function:
-            if (!EnterFunction(NextText(), line_) && HasMarker(line_, MarkerFunction))
+            if (NextIs(LineEvent::Function) && !EnterFunction(NextText(), line_))
                 SetStopErrorLog(StopUnknownFunction);
             break;
         case Word::End:
-            if (NextText() == "Function") {
+            if (NextIs(LineEvent::EndFunction)) {
                 ++index_;
                 CurrentFunctionName.clear();
-            } else if (NextText() == "Type") {
+            } else if (NextIs(LineEvent::EndType)) {
                 ++index_;
                 CurrentTypeName.clear();
             }
@@ -137,7 +154,9 @@ private:
         case Word::Goto:
         case Word::Gosub:
         case Word::Restore: NextFrom(project.Labels, STYLE_Label); break;
-        case Word::Type: EnterType(); break;
+        case Word::Type:
+            if (NextIs(LineEvent::Type)) EnterType();
+            break;
         case Word::Field: Fields(); break;
         default: break;
         }
@@ -166,12 +185,20 @@ private:
     void Fields() {
         if (CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_);
         if (CurrentTypeName.empty()) return;
-        while (NextIsName() && CurrentFields->ExistsHash(NextText())) {
+        if (scopes_.empty()) ReadEvents(Tokens.data(), count_, 0, scopes_);
+        for (std::size_t i = 0; i < scopes_.size(); ++i) {
+            const LineEvent event = scopes_[i];
+            if (event.kind != LineEvent::Field || event.token <= index_) continue;
+            if (event.token > index_ + 1 && At(event.token - 1).Kind != ',') return;
+            // What hangs on the name in front may be unknown; the list goes on all the same.
+            while (index_ + 1 < event.token) {
+                ++index_;
+                One();
+            }
+            if (index_ + 1 != event.token || !CurrentFields->ExistsHash(NextText())) return;
             Symbol* field = FoundItem;
             ++index_;
             ColorVar(field, index_, count_, lineStart_, STYLE_Type);
-            if (index_ >= count_ || At(index_ + 1).Kind != ',') return;
-            ++index_;
         }
     }
 
@@ -194,7 +221,10 @@ private:
     int count_;
     int lineStart_;
     int index_ = 1;
+    static LineEvents scopes_; // its room is used again
 };
+
+LineEvents LightPass::scopes_;
 
 } // namespace
 
@@ -202,6 +232,7 @@ void ColorLineLight(int line, bool sequential) {
     Guarded("ColorLineLight", "Mod_Parse", [&] {
         const ColoringScope own;
         ClearBrackets();
+        LineRespelt = false;
         std::string text = Mod_Sci::LineText(line);
         const int length = Mod_Lexer::FillLineBuffer(text);
         if (length > LongestLine) return; // the parser has reported it
@@ -212,6 +243,7 @@ void ColorLineLight(int line, bool sequential) {
         LightPass(line, sequential, count, lineStart).Run();
         StyleOpenBrackets();
         gLineStyles.Flush();
+        if (LineRespelt && (Mod_Sci::MarkerGet(line) & DeclaringMask)) RespellSymbols(line);
     });
 }
 
@@ -253,17 +285,13 @@ void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) 
         const int length = Mod_Lexer::FillLineBuffer(copy);
         if (length > LongestLine) return;
         const int count = Mod_Lexer::Tokenize(copy, length, true);
-        for (int i = 1; i < count; ++i) {
-            if (At(i).Kind != TOK_IDENT || At(i + 1).Kind != TOK_IDENT || !sequential) continue;
-            const ClsBBFunkcija* keyword = KeywordOf(At(i));
-            if (keyword == nullptr) continue;
-            if (keyword->word == Word::Function) {
-                if (!EnterFunction(At(i + 1).Text, line) && HasMarker(line, MarkerFunction))
-                    SetStopErrorLog(StopUnknownFunctionUnparsed);
-            } else if (keyword->word == Word::End && EqualNoCase(At(i + 1).Text, "Function")) {
-                ++i;
-                CurrentFunctionName.clear();
-            }
+        if (!sequential || !HasMarker(line, MarkerFunction)) return;
+        LineEvents events;
+        ReadEvents(Tokens.data(), count, length, events);
+        for (const LineEvent& event : events) {
+            if (event.kind == LineEvent::EndFunction) CurrentFunctionName.clear();
+            if (event.kind == LineEvent::Function && !EnterFunction(At(event.token).Text, line))
+                SetStopErrorLog(StopUnknownFunctionUnparsed);
         }
     });
 }

@@ -14,10 +14,10 @@ using Word = ClsBBFunkcija::Word;
 Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
 
 // Brackets behind a declared name, up to the closing one.
-void TakeBounds(NameTail& tail, char close, int& index, int count, int lineStart) {
+void TakeBounds(NameTail& tail, int& index, int count, int lineStart) {
     tail.bracket = index;
-    ++index;
-    while (index <= count && At(index).Kind != close) ColorToken(index++, lineStart);
+    const int close = ClosingBracket(Tokens.data(), index, count);
+    for (++index; index < close; ++index) ColorToken(index, lineStart);
     tail.closed = index <= count;
     if (tail.closed) ++index;
 }
@@ -161,14 +161,14 @@ NameTail GetVarTipColor(int& index, int count, int lineStart) {
         ++index;
         ColorExprDoZapirka(index, count, lineStart);
     } else if (At(index).Kind == '[') {
-        TakeBounds(tail, ']', index, count, lineStart);
+        TakeBounds(tail, index, count, lineStart);
     }
     return tail;
 }
 
 NameTail GetArrayVarTipColor(int& index, int count, int lineStart) {
     NameTail tail = SuffixTail(index, count);
-    if (index <= count && At(index).Kind == '(') TakeBounds(tail, ')', index, count, lineStart);
+    if (index <= count && At(index).Kind == '(') TakeBounds(tail, index, count, lineStart);
     return tail;
 }
 

@@ -10,6 +10,8 @@
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+
 namespace Mod_Parse {
 
 namespace {
@@ -85,13 +87,13 @@ private:
         ++index_;
         Bracket(index_, lineStart_);
         const char close = bracket_ == '(' ? ')' : ']';
-        while (HasNext()) {
+        for (int depth = 1; depth > 0 && HasNext();) {
             ++index_;
-            if (At(index_).Kind == close) {
+            if (At(index_).Kind == bracket_) ++depth;
+            if (At(index_).Kind == close && --depth == 0)
                 Bracket(index_, lineStart_);
-                break;
-            }
-            ColorTokenLight(index_, count_, lineStart_);
+            else
+                ColorTokenLight(index_, count_, lineStart_);
         }
         if (record_->Tip != TipCustom || NextKind() != '\\') return false;
         runStart_ = Next().StartPos;
@@ -119,7 +121,7 @@ private:
         FixVariableCase(record_->Ime, index_, lineStart_);
         TakeSuffix();
         if (record_->Tip == TipCustom && NextKind() == '\\' && !record_->IsBBArray) return true;
-        if (record_->Tip == TipCustom && NextKind() == '.') return AtFields();
+        if (record_->Tip == TipCustom && NextKind() == '.' && AtFields()) return true;
         return BehindBrackets();
     }
 
@@ -150,6 +152,13 @@ constexpr int MostBrackets = 200;
 OpenBracket brackets[MostBrackets];
 int topBracket = 0;
 
+// What is cut from the line must not depend on whether it was repaired now or earlier.
+void TakeSpelling(Token& token, const std::string& spelling) {
+    token.Text = spelling;
+    std::copy(spelling.begin(), spelling.end(), LineBuffer.begin() + token.StartPos);
+    LineRespelt = true;
+}
+
 } // namespace
 
 ColoringScope::ColoringScope() : before_(Coloring) { Coloring = true; }
@@ -167,6 +176,23 @@ const ClsBBFunkcija* KeywordOf(const Token& token) {
     return FindKeyword(upper);
 }
 
+int ClosingBracket(const Token* tokens, int open, int count) {
+    const std::uint8_t bracket = tokens[open].Kind;
+    const std::uint8_t close = bracket == '(' ? ')' : ']';
+    int depth = 0;
+    int index = open;
+    for (; index <= count; ++index) {
+        if (tokens[index].Kind == bracket) ++depth;
+        if (tokens[index].Kind == close && --depth == 0) break;
+    }
+    return index;
+}
+
+std::string Cut(int from, int to) {
+    const auto* start = reinterpret_cast<const char*>(LineBuffer.data());
+    return {start + from, start + std::max(from, to)};
+}
+
 bool Touches(const Token& first, const Token& next) { return TokenEnd(first) == next.StartPos; }
 
 void Respell(std::intptr_t start, const std::string& spelling, bool inHistory) {
@@ -176,7 +202,10 @@ void Respell(std::intptr_t start, const std::string& spelling, bool inHistory) {
     // the one who began it would end one that is not there.
     const bool collect = inHistory || gActiveDoc->State.UndoGroup;
     if (!collect) Mod_Sci::SetUndoCollection(0);
-    Mod_Sci::ReplaceRange(start, end, spelling);
+    // Where the word alone keeps a lone CR from an LF, the two must not meet for a moment.
+    const bool parts = Mod_Sci::GetCharAt(start - 1) == '\r' && Mod_Sci::GetCharAt(end) == '\n';
+    if (parts) Mod_Sci::ReplaceRange(start, start, spelling);
+    Mod_Sci::ReplaceRange(parts ? end : start, parts ? end + (end - start) : end, parts ? "" : spelling);
     if (!collect) Mod_Sci::SetUndoCollection(1);
 }
 
@@ -184,17 +213,20 @@ void RewriteToken(const std::string& spelling, int index, int lineStart) {
     Token& token = Tokens[static_cast<std::size_t>(index)];
     // What an undo brought back is spelt right beside the history, or nothing could be redone.
     Respell(lineStart + token.StartPos, spelling, !gActiveDoc->State.mLastOperationUndoRedo);
-    token.Text = spelling;
+    TakeSpelling(token, spelling);
 }
 
 void FixVariableCase(const std::string& spelling, int index, int lineStart) {
     Token& token = Tokens[static_cast<std::size_t>(index)];
     if (!OptionsEdit::FixVariableCase || token.Text == spelling || token.Text.size() != spelling.size())
         return;
+    // A word of the language keeps the language's spelling, also where a function has its name: the parser
+    // would put it back.
+    if (const ClsBBFunkcija* keyword = KeywordOf(token); keyword != nullptr && keyword->Ime != spelling) return;
     const std::intptr_t caret = Mod_Sci::GetCurrentPos();
     if (caret >= lineStart + token.StartPos && caret <= lineStart + token.EndPos) return;
     Respell(lineStart + token.StartPos, spelling, false);
-    token.Text = spelling;
+    TakeSpelling(token, spelling);
 }
 
 void ColorToken(int index, int lineStart) {

@@ -32,6 +32,10 @@ private:
 int TokenEnd(const Token& token);
 // The keyword that a token is; null when it is none.
 const ClsBBFunkcija* KeywordOf(const Token& token);
+// The token of the bracket that matches the one at `open`; count + 1 where none does.
+int ClosingBracket(const Token* tokens, int open, int count);
+// The bytes of LineBuffer between two columns.
+std::string Cut(int from, int to);
 // Whether one token begins where the other ends.
 bool Touches(const Token& first, const Token& next);
 
@@ -47,6 +51,12 @@ void Respell(std::intptr_t start, const std::string& spelling, bool inHistory);
 void RewriteToken(const std::string& spelling, int index, int lineStart);
 // The same outside the undo history, unless the option is off or the caret stands at the token.
 void FixVariableCase(const std::string& spelling, int index, int lineStart);
+
+// A token of the line was given another spelling since somebody lowered this. Written by the two above and by
+// who asks.
+extern bool LineRespelt;
+// Gives the records of what a parsed line declares the spelling of its present text.
+void RespellSymbols(int line);
 
 // A literal, keyword, separator or operator inside an initialiser or bounds, without symbol look-up.
 void ColorToken(int index, int lineStart);

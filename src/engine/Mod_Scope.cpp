@@ -4,13 +4,14 @@
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
+#include "engine/KnownLine.h"
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
-#include "engine/ScopeMoves.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Mod_Parse {
@@ -22,18 +23,7 @@ using Word = ClsBBFunkcija::Word;
 // Scans a line with the light scanner; answers its token count. A line beyond the limits counts as empty.
 int ScanLight(std::string line) {
     const int length = Mod_Lexer::FillLightBuffer(line);
-    return length > LongestLine ? 0 : Mod_Lexer::TokenizeLightPomosna(line, length);
-}
-
-// The name behind the first `word` of a line, empty where there is none.
-std::string NameBehind(const std::string& text, std::string_view word) {
-    const int count = ScanLight(text);
-    for (int i = 1; i < count; ++i) {
-        const Token& token = LightTokens[static_cast<std::size_t>(i)];
-        const Token& next = LightTokens[static_cast<std::size_t>(i) + 1];
-        if (token.Kind == TOK_IDENT && token.Text == word && next.Kind == TOK_IDENT) return next.Text;
-    }
-    return {};
+    return length > LongestLine ? 0 : Mod_Lexer::TokenizeLightPomosna(line, length, true);
 }
 
 struct ScopeFound {
@@ -41,18 +31,30 @@ struct ScopeFound {
     SymbolPointer record;
 };
 
-// The record of the scope that a line lies in: walk back to the nearest opening or closing line and
-// read that one line.
-ScopeFound FindScope(int line, int marker, std::string_view word, clsHash& table) {
-    // A line whose name the table does not know is passed over once; more cannot be told from markers.
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        const int at = static_cast<int>(Mod_Sci::MarkerPrevious(line - attempt, MaskOf(marker)));
-        if (at < 0 || HasMarker(at, MarkerFoldCloses)) return {};
-        const std::string name = NameBehind(KnownText(at), word);
-        if (name.empty()) return {};
-        if (SymbolPointer record = table.ItemHandle(name, at, SciWndData)) return {name, std::move(record)};
-    }
-    return {};
+// The scope that the line below `line` lies in: walk back to the nearest line that begins or ends one and
+// read that one line. The last such word on it counts.
+ScopeFound FindScope(int line, int marker, clsHash& table) {
+    static LineEvents events; // its room is used again
+    const int at = static_cast<int>(Mod_Sci::MarkerPrevious(line, MaskOf(marker)));
+    if (at < 0) return {};
+    ReadKnownEvents(at, events);
+    const bool functions = marker == MarkerFunction;
+    const auto begins = functions ? LineEvent::Function : LineEvent::Type;
+    int last = -1;
+    for (int i = 0; i < static_cast<int>(events.size()); ++i)
+        if (functions ? events[static_cast<std::size_t>(i)].OfFunctions()
+                      : events[static_cast<std::size_t>(i)].OfTypes())
+            last = i;
+    if (last < 0 || events[static_cast<std::size_t>(last)].kind != begins) return {};
+    const auto name = [&](int event) -> const std::string& {
+        return LightTokens[static_cast<std::size_t>(events[static_cast<std::size_t>(event)].token)].Text;
+    };
+    int namesakes = 0; // in front of it on its line
+    for (int i = 0; i < last; ++i)
+        if (events[static_cast<std::size_t>(i)].kind == begins && EqualNoCase(name(i), name(last)))
+            ++namesakes;
+    ScopeFound found{name(last), table.ItemHandle(name(last), at, SciWndData, namesakes)};
+    return found.record ? found : ScopeFound{};
 }
 
 // What the words of a line open and close for the line below.
@@ -127,7 +129,7 @@ Levels CountLevels(int count) {
 
 std::string CurrentFunction(int line) {
     return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {
-        ScopeFound found = FindScope(line, MarkerFunction, "Function", gCurrentProject->Funkcii);
+        ScopeFound found = FindScope(line, MarkerFunction, gCurrentProject->Funkcii);
         if (!found.record) {
             CurrentLocals = gCurrentProject->MainFunLocals;
             return MainProgram;
@@ -139,7 +141,7 @@ std::string CurrentFunction(int line) {
 
 std::string CurrentType(int line) {
     return Guarded("CurrentType", "Mod_Parse", std::string(), [&] {
-        ScopeFound found = FindScope(line, MarkerType, "Type", gCurrentProject->Types);
+        ScopeFound found = FindScope(line, MarkerType, gCurrentProject->Types);
         if (found.record) CurrentFields = static_cast<ClsType&>(*found.record).Fields;
         return found.name;
     });
@@ -147,17 +149,26 @@ std::string CurrentType(int line) {
 
 std::string CurrentFunctionForDisplay(int line) {
     return Guarded("CurrentFunctionForDisplay", "Mod_Parse", std::string(), [&]() -> std::string {
-        int at = line;
+        LineEvents events;
         for (int from = line;; --from) {
-            at = static_cast<int>(Mod_Sci::MarkerPrevious(from, MaskOf(MarkerFunction)));
+            const int at = static_cast<int>(Mod_Sci::MarkerPrevious(from, MaskOf(MarkerFunction)));
             if (at < 0) return MainProgram;
-            if (!HasMarker(at, MarkerFoldCloses)) break;
+            ReadKnownEvents(at, events);
+            const LineEvent* last = nullptr;
+            for (const LineEvent& event : events)
+                if (event.OfFunctions()) last = &event;
+            if (last != nullptr && last->kind == LineEvent::Function)
+                return LightTokens[static_cast<std::size_t>(last->token)].Text;
             // The line that ends a function still counts as its own.
-            if (at != from) return MainProgram;
+            if (last == nullptr || at != from) return MainProgram;
         }
-        std::string name = NameBehind(KnownText(at), "Function");
-        return name.empty() ? MainProgram : name;
     });
+}
+
+void SetIndentation(int line, int columns) {
+    const bool joins = Mod_Sci::GetCharAt(Mod_Sci::GetLineIndentPosition(line)) == '\n' &&
+                       Mod_Sci::GetCharAt(Mod_Sci::PositionFromLine(line) - 1) == '\r';
+    if (!joins) Mod_Sci::SetLineIndentation(line, std::max(0, columns));
 }
 
 int GetNextIndent(int line) {

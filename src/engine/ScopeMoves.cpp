@@ -1,26 +1,31 @@
 // A move asks each symbol's marker where it stands now; no range is stored anywhere.
 #include "engine/ScopeMoves.h"
 
+#include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
 #include "engine/Markers.h"
+#include "engine/Mod_Parse.h"
+#include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
+#include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 
-#include <vector>
+#include <algorithm>
 
 namespace Mod_Parse {
 
 namespace {
 
-// The symbols of the active view among `all` that stand in a range of lines.
-std::vector<SymbolPointer> InRange(const std::vector<SymbolPointer>& all, LineRange range) {
-    std::vector<SymbolPointer> inside;
+// The symbols of the active view among `all` that stand below a line, up to the first scope word of the line
+// `end`.
+std::vector<SymbolPointer> Below(const std::vector<SymbolPointer>& all, int line, int end) {
+    std::vector<SymbolPointer> below;
     for (const SymbolPointer& symbol : all) {
         if (symbol->SciWndData != SciWndData) continue;
-        const int line = LineOf(*symbol);
-        if (line >= range.from && line < range.end) inside.push_back(symbol);
+        const int at = LineOf(*symbol);
+        if (at > line && (at < end || (at == end && symbol->ScopesBefore == 0))) below.push_back(symbol);
     }
-    return inside;
+    return below;
 }
 
 std::vector<SymbolPointer> Loose() {
@@ -29,41 +34,158 @@ std::vector<SymbolPointer> Loose() {
     return fields;
 }
 
-void Move(clsHash& from, clsHash& to, LineRange range) {
-    for (const SymbolPointer& symbol : InRange(from.Items(), range)) {
-        to.Add(symbol->Ime, symbol);
-        from.RemoveRecord(symbol->Ime, *symbol);
+// Finds the record of each name of a line in the table that it must be in.
+class SymbolSearch {
+public:
+    SymbolSearch(int line, bool sequential, const Token* tokens)
+        : line_(line), sequential_(sequential), tokens_(tokens) {}
+
+    LineSymbols Run(const LineEvents& events) {
+        for (const LineEvent& event : events) One(event);
+        return std::move(found_);
     }
-}
+
+private:
+    void One(const LineEvent& event) {
+        ClsProject& project = *gCurrentProject;
+        switch (event.kind) {
+        case LineEvent::Label: Find(event, project.Labels); break;
+        case LineEvent::Include: Find(event, project.Includes, clsInclude::KeyOf(NameOf(event))); break;
+        case LineEvent::Dim: Find(event, project.Arrays); break;
+        case LineEvent::Global: Find(event, project.Globals); break;
+        case LineEvent::Const: Find(event, project.Constants); break;
+        case LineEvent::Local:
+            KnowFunction();
+            found_.locals = true;
+            Find(event, *found_.localsBehind);
+            break;
+        case LineEvent::Parameter: Find(event, *found_.localsBehind); break;
+        case LineEvent::Function: {
+            KnowFunction();
+            found_.functions = true;
+            const SymbolPointer record = Find(event, project.Funkcii);
+            if (record) found_.localsBehind = static_cast<ClsFunkcija&>(*record).Locals;
+            break;
+        }
+        case LineEvent::EndFunction:
+            KnowFunction();
+            found_.functions = true;
+            found_.localsBehind = project.MainFunLocals;
+            break;
+        case LineEvent::Type: {
+            KnowType();
+            found_.types = true;
+            const SymbolPointer record = Find(event, project.Types);
+            found_.fieldsBehind = record ? static_cast<ClsType&>(*record).Fields : nullptr;
+            break;
+        }
+        case LineEvent::EndType:
+            KnowType();
+            found_.types = true;
+            found_.fieldsBehind = nullptr;
+            break;
+        case LineEvent::Field:
+            KnowType();
+            if (found_.fieldsBehind)
+                Find(event, *found_.fieldsBehind);
+            else
+                FindLoose(event);
+            break;
+        default: break;
+        }
+    }
+
+    // Most lines need not ask which scopes they lie in.
+    void KnowFunction() {
+        if (functionKnown_) return;
+        functionKnown_ = true;
+        if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
+        found_.localsBefore = found_.localsBehind = CurrentLocals;
+    }
+
+    void KnowType() {
+        if (typeKnown_) return;
+        typeKnown_ = true;
+        if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_ - 1);
+        if (!CurrentTypeName.empty()) found_.fieldsBefore = found_.fieldsBehind = CurrentFields;
+    }
+
+    const std::string& NameOf(const LineEvent& event) const { return tokens_[event.token].Text; }
+
+    SymbolPointer Find(const LineEvent& event, clsHash& table) { return Find(event, table, NameOf(event)); }
+
+    SymbolPointer Find(const LineEvent& event, clsHash& table, const std::string& key) {
+        const std::string& name = NameOf(event);
+        const auto namesakes = std::count_if(
+            found_.symbols.begin(), found_.symbols.end(),
+            [&](const LineSymbol& other) { return other.table == &table && EqualNoCase(other.name, name); });
+        SymbolPointer record = table.ItemHandle(key, line_, SciWndData, static_cast<int>(namesakes));
+        found_.symbols.push_back({event, name, &table, record});
+        return record;
+    }
+
+    void FindLoose(const LineEvent& event) {
+        const std::string& name = NameOf(event);
+        for (const auto& [handle, field] : gActiveDoc->tmpFields) {
+            if (!EqualNoCase(field->Ime, name) || LineOf(*field) != line_) continue;
+            const auto same = [&](const LineSymbol& other) { return other.record == field; };
+            if (std::any_of(found_.symbols.begin(), found_.symbols.end(), same)) continue;
+            found_.symbols.push_back({event, name, nullptr, field});
+            return;
+        }
+    }
+
+    int line_;
+    bool sequential_;
+    const Token* tokens_;
+    LineSymbols found_;
+    bool functionKnown_ = false;
+    bool typeKnown_ = false;
+};
 
 } // namespace
-
-std::string KnownText(int line) {
-    const PipelineState& state = gActiveDoc->State;
-    return line == state.UnparsedLine ? state.UnparsedText : Mod_Sci::LineText(line);
-}
 
 int NextLineWith(int line, int marker) {
     const int next = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(marker)));
     return next < 0 ? NoEnd : next;
 }
 
-void MoveLocals(clsHash& from, clsHash& to, LineRange range) { Move(from, to, range); }
+void Enter(clsHash& table, const SymbolPointer& symbol) {
+    if (ParsingFile)
+        table.Add(symbol->Key(), symbol);
+    else
+        table.AddInOrder(symbol->Key(), symbol);
+}
 
-void MoveFields(clsHash& from, clsHash& to, LineRange range) { Move(from, to, range); }
-
-void TakeLooseFields(clsHash& fields, LineRange range) {
-    for (const SymbolPointer& symbol : InRange(Loose(), range)) {
-        fields.Add(symbol->Ime, symbol);
-        gActiveDoc->tmpFields.erase(symbol->Handle);
+void MoveLocalsBelow(int line, clsHash& from, clsHash& to) {
+    if (&from == &to) return;
+    const int end = NextLineWith(line + 1, MarkerFunction);
+    const int local = NextLineWith(line + 1, MarkerLocal);
+    if (local == NoEnd || local > end) return;
+    for (const SymbolPointer& symbol : Below(from.Items(), line, end)) {
+        Enter(to, symbol);
+        from.RemoveRecord(symbol->Ime, *symbol);
     }
 }
 
-void ReleaseFields(clsHash& fields, LineRange range) {
-    for (const SymbolPointer& symbol : InRange(fields.Items(), range)) {
-        gActiveDoc->tmpFields[symbol->Handle] = std::static_pointer_cast<ClsField>(symbol);
-        fields.RemoveRecord(symbol->Ime, *symbol);
+void MoveFieldsBelow(int line, clsHash* from, clsHash* to) {
+    if (from == to) return;
+    const int end = NextLineWith(line + 1, MarkerType);
+    auto& loose = gActiveDoc->tmpFields;
+    for (const SymbolPointer& symbol : Below(from == nullptr ? Loose() : from->Items(), line, end)) {
+        if (to == nullptr)
+            loose[symbol->Handle] = std::static_pointer_cast<ClsField>(symbol);
+        else
+            Enter(*to, symbol);
+        if (from == nullptr)
+            loose.erase(symbol->Handle);
+        else
+            from->RemoveRecord(symbol->Ime, *symbol);
     }
+}
+
+LineSymbols FindLineSymbols(int line, bool sequential, const Token* tokens, const LineEvents& events) {
+    return SymbolSearch(line, sequential, tokens).Run(events);
 }
 
 } // namespace Mod_Parse

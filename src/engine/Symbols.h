@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 class clsHash;
 
@@ -20,12 +21,17 @@ struct SeenLine {
 // What every record has; the class name prefixes are those of the records.
 struct Symbol {
     virtual ~Symbol() = default;
+    // What it is called by in its table.
+    virtual std::string Key() const { return Ime; }
 
     std::string Ime;              // the name as declared
     int Handle = 0;               // of the marker on the declaring line
     std::string File;             // Filename of its document
     std::intptr_t SciWndData = 0; // its view
     mutable SeenLine Seen;        // of that marker; written by LineOf and DeclaredOn alone
+    int Column = 0;               // from 1, of the name when its line was parsed
+    int ScopesBefore = 0;         // words in front of it on its line that begin or end a function, or, for a
+                                  // field, a type
 
     // Fields that not every class declares; those that do not, leave them at their defaults.
     std::uint8_t Tip = TipInteger;
@@ -50,7 +56,11 @@ struct ClsType : Symbol {
 };
 struct ClsField : Symbol {};
 struct clsLabel : Symbol {};
-struct clsInclude : Symbol {};
+// A path may hold any byte, and a table takes those of names alone: its key has the others escaped.
+struct clsInclude : Symbol {
+    static std::string KeyOf(std::string_view path);
+    std::string Key() const override { return KeyOf(Ime); }
+};
 
 // The name of the scope outside every function.
 inline constexpr const char* MainProgram = "*Main Program*";

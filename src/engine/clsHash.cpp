@@ -14,6 +14,22 @@ Symbol* FoundItem = nullptr;
 ClsFunkcija::ClsFunkcija() : Locals(std::make_shared<clsHash>()) {}
 ClsType::ClsType() : Fields(std::make_shared<clsHash>()) {}
 
+std::string clsInclude::KeyOf(std::string_view path) {
+    static constexpr char digits[] = "0123456789ABCDEF";
+    std::string key;
+    for (const char c : UCase(path)) {
+        const auto byte = static_cast<std::uint8_t>(c);
+        if (byte >= ' ' && byte <= '_' && c != '%') {
+            key += c;
+        } else {
+            key += '%';
+            key += digits[byte >> 4];
+            key += digits[byte & 15];
+        }
+    }
+    return key;
+}
+
 namespace {
 
 constexpr std::size_t HashedCharacters = 22;
@@ -30,6 +46,13 @@ int HashForAdd(std::string_view upperKey) {
 
 bool StandsOn(const Symbol& symbol, int line, std::intptr_t view) {
     return symbol.SciWndData == view && LineOf(symbol) == line;
+}
+
+bool StandsBehind(const Symbol& symbol, const Symbol& other) {
+    if (symbol.SciWndData != other.SciWndData) return false;
+    const int line = LineOf(symbol);
+    const int otherLine = LineOf(other);
+    return line != otherLine ? line > otherLine : symbol.Column > other.Column;
 }
 
 } // namespace
@@ -108,8 +131,9 @@ SymbolPointer clsHash::ItemHash(std::string_view key) {
     return slot == 0 ? nullptr : Slot(slot).Value;
 }
 
-SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t view) {
-    const int slot = FindWhere(key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view); });
+SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t view, int skip) {
+    const int slot = FindWhere(
+        key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view) && skip-- == 0; });
     return slot == 0 ? nullptr : Slot(slot).Value;
 }
 
@@ -153,7 +177,8 @@ void clsHash::Spread() {
     }
 }
 
-void clsHash::Add(std::string_view key, SymbolPointer record) {
+// A filled slot that stands in no chain yet.
+int clsHash::NewSlot(std::string_view key, SymbolPointer record) {
     if (key.empty()) throw Failure(FailureInvalidKey, "Invalid key");
     std::string upper = UCase(key);
     const int hash = HashForAdd(IgnoreCase ? std::string_view(upper) : key);
@@ -162,7 +187,30 @@ void clsHash::Add(std::string_view key, SymbolPointer record) {
     Slot(slot).Key = std::move(upper);
     Slot(slot).Value = std::move(record);
     Slot(slot).Hash = hash;
-    Append(slot);
+    return slot;
+}
+
+void clsHash::Add(std::string_view key, SymbolPointer record) { Append(NewSlot(key, std::move(record))); }
+
+void clsHash::AddInOrder(std::string_view key, SymbolPointer record) {
+    const int slot = NewSlot(key, std::move(record));
+    const SlotType& added = Slot(slot);
+    int& head = Head(added.Hash);
+    int previous = 0;
+    int next = head;
+    while (next != 0 && (Slot(next).Hash != added.Hash || Slot(next).Key != added.Key ||
+                         !StandsBehind(*Slot(next).Value, *added.Value))) {
+        previous = next;
+        next = Slot(next).NextItem;
+    }
+    if (next == 0) return Append(slot);
+    Slot(slot).NextItem = next;
+    if (previous == 0) {
+        Slot(slot).ChainTail = Slot(head).ChainTail;
+        head = slot;
+    } else {
+        Slot(previous).NextItem = slot;
+    }
 }
 
 template <class Match>

@@ -42,11 +42,15 @@ public:
 
     // Adds at the end of the key's chain; namesakes are kept. An empty key is failure 1001.
     void Add(std::string_view key, SymbolPointer record);
+    // Adds in front of the namesakes of its view that stand behind it, so that edits leave the order that a
+    // load gives.
+    void AddInOrder(std::string_view key, SymbolPointer record);
 
     // The first entry with the key; null when there is none.
     SymbolPointer ItemHash(std::string_view key);
     // The entry with the key whose marker stands on that line (from 0) of that view; null when none does.
-    SymbolPointer ItemHandle(std::string_view key, int line, std::intptr_t view);
+    // Of several on one line the one that has `skip` others in front of it.
+    SymbolPointer ItemHandle(std::string_view key, int line, std::intptr_t view, int skip = 0);
 
     // Take an entry out. No match is reported as failure 5 and changes nothing; an empty key does nothing.
     void Remove(std::string_view key, int line, std::intptr_t view);
@@ -89,6 +93,7 @@ private:
     template <class Match>
     void Unlink(std::string_view key, const char* operation, Match match);
     int TakeSlot();
+    int NewSlot(std::string_view key, SymbolPointer record);
     void Append(int slot);
     void Spread();
     std::vector<int> Ordered() const;

@@ -1,6 +1,8 @@
 // The few Scintilla calls that carry text out of the view.
 #include "sci/Mod_Sci.h"
 
+#include <algorithm>
+
 std::intptr_t SciWndData = 0;
 SciDirectFunction gSciDirect = nullptr;
 
@@ -28,6 +30,9 @@ std::string GetText() {
 std::string GetSelText() { return GetTextRange(GetSelectionStart(), GetSelectionEnd()); }
 
 std::string GetTextRange(std::intptr_t start, std::intptr_t end) {
+    // The library ends the program where a range goes beyond the text.
+    start = std::max<std::intptr_t>(start, 0);
+    end = std::min(end, GetLength());
     if (end <= start) return {};
     std::string text(static_cast<std::size_t>(end - start) + 1, '\0');
     TextRange range{static_cast<long>(start), static_cast<long>(end), text.data()};

@@ -315,6 +315,7 @@ inline std::intptr_t SetLexer(std::intptr_t lexer) { return Send(SCI_SETLEXER, l
 // The whole text, and pieces of it.
 std::string GetText();
 std::string GetSelText();
+// A range that goes beyond the text ends with it.
 std::string GetTextRange(std::intptr_t start, std::intptr_t end);
 // One line with its line end.
 std::string LineText(std::intptr_t line);

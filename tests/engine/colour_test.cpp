@@ -170,4 +170,13 @@ TEST_F(ColourTest, AWordThatTheParserTookForANameIsNoFunction) {
     EXPECT_EQ(host.ErrorLog(), "");
 }
 
+TEST_F(SourceTest, BracketsNestAndChainsGoOnBehindThem) {
+    OpenLines({"Type P", "Field T.P[3], hp, u.Unknown, b, c", "End Type", "Dim e.P(4)", "Local a.P",
+               "e(Rnd(1))\\hp = 1", "a\\T.P[Rnd(1)]\\hp = 1"});
+    ColourAll();
+    EXPECT_EQ(Styles(1), "kkkkk.tttt,9,,.tt,.t........,.t,.t");
+    EXPECT_EQ(Styles(5), "a,kkk,9,,aaa.+.9");
+    EXPECT_EQ(Styles(6), "lllll,kkk,9,,lll.+.9");
+}
+
 } // namespace

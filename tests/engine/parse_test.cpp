@@ -48,7 +48,7 @@ TEST_F(ParseTest, ListsDeclareEachNameWithItsTypeAndBounds) {
               "Const s @2 tip 3\nConst t @2 tip 1\n"
               "Const x @1 tip 1\nConst y @1 tip 2\n"
               "Dim a @0 tip 1 (10)\n"
-              "Dim b @0 tip 3 (5, c(1)\n"
+              "Dim b @0 tip 3 (5, c(1))\nDim d @0 tip 1\n"
               "Global g @1 tip 5 type Thing\nGlobal h @1 tip 0\nGlobal k @1 tip 1\n");
 }
 

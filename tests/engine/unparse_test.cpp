@@ -106,6 +106,45 @@ TEST_F(UnparseTest, LinesAboveMoveASymbolWithoutTouchingIt) {
     EXPECT_EQ(gCurrentProject->Globals.ItemHandle("A", 4, SciWndData + 1), nullptr);
 }
 
+// No text is a failure, and whatever a line declares, it can be taken back and parsed again.
+TEST_F(UnparseTest, WhatNobodyMeansToWriteIsTakenBackToo) {
+    for (const char* line :
+         {"Global a, Function f() : End Function", "Local a,", "Local Function", "Function f() : End Function",
+          "End Function Function g()", "Local a : Function h() : Local b", "Field a : End type : Field b",
+          "Function k() Function K()", "Type T : Field q : end TYPE", "Dim g(Rnd(1, 2), 3), h(1)", "Dim g(",
+          "Include \"m\xF6\xE4\xFC ~~~~~~~~~~~~~~~~~~~~~~~~~~~~\" : Const c", "Print \"a\tFunction z\""}) {
+        OpenLines({"Function outer()", "Type Outer", "Field f", line, "Local below", "Field under", "End Type",
+                   "End Function", "Local last"});
+        ColourAll();
+        const std::string before = Symbols(), lines = Lines();
+        Mod_Parse::UnparseLine(3, false);
+        EXPECT_EQ(Symbols().find("@3"), std::string::npos) << line << Symbols();
+        Mod_Parse::Parseline(3, false);
+        EXPECT_EQ(Symbols(), before) << line;
+        EXPECT_EQ(Lines(), lines) << line;
+        EXPECT_EQ(host.ErrorLog(), "") << line;
+    }
+}
+
+TEST_F(UnparseTest, ALooseFieldGoesUnderAnotherSpelling) {
+    OpenLines({"Const y, LINK", "x = 1"});
+    InsertLine(1, "Field x#, link#");
+    ColourAll(); // gives the field the spelling of the constant
+    EXPECT_EQ(Text(1), "Field x#, LINK#");
+    ExpectAsLoaded();
+    DeleteLines(1, 1);
+    EXPECT_EQ(Symbols(), "Const LINK @0 tip 1\nConst y @0 tip 1\n");
+}
+
+TEST_F(UnparseTest, WhatTheTablesTellFollowsTheSpellingOfTheLine) {
+    OpenLines({"Function f(a = rnd(1), b[abs(2)])", "End Function", "Const most = 1", "Function MOST()"});
+    ColourAll();
+    EXPECT_EQ(Text(2), "Const MOST = 1");
+    EXPECT_EQ(Symbols(), "Const MOST @2 tip 1\nFunction f @0 tip 1 (a = Rnd(1), b[Abs(2)]) 2\n"
+                         "Function MOST @3 tip 1 () 0\nLocal of f a @0 tip 1\n"
+                         "Local of f b @0 tip 1 array [Abs(2)]\n");
+}
+
 TEST_F(UnparseTest, AFunctionNamedLikeAKeywordDoesNotHideDeclarations) {
     OpenLines({"Function local()", "End Function", "Local a", "Global b"});
     ColourAll(); // gives "Local" the spelling of the function

@@ -143,12 +143,20 @@ void Paste(const std::string& bytes) {
     Mod_Sci::GotoPos(Mod_Sci::GetTargetEnd());
 }
 
+// The place where a click would put the caret: never inside a CR LF or a character of several bytes.
+long Snapped(long position) {
+    position = std::min(position, static_cast<long>(Mod_Sci::GetLength()));
+    if (Mod_Sci::GetCharAt(position - 1) == '\r' && Mod_Sci::GetCharAt(position) == '\n') --position;
+    if (Mod_Sci::GetCodePage() == SC_CP_UTF8)
+        while (position > 0 && (Mod_Sci::GetCharAt(position) & 0xC0) == 0x80) --position;
+    return position;
+}
+
 void Play(const EditOperation& operation) {
-    const auto length = static_cast<long>(Mod_Sci::GetLength());
-    const long from = std::min(operation.from, length);
+    const long from = Snapped(operation.from);
     switch (operation.kind) {
     case Kind::Caret: Mod_Sci::GotoPos(from); break;
-    case Kind::Select: Mod_Sci::SetSel(from, std::min(operation.to, length)); break;
+    case Kind::Select: Mod_Sci::SetSel(from, Snapped(operation.to)); break;
     case Kind::Type: Type(operation.text); break;
     case Kind::NewLine: Command("New Line"); break;
     case Kind::Backspace: Key(Qt::Key_Backspace); break;

@@ -1,6 +1,8 @@
 // JSON text, element by element.
 #include "Json.h"
 
+#include "host/Text.h"
+
 #include <cstdint>
 #include <cstdio>
 
@@ -36,6 +38,12 @@ Json& Json::String(std::string_view bytes) {
     return *this;
 }
 
+Json& Json::FileName(std::string_view bytes) {
+    Separate();
+    Quote(bytes, IsUtf8(bytes));
+    return *this;
+}
+
 Json& Json::Number(long long number) {
     Separate();
     text_ += std::to_string(number);
@@ -55,14 +63,14 @@ Json& Json::Line() {
     return *this;
 }
 
-void Json::Quote(std::string_view bytes) {
+void Json::Quote(std::string_view bytes, bool keepHigh) {
     text_ += '"';
     for (const char c : bytes) {
         const auto byte = static_cast<std::uint8_t>(c);
         if (c == '"' || c == '\\') {
             text_ += '\\';
             text_ += c;
-        } else if (byte < 32 || byte > 126) {
+        } else if (byte < 32 || byte == 127 || (byte > 127 && !keepHigh)) {
             char escape[8];
             std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(byte));
             text_ += escape;

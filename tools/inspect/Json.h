@@ -12,6 +12,8 @@ public:
     Json& EndArray() { return Close(']'); }
     Json& Key(std::string_view key);
     Json& String(std::string_view bytes);
+    // The name of a file: its characters where the bytes are UTF-8, else as any text.
+    Json& FileName(std::string_view bytes);
     Json& Number(long long number);
     Json& Bool(bool value);
     // A break between the elements of a long list, for the eye.
@@ -23,7 +25,7 @@ private:
     Json& Open(char bracket);
     Json& Close(char bracket);
     void Separate();
-    void Quote(std::string_view bytes);
+    void Quote(std::string_view bytes, bool keepHigh = false);
 
     std::string text_;
     bool first_ = true; // nothing stands before the next element

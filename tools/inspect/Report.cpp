@@ -64,7 +64,7 @@ void Fold(Json& json, int line) {
 void Document(Json& json, const frmDoc& document, const ReportOptions& options) {
     const std::string text = Mod_Sci::GetText();
     json.Line().Object();
-    json.Key("path").String(document.FullFilename);
+    json.Key("path").FileName(document.FullFilename);
     json.Key("bytes").Number(static_cast<long long>(text.size()));
     json.Key("lines").Number(Mod_Sci::GetLineCount());
     json.Key("sha256").String(Sha256(text));
@@ -102,7 +102,7 @@ void SymbolRow(Json& json, const Row& row) {
     json.Line().Object();
     json.Key("Ime").String(symbol.Ime);
     json.Key("line").Number(row.line);
-    json.Key("File").String(symbol.File);
+    json.Key("File").FileName(symbol.File);
     if (!plain) json.Key("Tip").Number(symbol.Tip);
     if (!plain && !constant) json.Key("Tajp").String(symbol.Tajp);
     if (function != nullptr) {

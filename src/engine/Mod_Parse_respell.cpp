@@ -1,0 +1,42 @@
+// Colouring gives a name the spelling of another declaration, and a declaration's own line may have one: what
+// the tables tell of that line follows its text.
+#include "engine/Mod_Parse_walk.h"
+
+#include "engine/ParserState.h"
+#include "engine/ScopeMoves.h"
+#include "sci/Mod_Sci.h"
+
+namespace Mod_Parse {
+
+bool LineRespelt = false;
+
+void RespellSymbols(int line) {
+    const std::string function = CurrentFunctionName;
+    const std::string type = CurrentTypeName;
+    const auto locals = CurrentLocals;
+    const auto fields = CurrentFields;
+    std::string text = Mod_Sci::LineText(line);
+    const int length = Mod_Lexer::FillLineBuffer(text);
+    const int count = Mod_Lexer::Tokenize(text, length, true);
+    LineEvents events;
+    ReadEvents(Tokens.data(), count, length, events);
+    for (const LineSymbol& symbol : FindLineSymbols(line, false, Tokens.data(), events).symbols) {
+        if (!symbol.record) continue;
+        Symbol& record = *symbol.record;
+        record.Ime = symbol.name;
+        if (symbol.event.type > 0) record.Tajp = Tokens[static_cast<std::size_t>(symbol.event.type)].Text;
+        if (symbol.event.from == 0) continue;
+        std::string behind = Cut(symbol.event.from, symbol.event.to);
+        while (behind.ends_with('\r') || behind.ends_with('\n')) behind.pop_back();
+        if (symbol.event.kind == LineEvent::Function)
+            static_cast<ClsFunkcija&>(record).Help = behind;
+        else
+            record.ArraySize = behind;
+    }
+    CurrentFunctionName = function;
+    CurrentTypeName = type;
+    CurrentLocals = locals;
+    CurrentFields = fields;
+}
+
+} // namespace Mod_Parse
