@@ -9,7 +9,6 @@
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "host/ErrorLog.h"
-#include "host/Failure.h"
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 

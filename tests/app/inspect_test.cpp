@@ -211,6 +211,22 @@ TEST(InspectTest, EditsLeaveWhatAFreshLoadOfTheirTextGives) {
               QJsonDocument(State(loaded)).toJson().toStdString());
 }
 
+// A click never comes between a CR and its LF, and neither does a position.
+TEST(InspectTest, PositionsAreThoseOfClicksAndFileNamesAreShown) {
+    const QTemporaryDir folder;
+    const std::string source = Put(folder, "m\xC3\xBC\xC3\x9F.bb", "Global a\r\nGlobal b\r\n");
+    const QJsonObject report =
+        Inspect({"--parts", "text,symbols", "--edits",
+                 Put(folder, "edits", R"({"op":"caret","pos":9}
+{"op":"type","text":"1"}
+{"op":"select","from":10,"to":19}
+{"op":"paste","text":"\r\nGlobal c"}
+)"),
+                 source});
+    EXPECT_EQ(First(report)["text"].toString().toStdString(), "Global a1\r\nGlobal c\r\n");
+    EXPECT_EQ(First(report)["path"].toString().toStdString(), source);
+}
+
 TEST(InspectTest, EditsThatAreNoneAreRefused) {
     const QTemporaryDir folder;
     const std::string source = Put(folder, "a.bb", "Print 1\r\n");

@@ -199,6 +199,12 @@ TEST_P(EditCommandsTest, CompletingAScopeIsOneStep) {
     CompleteScope(); // opens nothing: a new line alone
     Settle();
     EXPECT_EQ(Mod_Sci::GetLineCount(), 5);
+    for (const char* line : {"If a Then b", "For i = 1 To 2 : Next", "Function f() : End Function"}) {
+        OpenSource({line});
+        GoTo(0, static_cast<int>(std::string(line).size()));
+        CompleteScope(); // the scope ends on its line
+        EXPECT_EQ(Mod_Sci::GetLineCount(), 2) << line;
+    }
 }
 
 TEST_F(SourceTest, FoldsOfAKindCloseAndOpenAndTheCaretStaysInSight) {

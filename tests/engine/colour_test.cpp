@@ -170,11 +170,25 @@ TEST_F(ColourTest, AWordThatTheParserTookForANameIsNoFunction) {
     EXPECT_EQ(host.ErrorLog(), "");
 }
 
+TEST_F(ColourTest, LinesThatAreTooLongAreToldOfOnce) {
+    host.ExpectErrorLog();
+    std::string data = "Data 1";
+    for (int i = 0; i < 1200; ++i) data += ",1";
+    OpenLines({data, "x", data});
+    const std::string log = host.ErrorLog();
+    EXPECT_NE(log, "");
+    EXPECT_EQ(log.find("Created"), log.rfind("Created"));
+    GoTo(2, 4);
+    Type("1");
+    Leave(1);
+    EXPECT_EQ(host.ErrorLog(), log);
+}
+
 TEST_F(SourceTest, BracketsNestAndChainsGoOnBehindThem) {
     OpenLines({"Type P", "Field T.P[3], hp, u.Unknown, b, c", "End Type", "Dim e.P(4)", "Local a.P",
                "e(Rnd(1))\\hp = 1", "a\\T.P[Rnd(1)]\\hp = 1"});
     ColourAll();
-    EXPECT_EQ(Styles(1), "kkkkk.tttt,9,,.tt,.t........,.t,.t");
+    EXPECT_EQ(Styles(1), "kkkkk.ttt,9,,,tt,,tt.......,,t,,t");
     EXPECT_EQ(Styles(5), "a,kkk,9,,aaa.+.9");
     EXPECT_EQ(Styles(6), "lllll,kkk,9,,lll.+.9");
 }
