@@ -17,7 +17,7 @@ TEST_F(SciText, BytesComeOutAsTheyAre) {
     EXPECT_EQ(Mod_Sci::GetTextRange(1, 3), "\0b"s);
     EXPECT_EQ(Mod_Sci::GetTextRange(3, 3), "");
     EXPECT_EQ(Mod_Sci::GetTextRange(5, 2), "");
-    EXPECT_EQ(Mod_Sci::GetTextRange(7, 1000), "text");
+    EXPECT_EQ(Mod_Sci::GetTextRange(8, 1000), "text");
     EXPECT_EQ(Mod_Sci::GetTextRange(1000, 1004), "");
 }
 
