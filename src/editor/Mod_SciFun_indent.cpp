@@ -66,7 +66,8 @@ public:
         const int length = Mod_Lexer::FillLineBuffer(text);
         count_ = Mod_Lexer::Tokenize(text, length, true);
         if (count_ == 0) return;
-        scopes_.keeps = Kind(1) == TOK_COMMENT || Kind(1) == TOK_BLOCK_START || Kind(1) == TOK_BLOCK_END || (Kind(1) == '.' && Kind(2) == TOK_IDENT);
+        scopes_.keeps = Kind(1) == TOK_COMMENT || Kind(1) == TOK_BLOCK_START || Kind(1) == TOK_BLOCK_END ||
+                        (Kind(1) == '.' && Kind(2) == TOK_IDENT);
         for (index_ = 1; index_ <= count_; ++index_) Count();
     }
     const Scopes& Result() const { return scopes_; }

@@ -22,7 +22,9 @@ private:
     const Token& At(int index) const { return tokens_[index]; }
     bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
     bool On(char kind) const { return index_ <= count_ && At(index_).Kind == kind; }
-    LineEvent& Add(LineEvent::Kind kind, int token) { return events_.emplace_back(LineEvent{kind, token, 0, 0, 0}); }
+    LineEvent& Add(LineEvent::Kind kind, int token) {
+        return events_.emplace_back(LineEvent{kind, token, 0, 0, 0});
+    }
 
     void One() {
         switch (At(index_).Kind) {

@@ -58,9 +58,9 @@ private:
     static std::string text_; // parses do not nest
     int index_ = 1;
     int count_ = 0;
-    int opens_ = 0;     // levels that the line opens for the next
-    int closes_ = 0;    // levels that it closes before itself
-    int foldDelta_ = 0; // fold blocks opened less those closed
+    int opens_ = 0;         // levels that the line opens for the next
+    int closes_ = 0;        // levels that it closes before itself
+    int foldDelta_ = 0;     // fold blocks opened less those closed
     int functionWords_ = 0; // that begin or end a function so far
     int typeWords_ = 0;
     std::vector<std::string> opened_; // the words whose scopes are open behind the line, where asked for

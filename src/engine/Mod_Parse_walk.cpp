@@ -222,7 +222,8 @@ void FixVariableCase(const std::string& spelling, int index, int lineStart) {
         return;
     // A word of the language keeps the language's spelling, also where a function has its name: the parser
     // would put it back.
-    if (const ClsBBFunkcija* keyword = KeywordOf(token); keyword != nullptr && keyword->Ime != spelling) return;
+    if (const ClsBBFunkcija* keyword = KeywordOf(token); keyword != nullptr && keyword->Ime != spelling)
+        return;
     const std::intptr_t caret = Mod_Sci::GetCurrentPos();
     if (caret >= lineStart + token.StartPos && caret <= lineStart + token.EndPos) return;
     Respell(lineStart + token.StartPos, spelling, false);

@@ -116,9 +116,10 @@ private:
 
     SymbolPointer Find(const LineEvent& event, clsHash& table, const std::string& key) {
         const std::string& name = NameOf(event);
-        const auto namesakes = std::count_if(
-            found_.symbols.begin(), found_.symbols.end(),
-            [&](const LineSymbol& other) { return other.table == &table && EqualNoCase(other.name, name); });
+        const auto namesakes =
+            std::count_if(found_.symbols.begin(), found_.symbols.end(), [&](const LineSymbol& other) {
+                return other.table == &table && EqualNoCase(other.name, name);
+            });
         SymbolPointer record = table.ItemHandle(key, line_, SciWndData, static_cast<int>(namesakes));
         found_.symbols.push_back({event, name, &table, record});
         return record;

@@ -132,8 +132,8 @@ SymbolPointer clsHash::ItemHash(std::string_view key) {
 }
 
 SymbolPointer clsHash::ItemHandle(std::string_view key, int line, std::intptr_t view, int skip) {
-    const int slot = FindWhere(
-        key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view) && skip-- == 0; });
+    const int slot =
+        FindWhere(key, [&](const Symbol& symbol) { return StandsOn(symbol, line, view) && skip-- == 0; });
     return slot == 0 ? nullptr : Slot(slot).Value;
 }
 

@@ -216,8 +216,7 @@ TEST(InspectTest, PositionsAreThoseOfClicksAndFileNamesAreShown) {
     const QTemporaryDir folder;
     const std::string source = Put(folder, "m\xC3\xBC\xC3\x9F.bb", "Global a\r\nGlobal b\r\n");
     const QJsonObject report =
-        Inspect({"--parts", "text,symbols", "--edits",
-                 Put(folder, "edits", R"({"op":"caret","pos":9}
+        Inspect({"--parts", "text,symbols", "--edits", Put(folder, "edits", R"({"op":"caret","pos":9}
 {"op":"type","text":"1"}
 {"op":"select","from":10,"to":19}
 {"op":"paste","text":"\r\nGlobal c"}

@@ -1,9 +1,10 @@
 // The property that everything else rests on: whatever was edited, tables, markers, fold levels and styles
 // are those of a fresh load of the same text, and the undo history leads back to the first text and forth to
-// the last. A series comes from a seed, and one that fails is shrunk before it is told. No text and no edit is
-// left out. Two things are compared after a rule: spelling, once colouring changes nothing any more (a name may
-// take that of another declaration, and the name in a word under the caret stays), and what the undo history
-// leads to, without regard to case (spelling is corrected beside it).
+// the last. A series comes from a seed, and one that fails is shrunk before it is told. No text and no edit
+// is left out. Three things are compared after a rule: the name of a type that a record holds, without regard
+// to case (it takes the spelling of the type when it is coloured as one); spelling, once colouring changes
+// nothing any more (a name may take that of another declaration, and the name in a word under the caret
+// stays), and what the undo history leads to, without regard to case (spelling is corrected beside it).
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/FindRun.h"
@@ -66,7 +67,8 @@ const std::vector<std::string>& RealLines() {
     static const std::vector<std::string> lines = [] {
         std::vector<std::string> all;
         for (const char* folder : {"/examples", "/tests/data"})
-            for (const auto& entry : fs::recursive_directory_iterator(ZOLTO_SOURCE_ROOT + std::string(folder))) {
+            for (const auto& entry :
+                 fs::recursive_directory_iterator(ZOLTO_SOURCE_ROOT + std::string(folder))) {
                 if (entry.path().extension() != ".bb") continue;
                 std::ifstream file(entry.path(), std::ios::binary);
                 for (std::string line; std::getline(file, line);) {
@@ -167,13 +169,18 @@ public:
 
     Series Make(int steps) {
         const bool large = Pick(8) == 0;
-        Series series{
-            Pick(2) == 0 ? "\r\n" : "\n", large ? 400 : 60, large ? 150 : 20, Pick(3) == 0, {}, {}};
+        Series series{Pick(2) == 0 ? "\r\n" : "\n", large ? 400 : 60, large ? 150 : 20, Pick(3) == 0, {}, {}};
         if (mixed_ && Pick(2) == 0) series.lineEnd = "\r";
         for (unsigned long i = 0, lines = 3 + Pick(12); i < lines; ++i) series.text.push_back(Piece());
         for (int i = 0; i < steps; ++i) {
-            Step step{static_cast<Kind>(Pick(Kinds)), mixed_ && Pick(4) == 0, random_(), 0, Pick(3),
-                      random_(),                      Piece(),                random_()};
+            Step step{static_cast<Kind>(Pick(Kinds)),
+                      mixed_ && Pick(4) == 0,
+                      random_(),
+                      0,
+                      Pick(3),
+                      random_(),
+                      Piece(),
+                      random_()};
             if (Pick(3) == 0) step.column = random_();
             if (step.kind == Paste)
                 for (unsigned long more = 1 + Pick(3) * Pick(2); more > 0; --more)
@@ -357,8 +364,8 @@ private:
         case Command:
         case Delete: {
             const auto last = static_cast<int>(std::min(line + step.lines, lines - 1));
-            end = Mod_Sci::PositionFromLine(last) +
-                  static_cast<std::intptr_t>(step.endColumn % columns(last));
+            end =
+                Mod_Sci::PositionFromLine(last) + static_cast<std::intptr_t>(step.endColumn % columns(last));
             break;
         }
         case DeleteWhole: end = Mod_Sci::PositionFromLine(line) + Mod_Sci::LineLength(line); break;

@@ -109,12 +109,13 @@ TEST_F(UnparseTest, LinesAboveMoveASymbolWithoutTouchingIt) {
 // No text is a failure, and whatever a line declares, it can be taken back and parsed again.
 TEST_F(UnparseTest, WhatNobodyMeansToWriteIsTakenBackToo) {
     for (const char* line :
-         {"Global a, Function f() : End Function", "Local a,", "Local Function", "Function f() : End Function",
-          "End Function Function g()", "Local a : Function h() : Local b", "Field a : End type : Field b",
-          "Function k() Function K()", "Type T : Field q : end TYPE", "Dim g(Rnd(1, 2), 3), h(1)", "Dim g(",
+         {"Global a, Function f() : End Function", "Local a,", "Local Function",
+          "Function f() : End Function", "End Function Function g()", "Local a : Function h() : Local b",
+          "Field a : End type : Field b", "Function k() Function K()", "Type T : Field q : end TYPE",
+          "Dim g(Rnd(1, 2), 3), h(1)", "Dim g(",
           "Include \"m\xF6\xE4\xFC ~~~~~~~~~~~~~~~~~~~~~~~~~~~~\" : Const c", "Print \"a\tFunction z\""}) {
-        OpenLines({"Function outer()", "Type Outer", "Field f", line, "Local below", "Field under", "End Type",
-                   "End Function", "Local last"});
+        OpenLines({"Function outer()", "Type Outer", "Field f", line, "Local below", "Field under",
+                   "End Type", "End Function", "Local last"});
         ColourAll();
         const std::string before = Symbols(), lines = Lines();
         Mod_Parse::UnparseLine(3, false);
