@@ -9,7 +9,11 @@ std::string Absolute(const std::string& argument, const std::string& startFolder
     if (argument.empty() || argument.front() == '/') return argument;
     const std::filesystem::path path = std::filesystem::path(startFolder) / argument;
     std::error_code error;
-    return std::filesystem::exists(path, error) ? path.lexically_normal().string() : argument;
+    if (!std::filesystem::exists(path, error)) return argument;
+    // A ".." behind a link leads out of the folder that the link names, so the disk is asked for the way.
+    const auto folder = std::filesystem::canonical(path.parent_path(), error);
+    const bool climbs = argument.find("..") != argument.npos && path.has_filename();
+    return climbs && !error ? (folder / path.filename()).string() : path.lexically_normal().string();
 }
 
 }

@@ -22,9 +22,6 @@
 #include <memory>
 #include <optional>
 
-bool Mod_Compiler::gCreatingExe = false;
-std::string Mod_Compiler::gTargetExe;
-
 namespace {
 
 constexpr int Step = 21;
@@ -70,11 +67,9 @@ std::optional<ErrorLine> Read(const std::string& line) {
 // The file of an error on disk; a relative name counts from the compiled file. Empty where there is none.
 std::string OnDisk(const ErrorLine& error, const CompilerJob& job) {
     const std::string named = CollapseSeparators(ToDisk(error.file));
-    for (const std::string& path : {named, GetFolder(job.file) + named}) {
-        const std::string found = gHost.files->Find(path);
-        if (gHost.files->Kind(found) == PathKind::File) return found;
-    }
-    return {};
+    const bool absolute = named.starts_with('/') || job.file.empty();
+    const std::string found = gHost.files->Find(absolute ? named : GetFolder(job.file) + named);
+    return gHost.files->Kind(found) == PathKind::File ? found : std::string();
 }
 
 frmDoc* FormIn(DocumentWindow* window) {
@@ -153,8 +148,8 @@ public:
 
     void OnComplete(int exitCode) {
         EndCompile();
-        if (Mod_Compiler::gCreatingExe && exitCode == 0) {
-            Options::gLastCreatedExe = Mod_Compiler::gTargetExe;
+        if (job_.kind == CompilerJob::Kind::Build && exitCode == 0) {
+            Options::gLastCreatedExe = job_.target;
             gHost.settings->Save("Options", "gLastCreatedExe", Options::gLastCreatedExe);
         }
         if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
@@ -206,6 +201,7 @@ void Mod_Compiler::ParseError(const std::string& line, const CompilerJob& job) {
         const frmDoc* document = ShowDocument(*error, job);
         const std::string file = ShownFile(*error, document, job);
         if (document == nullptr) return Report(*error, file);
+        Mod_Sci::EnsureVisible(error->row - 1); // it may lie in a closed fold
         const auto start = Mod_Sci::PositionFromLine(error->row - 1);
         const auto caret = start + error->column - 1;
         Mod_Sci::GotoPos(caret);

@@ -13,6 +13,7 @@ struct CompilerJob {
     Kind kind = Kind::Run;
     std::string file;     // what the compiler was given
     std::string document; // the key of the window that shows this file's text; empty for a project
+    std::string target;   // the executable that is built
     bool compiles = true; // false: the child is a program that was built earlier
 };
 
@@ -28,10 +29,6 @@ void StopShown();
 } // namespace CompilerOutput
 
 namespace Mod_Compiler {
-
-// Whether an executable is being built, and which. Written by Compile, CheckForErrors and CreateExe alone.
-extern bool gCreatingExe;
-extern std::string gTargetExe;
 
 // Reads one error line of the compiler, opens its file, selects the place and shows the message.
 void ParseError(const std::string& line, const CompilerJob& job = {});

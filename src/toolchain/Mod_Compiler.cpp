@@ -2,8 +2,10 @@
 #include "toolchain/Mod_Compiler.h"
 
 #include "documents/Mod_File.h"
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "editor/EditorCalls.h"
+#include "editor/OpenDocuments.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
@@ -24,6 +26,8 @@ namespace Mod_Compiler {
 std::string gLastCompiledFile;
 
 namespace {
+
+long lastCompiled = 0; // the serial number of the document behind gLastCompiledFile
 
 using Job = CompilerJob::Kind;
 
@@ -52,6 +56,9 @@ bool ProjectFileToCompile(std::string& path) {
         return false;
     }
     Mod_File::SaveProjectFiles();
+    // What could not be saved would be compiled as it was before.
+    for (const auto& source : project.Sources)
+        if (source.record->Dirty) return false;
     path = gHost.files->Find(CollapseSeparators(project.Path + ToDisk(main->AbsPath)));
     return true;
 }
@@ -114,13 +121,18 @@ void Append(const std::string& line) {
     if (gToolchainCalls.AppendOutput) gToolchainCalls.AppendOutput(line);
 }
 
+void TellProblem(const std::string& text) {
+    Append(text);
+    Exclaim(text);
+}
+
 // A program with a console of its own. False, after a word in the Output pane, where there is no terminal.
 bool RunInTerminal(const ProcessStart& start) {
     if (!gHost.processes->HasTerminal()) {
         Append("No terminal program was found: what runs is shown here.");
         return false;
     }
-    if (const SystemError error = gHost.processes->StartInTerminal(start)) Exclaim(error.text);
+    if (const SystemError error = gHost.processes->StartInTerminal(start)) TellProblem(error.text);
     return true;
 }
 
@@ -137,14 +149,13 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
     shell.Error = nullptr;
     if (started) return;
     CompilerOutput::Forget(document);
-    Append(problem);
-    Exclaim(problem);
+    TellProblem(problem);
 }
 
 // A document runs one child at a time. True, after a word in the status bar, while one runs.
 bool Busy(const frmDoc& document) {
     if (!document.ShellClass->Running()) return false;
-    if (gEditorCalls.SetTipText) gEditorCalls.SetTipText({"Process already running.", {}, {}});
+    if (gEditorCalls.SetNotice) gEditorCalls.SetNotice("Process already running.");
     return true;
 }
 
@@ -166,12 +177,11 @@ bool StartJob(Job job, std::string path, bool debug) {
     const std::string command = Command(job, debug, compiler, target, path);
     if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
     if (job == Job::Run && gActiveCompiler->RealConsole && RunInTerminal({command, ""})) return false;
-    gCreatingExe = job == Job::Build;
-    if (gCreatingExe) gTargetExe = target;
     frmDoc& document = *ActiveForm();
-    StartChild(document,
-               {job, path, gCurrentProject->SingleFile ? document.m_strDocumentWindowID : std::string()},
-               {command, ""});
+    StartChild(
+        document,
+        {job, path, gCurrentProject->SingleFile ? document.m_strDocumentWindowID : std::string(), target},
+        {command, ""});
     return false;
 }
 
@@ -180,6 +190,7 @@ bool StartJob(Job job, std::string path, bool debug) {
 bool Compile(const std::string& path, bool debug) {
     return Guarded("Compile", "Mod_Compiler", false, [&] {
         gLastCompiledFile = path;
+        lastCompiled = DocumentActive() ? ActiveForm()->Serial : 0;
         return StartJob(Job::Run, path, debug);
     });
 }
@@ -195,10 +206,10 @@ bool CreateExe(const std::string& path) {
 
 void CompileLast() {
     if (gHost.dock == nullptr) return;
-    if (DocumentWindow* window = gHost.dock->FindDocumentWindow(gLastCompiledFile)) {
-        window->Activate();
-        if (window->HostedForm() != nullptr) MakeActive(static_cast<frmDoc*>(window->HostedForm()));
-    }
+    // A document that was saved under another name since is still the one that was compiled.
+    frmDoc* document = DocumentOfSerial(lastCompiled);
+    if (document == nullptr) document = Mod_File::DocumentOfPath(gLastCompiledFile);
+    if (document != nullptr) BringToFront(*document);
     if (DocumentActive()) Compile(ActiveForm()->FullFilename, false);
 }
 
@@ -214,9 +225,9 @@ void RunLastCreated() {
     if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
     if (RunInTerminal(start)) return;
     if (DocumentActive())
-        StartChild(*ActiveForm(), {Job::Run, Options::gLastCreatedExe, {}, false}, start);
+        StartChild(*ActiveForm(), {Job::Run, Options::gLastCreatedExe, {}, {}, false}, start);
     else if (const SystemError error = gHost.processes->StartDetached(start.command))
-        Exclaim(error.text);
+        TellProblem(error.text);
 }
 
 void StopRunning() {

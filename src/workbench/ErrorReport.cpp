@@ -30,11 +30,13 @@ std::string ErrorReportText(std::string_view mailbox, std::string_view log) {
 
 std::string ErrorReportFile() { return AppDir() + "/" + std::string(ProgramName) + " - Error Report.eml"; }
 
-void PrepareErrorReport() {
-    const std::string log = AppDir() + "/error.log";
-    const std::string draft = ErrorReportFile();
+void WriteErrorReport() {
     const std::string mailbox = gHost.settings->Get("Options", "ErrorReportMailbox", "");
-    gHost.files->Write(draft, ErrorReportText(mailbox, gHost.files->Read(log)));
-    gHost.files->OpenWithDesktop(draft);
-    gHost.files->Write(log, "");
+    gHost.files->Write(ErrorReportFile(),
+                       ErrorReportText(mailbox, gHost.files->Read(AppDir() + "/error.log")));
+}
+
+void HandOverErrorReport() {
+    gHost.files->OpenWithDesktop(ErrorReportFile());
+    gHost.files->Write(AppDir() + "/error.log", "");
 }

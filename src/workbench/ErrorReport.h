@@ -10,6 +10,7 @@ std::string ErrorReportText(std::string_view mailbox, std::string_view log);
 // Where the draft is written.
 std::string ErrorReportFile();
 
-// Writes the draft from error.log below AppDir, opens it with the desktop's mail program and empties the
-// log. Fails when a file cannot be read or written.
-void PrepareErrorReport();
+// Writes the draft from error.log below AppDir. Fails when a file cannot be read or written.
+void WriteErrorReport();
+// Opens the draft with the desktop's mail program and empties the log. Fails when either cannot be done.
+void HandOverErrorReport();

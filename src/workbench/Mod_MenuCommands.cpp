@@ -2,7 +2,6 @@
 #include "workbench/Mod_MenuCommands.h"
 
 #include "documents/ClsMRU.h"
-#include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -72,15 +71,18 @@ void cboCompilers() {
     Guarded("cboCompilers", "Mod_MenuCommands", [] {
         DockCommand* box = gHost.dock->FindCommand("cboCompilers");
         if (!box || !gActiveCompiler || !gCurrentProject) return;
-        if (EqualNoCase(box->Text(), gCurrentProject->Compiler)) return;
+        // A project can name one compiler while another stands in for it.
+        if (EqualNoCase(box->Text(), gCurrentProject->Compiler) &&
+            EqualNoCase(box->Text(), gActiveCompiler->Name))
+            return;
         const auto compiler = gCompilers.Find(box->Text());
         if (!compiler || !compiler->SetDefaultKeywords()) {
             box->SetText(gActiveCompiler->Name);
             return;
         }
         ClsProject& project = *gCurrentProject;
+        if (!project.SingleFile && project.Compiler != compiler->Name) project.Dirty = true;
         project.Compiler = compiler->Name;
-        if (!project.SingleFile) project.Dirty = true;
         if (compiler == gActiveCompiler) return; // it stood in for one that is not known here
         gActiveCompiler = compiler;
         for (const auto& source : project.Sources) {
@@ -94,9 +96,7 @@ void cboCompilers() {
 
 void cboCommandLine() {
     const DockCommand* box = gHost.dock->FindCommand("cboCommandLine");
-    if (!box) return;
-    if (gCurrentProject) Mod_Project::SetCommandLine(*gCurrentProject, box->Text());
-    if (box->Text().empty()) return;
+    if (!box || box->Text().empty()) return;
     MRUCommandLine.Add(box->Text());
     MRUCommandLine.Save();
     frmMain::Instance().PopulateCboCommandLine();

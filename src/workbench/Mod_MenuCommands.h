@@ -38,7 +38,8 @@ void FocusText();
 // Makes the compiler that was picked in the box the active project's one; the old name comes back when
 // its keywords cannot be loaded.
 void cboCompilers();
-// Makes the text in the box the command line of the active project, and the first of those to choose from.
+// Makes the text in the box the first of those to choose from. The project that it was typed for has it
+// already, and another one may be the active one by now.
 void cboCommandLine();
 // Shows a pane that is hidden, and hides one that is shown.
 void TogglePane(const char* pane);

@@ -92,10 +92,15 @@ void frmError::OpenLog() {
 }
 
 void frmError::SendReport() {
-    Tell([] { PrepareErrorReport(); });
+    bool written = false;
+    Tell([&] {
+        WriteErrorReport();
+        written = true;
+        HandOverErrorReport();
+    });
     accept();
     // Not every system has a mail program that opens a draft.
-    if (gHost.files->Kind(ErrorReportFile()) == PathKind::File)
+    if (written)
         gHost.dialogs->Show({.text = "The error report is in the file\r\n" + ErrorReportFile(),
                              .icon = MessageIcon::Information});
 }

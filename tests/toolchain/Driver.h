@@ -35,7 +35,6 @@ struct Driver : testing::Test {
     }
     void TearDown() override {
         gToolchainCalls = {};
-        Mod_Compiler::gCreatingExe = false;
         Mod_Compiler::gLastCompiledFile.clear();
     }
 

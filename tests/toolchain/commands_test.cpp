@@ -3,6 +3,7 @@
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "editor/EditorCalls.h"
+#include "editor/OpenDocuments.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/Driver.h"
@@ -106,6 +107,12 @@ TEST_F(CommandsTest, AProjectIsCompiledFromItsMainFile) {
     EXPECT_EQ(Command([&] { Compile(lib, false); }),
               Quoted(compiler) + " " + Quoted(session.host.Path("Game/Main.bb")) + " -x");
     EXPECT_EQ(session.Bytes(lib).find("; changed\r\n"), 0u);
+    session.Type("; unsaved\r\n");
+    session.host.files.writesFail = true;
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Compile(lib, false); // what is on disk is not what the user sees
+    EXPECT_EQ(processes.started.size(), 1u);
+    session.host.files.writesFail = false;
     EXPECT_EQ(session.Bytes(other), "o=1\r\n"); // belongs to nobody here
     Options::gOnCompileSave = 0;
     Command([&] { CheckForErrors(lib); });
@@ -136,6 +143,7 @@ TEST_F(CommandsTest, AConsoleOfItsOwnIsATerminalAndWithoutOneTheOutputPane) {
     dialogs.WillAnswer(MessageAnswer::Ok);
     Compile(path, false);
     EXPECT_EQ(Message(), "no terminal today");
+    EXPECT_EQ(output, std::vector<std::string>{"no terminal today"});
     processes.hasTerminal = false;
     EXPECT_EQ(Command([&] { Compile(path, false); }), command);
     EXPECT_EQ(output.size(), 1u); // says so
@@ -160,9 +168,15 @@ TEST_F(CommandsTest, ACompilerThatCannotBeStartedSaysWhy) {
 TEST_F(CommandsTest, CompileAndRunLastGoesBackToItsDocument) {
     const std::string first = session.Open("first.bb", "").FullFilename;
     Command([&] { Compile(first, false); });
-    session.Open("second.bb", "");
+    frmDoc& second = session.Open("second.bb", "");
     EXPECT_EQ(Command([] { CompileLast(); }), Quoted(compiler) + " " + Quoted(first));
     EXPECT_EQ(ActiveForm()->FullFilename, first);
+    // It is found under a name that it got later, too.
+    const std::string renamed = session.host.Path("renamed.bb");
+    dialogs.WillSave(renamed);
+    ASSERT_TRUE(Mod_File::SaveFileAs(ActiveForm()));
+    BringToFront(second);
+    EXPECT_EQ(Command([] { CompileLast(); }), Quoted(compiler) + " " + Quoted(renamed));
 }
 
 TEST_F(CommandsTest, TheLastExecutableIsRememberedWhenItsBuildEnds) {
@@ -191,11 +205,11 @@ TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
     processes.WillStart({.ends = false});
     Compile(path, false);
     ASSERT_TRUE(ActiveForm()->ShellClass->Running());
-    TipText word;
-    gEditorCalls.SetTipText = [&](const TipText& tip) { word = tip; };
+    std::string word;
+    gEditorCalls.SetNotice = [&](const std::string& text) { word = text; };
     session.Type("x");
     Compile(path, false); // one at a time: nothing is saved, cleared or shown
-    EXPECT_EQ(word.left, "Process already running.");
+    EXPECT_EQ(word, "Process already running.");
     EXPECT_TRUE(ActiveForm()->Dirty);
     EXPECT_EQ(cleared, 1);
     gEditorCalls = {};

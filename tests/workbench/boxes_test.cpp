@@ -55,6 +55,8 @@ TEST_F(BoxesTest, TheNextRunGetsWhatStandsInTheCommandLineBox) {
     TypeCommandLine("-level 3");
     EXPECT_EQ(gCurrentProject->CommandLine, "-level 3"); // not entered, and the next run has it
     session.Open("second.bb", "");
+    window.DS_ComboTextCommitted(commandLine); // the box loses the focus when the next document has come
+    EXPECT_EQ(gCurrentProject->CommandLine, "");
     window.DS_DocumentWindowActivate(*session.host.dock.ActiveDocumentWindow(), false);
     EXPECT_EQ(commandLine.Text(), "");
     EXPECT_EQ(gProjects.Find(first)->CommandLine, "-level 3");
@@ -72,6 +74,10 @@ TEST_F(BoxesTest, ANewCompilerParsesEveryDocumentOfTheProjectAnew) {
     ASSERT_NE(FindKeyword("PRINT"), nullptr);
     EXPECT_EQ(gCurrentProject->Globals.Count(), 2);
     EXPECT_FALSE(document.Dirty);
+    gCurrentProject->Compiler = "Bare"; // as a file's block may say
+    session.host.dialogs.WillAnswer(MessageAnswer::Ok);
+    Choose("Bare"); // told again, for it was chosen
+    EXPECT_EQ(compilers.Text(), "ZoltoBasic");
     Choose("Loud");
     EXPECT_EQ(gActiveCompiler->Name, "Loud");
     EXPECT_EQ(gCurrentProject->Compiler, "Loud");

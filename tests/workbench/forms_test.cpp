@@ -35,7 +35,8 @@ TEST(ErrorReportTest, TheDraftHoldsTheLogAndTheLogIsEmptied) {
     FakeHost host;
     host.Put("error.log", "entry\r\n");
     host.settings.Save("Options", "ErrorReportMailbox", "bugs@example.org");
-    PrepareErrorReport();
+    WriteErrorReport();
+    HandOverErrorReport();
     const std::string draft = host.Path("Zolto - Error Report.eml");
     EXPECT_EQ(host.files.openedWithDesktop, std::vector<std::string>{draft});
     EXPECT_EQ(host.ErrorLog(), "");
