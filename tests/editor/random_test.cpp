@@ -247,6 +247,7 @@ protected:
         }
         if (told && !difference.empty()) *told += "Now the text is:\n" + Mod_Sci::GetText() + "\n";
         Close(document);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // thousands of views
         const std::string late = TakeLog();
         return difference.empty() ? late : difference;
     }
