@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/EndSignals.h"
 #include "app/FirstStart.h"
+#include "app/ReadableStyle.h"
 #include "app/Theme.h"
 #include "app/wire_up.h"
 
@@ -83,6 +84,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     // Closing the main window ends the program, and only when its documents agreed to close.
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new ReadableStyle);
     FollowPalette();
     QApplication::setWindowIcon(QIcon::fromTheme("zolto", QIcon::fromTheme("text-x-script")));
     Services services;

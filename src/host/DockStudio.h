@@ -29,6 +29,8 @@ public:
     virtual bool Visible() const = 0;
     virtual void SetVisible(bool visible) = 0;
     virtual void SetAutoRepeat(bool repeat) = 0; // of its first shortcut
+    // Whether it fires just now by its shortcut, and not by a menu or a button.
+    virtual bool FiredByKey() const { return false; }
 
     // A combo's or a list's entries, and the text that stands in a combo or a status pane.
     virtual void SetItems(const std::vector<std::string>& items) = 0;
@@ -71,7 +73,12 @@ public:
     virtual bool AutoHidden() const = 0;
     virtual void SetAutoHidden(bool autoHidden) = 0;
     virtual void Show() = 0; // and gives it the focus
-    virtual void Hide() = 0;
+    virtual void Hide() = 0; // a focus that was in it goes to the documents
+    virtual bool HasFocus() const = 0;
+    virtual bool Floating() const = 0;
+    virtual void SetFloating(bool floating) = 0; // and gives it the focus
+    // Makes it larger by some steps, or smaller by a negative number of them.
+    virtual void Enlarge(int steps) = 0;
 };
 
 class DockBar {
@@ -167,6 +174,13 @@ public:
     // Makes the document windows of such a text, without forms where they aren't there yet, and puts all of
     // them in their places. Throws a Failure and changes nothing when the text is damaged.
     virtual void SetWindowsText(const std::string& text) = 0;
+
+    // Gives the focus to the next (1) or previous (-1) part of the window: the text, a pane, an edge with
+    // panes that are rolled away, a box of a tool bar.
+    virtual void NextPane(int step) = 0;
+    // The pane that has the focus or had it last, else the first that is shown; null where none is.
+    virtual DockPane* CurrentPane() = 0;
+    virtual void OpenMenuBar() = 0;
 
     virtual void SuspendRepaint(bool suspend) = 0;
 

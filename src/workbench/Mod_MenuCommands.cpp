@@ -102,10 +102,14 @@ void cboCommandLine() {
     frmMain::Instance().PopulateCboCommandLine();
 }
 
-void TogglePane(const char* pane) {
+void ShowPane(const char* pane) {
+    if (DockPane* found = gHost.dock->FindPane(pane)) found->Show();
+}
+
+void TogglePane(const char* pane, bool byKey) {
     DockPane* found = gHost.dock->FindPane(pane);
     if (!found) return;
-    if (found->Visible() && !found->AutoHidden())
+    if (found->Visible() && !found->AutoHidden() && (!byKey || found->HasFocus()))
         found->Hide();
     else
         found->Show();
@@ -129,12 +133,13 @@ void CloseTab() {
     if (DocumentWindow* window = gHost.dock->ActiveDocumentWindow()) window->SetVisible(false);
 }
 
-void NextFileTab() {
-    Guarded("NextFileTab", "Mod_MenuCommands", [] {
+void NextFileTab(bool byKey) {
+    Guarded("NextFileTab", "Mod_MenuCommands", [byKey] {
         DockStudio& dock = *gHost.dock;
         if (dock.DocumentWindows().size() < 2) return;
-        // While Control stays down, further presses walk on through the group.
-        if (Options::gTabbingStartsWithPrevious == 0 || !ControlWasReleased()) return dock.NextTab(1);
+        // While Control stays down, further presses walk on through the group, as the menu always does.
+        if (Options::gTabbingStartsWithPrevious == 0 || !byKey || !ControlWasReleased())
+            return dock.NextTab(1);
         RecentTabs& tabs = frmMain::Instance().Tabs();
         const DocumentWindow* active = dock.ActiveDocumentWindow();
         if (active && tabs.previous != active->Key())

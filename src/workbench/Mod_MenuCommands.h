@@ -41,8 +41,10 @@ void cboCompilers();
 // Makes the text in the box the first of those to choose from. The project that it was typed for has it
 // already, and another one may be the active one by now.
 void cboCommandLine();
-// Shows a pane that is hidden, and hides one that is shown.
-void TogglePane(const char* pane);
+// Shows a pane that is hidden, and hides one that is shown; by key only one that has the focus.
+void TogglePane(const char* pane, bool byKey);
+// Shows a pane and gives it the focus.
+void ShowPane(const char* pane);
 void ToggleStatusBar();
 // Shows the Code Explorer's list of that name and gives it the focus. Asks for a line and goes there.
 void ExploreFocusOn(const std::string& word);
@@ -50,8 +52,8 @@ void AskGotoLine();
 void CloseFile();
 // Closes the tab in front, whatever it shows, as its own button does.
 void CloseTab();
-// The next tab of the group, or the one before with gTabbingStartsWithPrevious.
-void NextFileTab();
+// The next tab of the group; by key the one before with gTabbingStartsWithPrevious.
+void NextFileTab(bool byKey);
 void ActivateWindow(int index);
 
 // Layouts 1 to 3: the arrangement in a file and the window's place in the settings store.

@@ -86,6 +86,26 @@ void OpenRecentProject(const Click& click) {
 }
 void Explore(const Click& click) { ExploreFocusOn(click.command.Name()); }
 
+void Toggle(const char* pane, const Click& click) { TogglePane(pane, click.command.FiredByKey()); }
+
+template <class Change>
+void OfCurrentPane(Change change) {
+    if (DockPane* pane = gHost.dock->CurrentPane()) change(*pane);
+}
+
+void FloatPane(const Click&) {
+    OfCurrentPane([](DockPane& pane) { pane.SetFloating(!pane.Floating()); });
+}
+
+void AutoHidePane(const Click&) {
+    OfCurrentPane([](DockPane& pane) { pane.SetAutoHidden(!pane.AutoHidden()); });
+}
+
+template <int Steps>
+void EnlargePane(const Click&) {
+    OfCurrentPane([](DockPane& pane) { pane.Enlarge(Steps); });
+}
+
 void NotAvailable(const Click&) {
     gHost.dialogs->Show({.text = "This feature is not available yet, please wait for the next release... ",
                          .icon = MessageIcon::Information});
@@ -174,7 +194,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"Load Last Workspace", [](const Click&) { Mod_File::LoadWorkSpace(Mod_File::LastWorkspace()); }},
         {"Open Workspace", Run<Mod_File::OpenWorkspace>},
         {"Save Workspace As", Run<Mod_File::SaveWorkSpaceAs>},
-        {"Next File Tab", [](const Click&) { NextFileTab(); }},
+        {"Next File Tab", [](const Click& click) { NextFileTab(click.command.FiredByKey()); }},
         {"Previous File Tab", [](const Click&) { gHost.dock->NextTab(-1); }},
         {"Exit", [](const Click&) { gHost.dock->CloseWindow(); }},
         {"Save This Project", nullptr},
@@ -194,11 +214,11 @@ const std::vector<RoutedCommand>& Routes() {
         {"WindowList", [](const Click& click) { ActivateWindow(click.item); }},
         {"New Horizontal Tab Group", [](const Click&) { gHost.dock->NewTabGroup(false); }},
         {"New Vertical Tab Group", [](const Click&) { gHost.dock->NewTabGroup(true); }},
-        {"File Explorer", [](const Click&) { TogglePane("FileExplorer"); }},
-        {"Output Window", [](const Click&) { TogglePane("Output"); }},
-        {"Projects Manager", [](const Click&) { TogglePane("Projects"); }},
-        {"Snippets Manager", [](const Click&) { TogglePane("Snippets"); }},
-        {"Code Explorer", [](const Click&) { TogglePane("CodeExplorer"); }},
+        {"File Explorer", [](const Click& click) { Toggle("FileExplorer", click); }},
+        {"Output Window", [](const Click& click) { Toggle("Output", click); }},
+        {"Projects Manager", [](const Click& click) { Toggle("Projects", click); }},
+        {"Snippets Manager", [](const Click& click) { Toggle("Snippets", click); }},
+        {"Code Explorer", [](const Click& click) { Toggle("CodeExplorer", click); }},
         {"Functions", Explore},
         {"Types", Explore},
         {"Arrays", Explore},
@@ -254,6 +274,14 @@ const std::vector<RoutedCommand>& Routes() {
         {"Move To Next Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(1); }},
         {"Move To Previous Tab Group", [](const Click&) { gHost.dock->MoveToTabGroup(-1); }},
         {"Close Tab", [](const Click&) { CloseTab(); }},
+        {"Next Pane", [](const Click&) { gHost.dock->NextPane(1); }},
+        {"Previous Pane", [](const Click&) { gHost.dock->NextPane(-1); }},
+        {"Go to Output", [](const Click&) { ShowPane("Output"); }},
+        {"Float Pane", FloatPane},
+        {"Auto-Hide Pane", AutoHidePane},
+        {"Enlarge Pane", EnlargePane<1>},
+        {"Shrink Pane", EnlargePane<-1>},
+        {"Menu Bar", [](const Click&) { gHost.dock->OpenMenuBar(); }},
     };
     return table;
 }

@@ -57,6 +57,7 @@ private:
     void Remember();
     void Expand(bool expanded);
     void Enable();
+    static void StopAtChosen(const QButtonGroup& group);
     void NewRun();
     void ShowRun();
     void ShowFound(bool found, bool interactive);

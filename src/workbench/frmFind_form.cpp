@@ -36,6 +36,7 @@ QComboBox* Field(const char* name, const QString& spoken) {
     box->setObjectName(name);
     box->setAccessibleName(spoken);
     box->setEditable(true);
+    box->lineEdit()->setAccessibleName(spoken);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr); // what is typed is what is looked for
     box->setMaxVisibleItems(ReplaceEntries);
@@ -98,7 +99,6 @@ void frmFind::MakeControls() {
     lblStatus->setObjectName("lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
     lblStatus->setMinimumHeight(lblFind->sizeHint().height()); // the dialog keeps its size without a result
-    lblStatus->setAccessibleName(tr("Result"));
     cmdFind = Button("cmdFind", tr("&Find"));
     cmdFindPrev = Button("cmdFindPrev", tr("Find Previous from cursor"));
     cmdInsertWordUnderCursor = Button("cmdInsertWordUnderCursor", tr("Insert word under cursor"));
@@ -221,7 +221,15 @@ bool frmFind::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
+// Tab stops at the option that is chosen, and the arrow keys choose among them.
+void frmFind::StopAtChosen(const QButtonGroup& group) {
+    for (QAbstractButton* button : group.buttons())
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 void frmFind::Enable() {
+    StopAtChosen(*optStartAt);
+    StopAtChosen(*optSearchIn);
     const bool selection = optSearchIn->checkedId() == static_cast<int>(SearchIn::Selection);
     startAt_->setEnabled(!selection);
     cmdFindPrev->setEnabled(!selection);

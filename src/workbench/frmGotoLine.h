@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QLineEdit;
 
 class frmGotoLine : public QDialog {
@@ -14,5 +15,6 @@ private:
     void cmdOK_Click();
 
     QLineEdit* txtLine_;
+    QLabel* lblWrong_; // says what is wrong with the number
     long lines_;
 };

@@ -194,5 +194,4 @@ void frmList::ShowControl() {
     if (control->objectName() == LastVisibleControl) return;
     LastVisibleControl = control->objectName();
     setCurrentWidget(control);
-    setFocusProxy(&ShownList());
 }

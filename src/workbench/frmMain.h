@@ -72,6 +72,7 @@ private:
     void AttachDockForm(const std::string& pane, const std::string& caption, const std::string& icon,
                         Form& form, bool addNew);
     void ActivateDocument(frmDoc& document);
+    void ForgetDocument();
     void ShowProgressPane(bool progress);
 
     DockCommand* statusMain_ = nullptr;

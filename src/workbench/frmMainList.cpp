@@ -21,10 +21,14 @@ constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr QSize PaneSize(320, 420); // where the arrangement says nothing
 constexpr int Spacing = 2;
 
-// Asks for a pane of a useful width.
+// Asks for a pane of a useful width, and hands the focus on to the list on show. As a focus proxy that list
+// would make Tab pass over what stands in front of it.
 class Pane : public QWidget {
 public:
     QSize sizeHint() const override { return PaneSize; }
+
+protected:
+    void focusInEvent(QFocusEvent*) override { frmMainList::Instance().FocusList(); }
 };
 
 bool HelpIsActive() {
@@ -33,7 +37,11 @@ bool HelpIsActive() {
 }
 
 void FocusDocument() {
-    if (const frmDoc* document = ActiveForm()) document->View->GrabFocus();
+    const frmDoc* document = ActiveForm();
+    if (!document) return;
+    // The pane may float, in a window that is the active one.
+    static_cast<QWidget*>(document->View->NativeWidget())->window()->activateWindow();
+    document->View->GrabFocus();
 }
 
 }
@@ -67,6 +75,8 @@ frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new Q
     filter_->setAccessibleName(tr("Filter"));
     filter_->setObjectName("txtFilter");
     filter_->setClearButtonEnabled(true);
+    for (auto* clear : filter_->findChildren<QToolButton*>())
+        clear->setAccessibleName(tr("Clear the filter"));
     filter_->installEventFilter(this);
     connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
         lists_->SetFilter(text.trimmed().toStdString());
@@ -78,7 +88,6 @@ frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new Q
     layout->addLayout(kinds);
     layout->addWidget(filter_);
     layout->addWidget(lists_, 1);
-    pane_->setFocusProxy(lists_);
     lists_->LeaveList = FocusDocument;
     CheckButtons();
 }

@@ -7,6 +7,7 @@
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
+#include "editor/EditorCalls.h"
 #include "editor/Mod_SciFun_tips.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -109,8 +110,18 @@ void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {
         if (document) UnloadDocument(document);
         gHost.dock->DropDocumentWindow(window);
         frmMainList::Instance().PuniLista(); // a project that has gone is forgotten
+        if (!ActiveDocument()) ForgetDocument();
         UpdateCommandUI();
     });
+}
+
+// The status bar and the boxes tell of a document; without one there is nothing to tell.
+void frmMain::ForgetDocument() {
+    SetPositionText({});
+    SetFunctionText({});
+    SetTipText({});
+    SetBox("cboCompilers", {});
+    SetBox("cboCommandLine", {});
 }
 
 void frmMain::DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) {

@@ -70,6 +70,10 @@ public:
     void SetAutoHidden(bool hidden) override { autoHidden = hidden; }
     void Show() override { Set(true); }
     void Hide() override { Set(false); }
+    bool HasFocus() const override { return false; }
+    bool Floating() const override { return false; }
+    void SetFloating(bool) override {}
+    void Enlarge(int) override {}
     bool autoHidden = false;
 
 private:
@@ -121,6 +125,9 @@ public:
     // The windows alone: there are no groups here.
     std::string WindowsText() override;
     void SetWindowsText(const std::string& text) override;
+    void NextPane(int) override {}
+    DockPane* CurrentPane() override { return nullptr; }
+    void OpenMenuBar() override {}
     void SuspendRepaint(bool suspend) override { suspended += suspend ? 1 : -1; }
     void Customize() override { ++customized; }
     void RemoveFromBar(const std::string& bar, const std::string& command) override;

@@ -1,6 +1,7 @@
 // All commands of the main window by name, and the one place from which they fire.
 #include "host/qt/CommandTable.h"
 
+#include <QPointer>
 #include <algorithm>
 
 QtCommand* CommandTable::Find(const std::string& name) const {
@@ -44,6 +45,13 @@ void CommandTable::Replace(const std::vector<LayoutCommand>& records) {
 
 void CommandTable::Fire(QtCommand& command, int item) const {
     if (events && command.Enabled()) events->DS_CommandClick(command, item);
+}
+
+void CommandTable::FireByKey(QtCommand& command) const {
+    const QPointer<QtCommand> fired(&command); // an arrangement that it loads may lack it
+    command.SetFiredByKey(true);
+    Fire(command);
+    if (fired) fired->SetFiredByKey(false);
 }
 
 QtCommand* CommandTable::OwnerOf(QKeyCombination key) const {

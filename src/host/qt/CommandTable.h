@@ -18,6 +18,7 @@ public:
 
     // Tells the owner that a command was chosen; a disabled one is not.
     void Fire(QtCommand& command, int item = -1) const;
+    void FireByKey(QtCommand& command) const;
     // The enabled command of a key, null where there is none.
     QtCommand* OfKey(QKeyCombination key) const;
 

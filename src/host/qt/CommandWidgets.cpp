@@ -4,6 +4,7 @@
 #include "host/qt/QtText.h"
 #include "host/qt/StatusText.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -18,7 +19,7 @@ constexpr int ClockMilliseconds = 1000;
 
 QWidget* MakeLabel(QtCommand& command, QWidget* parent) {
     auto* label = new StatusText(command.Record().width, parent);
-    label->setAccessibleName(command.PlainCaption());
+    label->setAccessibleDescription(command.PlainCaption());
     const auto show = [&command, label] {
         const MarkedText& text = command.Marked();
         const QColor colour(text.colour & 0xFF, (text.colour >> 8) & 0xFF, (text.colour >> 16) & 0xFF);
@@ -43,7 +44,7 @@ QWidget* MakeProgress(QtCommand& command, QWidget* parent) {
 QWidget* MakeClock(QtCommand& command, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setContentsMargins(SideMargin, 0, SideMargin, 0);
-    label->setAccessibleName(command.PlainCaption());
+    label->setAccessibleDescription(command.PlainCaption()); // its name is the time that it shows
     const auto show = [label] {
         label->setText(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
     };
@@ -65,9 +66,10 @@ CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* par
     setAccessibleName(command.PlainCaption());
     setProperty("command", Shown(record.name));
     setToolTip(command.PlainCaption());
-    setFocusPolicy(isEditable() ? Qt::StrongFocus : Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     if (isEditable()) {
         lineEdit()->setPlaceholderText(command.PlainCaption());
+        lineEdit()->setAccessibleName(command.PlainCaption());
         setCompleter(nullptr);
         connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { Changed(true); });
         // Leaving the box commits what was typed and not entered yet.
@@ -81,6 +83,12 @@ CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* par
     connect(&command, &QtCommand::TextShown, this, &CommandCombo::ShowText);
     connect(&command, &QtCommand::StateChanged, this, [this] { setEnabled(command_.Enabled()); });
     ShowItems();
+}
+
+// The toolkit's box takes Escape for a letter to look for.
+void CommandCombo::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) return event->ignore();
+    QComboBox::keyPressEvent(event);
 }
 
 void CommandCombo::ShowItems() {

@@ -13,6 +13,9 @@ class CommandCombo : public QComboBox {
 public:
     CommandCombo(QtCommand& command, CommandTable& table, QWidget* parent);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void ShowItems();
     void ShowText();

@@ -18,6 +18,7 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     setWindowTitle(tr("Customize"));
     auto* pages = new QTabWidget;
     pages->setAccessibleName(tr("What to change"));
+    pages->tabBar()->setAccessibleName(pages->accessibleName());
     pages->addTab(keys_, tr("&Keyboard"));
     pages->addTab(places_, tr("Bars and &Menus"));
     auto* parts = new QSplitter;
@@ -32,6 +33,8 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(parts, 1);
     column->addWidget(buttons);
+    // Tab comes into the box at its first button, and would pass over what stands behind in the order.
+    setTabOrder(revert, buttons->button(QDialogButtonBox::Close));
     // Enter belongs to the fields and lists, not to a button that happens to stand first.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);

@@ -2,6 +2,7 @@
 #include "host/qt/EdgeStrip.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
@@ -57,6 +58,11 @@ void EdgeTab::enterEvent(QEnterEvent* event) {
     emit Hovered();
 }
 
+void EdgeTab::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    QToolButton::keyPressEvent(event);
+}
+
 EdgeStrip::EdgeStrip(Qt::ToolBarArea edge, QMainWindow& window) : edge_(edge) {
     setObjectName(NameOf(edge));
     setWindowTitle(tr("Panes at the edge"));
@@ -88,6 +94,12 @@ void EdgeStrip::RemoveTab(EdgeTab* tab) {
         action->deleteLater();
     }
     ShowIfNeeded();
+}
+
+void EdgeStrip::FocusFirstTab() {
+    if (actions().isEmpty()) return;
+    window()->activateWindow();
+    widgetForAction(actions().first())->setFocus(Qt::TabFocusReason);
 }
 
 void EdgeStrip::ShowIfNeeded() { setVisible(!actions().isEmpty()); }

@@ -20,6 +20,7 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     bool Upright() const { return edge_ == Qt::LeftToolBarArea || edge_ == Qt::RightToolBarArea; }
@@ -35,6 +36,7 @@ public:
     Qt::ToolBarArea Edge() const { return edge_; }
     EdgeTab* AddTab(const QString& caption, const QIcon& icon);
     void RemoveTab(EdgeTab* tab);
+    void FocusFirstTab();
     // Shows or hides the strip by whether a tab is shown, also after the window's record was restored.
     void ShowIfNeeded();
 

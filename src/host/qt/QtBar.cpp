@@ -15,6 +15,9 @@ QtBar::QtBar(LayoutBar record, QMainWindow& window, CommandTable& table)
         // The name is how the window's record of places knows the bar.
         toolBar_->setObjectName("bar-" + Shown(record_.name));
         window_.addToolBar(toolBar_);
+        // The toolkit's button for what the window is too narrow for.
+        if (auto* more = toolBar_->findChild<QToolButton*>("qt_toolbar_ext_button"))
+            more->setAccessibleName(QObject::tr("More of %1").arg(Shown(record_.caption)));
     }
     Replace(std::move(record_));
 }

@@ -36,6 +36,8 @@ public:
     bool Visible() const override { return record_.visible; }
     void SetVisible(bool visible) override;
     void SetAutoRepeat(bool repeat) override { autoRepeat_ = repeat; }
+    bool FiredByKey() const override { return byKey_; }
+    void SetFiredByKey(bool byKey) { byKey_ = byKey; }
     void SetItems(const std::vector<std::string>& items) override;
     std::vector<std::string> Items() const override { return items_; }
     std::string Text() const override { return text_; }
@@ -73,4 +75,5 @@ private:
     std::string text_;
     MarkedText marked_;
     bool autoRepeat_ = false;
+    bool byKey_ = false;
 };

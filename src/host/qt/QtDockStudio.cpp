@@ -8,6 +8,7 @@
 #include "host/qt/QtText.h"
 #include "host/qt/StartPage.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <algorithm>
 
@@ -44,6 +45,8 @@ QtDockStudio::QtDockStudio()
     paneOwner_.dragged = [this](const std::string& pane, bool begins) {
         if (events_) events_->DS_PaneDragged(pane, begins);
     };
+    paneOwner_.leave = window_.leave = [this] { FocusDocuments(); };
+    QObject::connect(qApp, &QApplication::focusChanged, &window_, [this] { NoteFocus(); });
     paneOwner_.strips = {{Qt::LeftDockWidgetArea, new EdgeStrip(Qt::LeftToolBarArea, window_)},
                          {Qt::RightDockWidgetArea, new EdgeStrip(Qt::RightToolBarArea, window_)},
                          {Qt::TopDockWidgetArea, new EdgeStrip(Qt::TopToolBarArea, window_)},
@@ -55,6 +58,8 @@ QtDockStudio::~QtDockStudio() {
     settle_.stop();
     delete customizing_;
     area_->disconnect(&window_);
+    QObject::disconnect(qApp, nullptr, &window_, nullptr);
+    window_.leave = paneOwner_.leave = [] {};
     window_.mayClose = nullptr;
     window_.resized = nullptr;
     // The documents go first, while the window that holds their pages is still whole.

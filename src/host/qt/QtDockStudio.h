@@ -44,6 +44,9 @@ public:
     void NextTab(int step) override;
     void NewTabGroup(bool vertical) override;
     void MoveToTabGroup(int step) override;
+    void NextPane(int step) override;
+    DockPane* CurrentPane() override;
+    void OpenMenuBar() override;
     std::string WindowsText() override;
     void SetWindowsText(const std::string& text) override;
     void SuspendRepaint(bool suspend) override;
@@ -86,6 +89,15 @@ private:
     void ShowTitle();
     void FillBarMenu(QMenu& menu);
 
+    // A part of the window that the keyboard stops at.
+    struct Stop {
+        bool here; // it has the focus
+        std::function<void()> go;
+    };
+    std::vector<Stop> Stops();
+    void FocusDocuments();
+    void NoteFocus();
+
     StudioWindow window_;
     CommandTable table_;
     Menus menus_;
@@ -99,6 +111,7 @@ private:
     Layout before_; // as it was when customising began
     QPointer<CustomizeDialog> customizing_;
     std::string factoryPath_;
+    std::string lastPane_; // the focus was in it last
     // What a loaded arrangement says of sizes, until the window has its size.
     QByteArray windowState_;
     LayoutDocuments documents_;

@@ -174,6 +174,11 @@ void QtDocumentArea::NextTab(int step) {
     if (QtDocumentWindow* window = OfPage(group->widget(next))) Activate(*window);
 }
 
+void QtDocumentArea::FocusActive() {
+    if (active_) return active_->FocusForm();
+    setFocus(Qt::OtherFocusReason);
+}
+
 QtDocumentWindow* QtDocumentArea::OfPage(QWidget* page) const {
     for (const auto& window : windows_)
         if (page && window->Page() == page) return window.get();

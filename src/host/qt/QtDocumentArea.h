@@ -31,6 +31,8 @@ public:
     void Hide(QtDocumentWindow& window) override;
     void Activate(QtDocumentWindow& window) override;
     void NextTab(int step);
+    // Gives the focus to the active document, or to what stands where there is none.
+    void FocusActive();
 
     // Moves the active window into a new group, beside its own one or below it.
     void NewTabGroup(bool vertical);

@@ -136,7 +136,9 @@ void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
     }
     ShowRightPage();
     ShowActive();
-    if (QtDocumentWindow* window = Find(documents.active); window && window->Group())
+    // Whoever works in a document goes on there; a workspace says itself which one is meant.
+    QtDocumentWindow* window = active_ && !create ? active_ : Find(documents.active);
+    if (window && window->Group())
         Activate(*window);
     else if (active_)
         active_->FocusForm();

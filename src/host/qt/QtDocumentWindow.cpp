@@ -66,7 +66,6 @@ void QtDocumentWindow::Attach(Form* form) {
     widget_ = form ? static_cast<QWidget*>(form->NativeWidget()) : nullptr;
     if (!widget_) return;
     page_->layout()->addWidget(widget_);
-    page_->setFocusProxy(widget_);
     NameWidget();
     widget_->installEventFilter(this);
     if (auto* scroll = qobject_cast<QAbstractScrollArea*>(widget_))

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,6 +22,7 @@ constexpr std::pair<const char*, Qt::DockWidgetArea> AreaNames[] = {
     {"bottom", Qt::BottomDockWidgetArea},
 };
 constexpr int UsualExtent = 280;
+constexpr int Step = 32; // pixels by which a key makes a pane larger
 
 Qt::DockWidgetArea AreaOf(const std::string& name) {
     for (const auto& [text, area] : AreaNames)
@@ -94,11 +96,28 @@ Qt::DockWidgetArea QtPane::Area() const {
     return area == Qt::NoDockWidgetArea ? AreaOf(record_.area) : area;
 }
 
+bool QtPane::Upright() const {
+    return Area() == Qt::LeftDockWidgetArea || Area() == Qt::RightDockWidgetArea;
+}
+
 int QtPane::Extent() const {
     if (rolled_) return rolled_->Extent();
     if (dock_->isHidden() || dock_->isFloating()) return record_.extent;
-    const bool upright = Area() == Qt::LeftDockWidgetArea || Area() == Qt::RightDockWidgetArea;
-    return upright ? dock_->width() : dock_->height();
+    return Upright() ? dock_->width() : dock_->height();
+}
+
+bool QtPane::HasFocus() const {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && (dock_->isAncestorOf(focus) || (rolled_ && rolled_->isAncestorOf(focus)));
+}
+
+void QtPane::SetFloating(bool floating) { floating ? Float() : MoveTo(Area()); }
+
+void QtPane::Enlarge(int steps) {
+    const int more = steps * Step;
+    if (rolled_) return rolled_->SetExtent(rolled_->Extent() + more);
+    if (dock_->isFloating()) return dock_->resize(dock_->size() + QSize(more, more));
+    window_.resizeDocks({dock_}, {Extent() + more}, Upright() ? Qt::Horizontal : Qt::Vertical);
 }
 
 void QtPane::SetAutoHidden(bool autoHidden) {
@@ -107,6 +126,7 @@ void QtPane::SetAutoHidden(bool autoHidden) {
     const bool present = Present();
     record_.extent = Extent();
     autoHidden_ = autoHidden;
+    if (autoHidden && HasFocus()) owner_.leave();
     if (!autoHidden) {
         RollBack();
         if (present) Show();
@@ -124,7 +144,7 @@ void QtPane::RollAway(int extent) {
     dock_->hide();
     rolled_ = std::make_unique<RolledPane>(*strip->second, window_, Shown(record_.caption),
                                            QIcon::fromTheme(Shown(record_.icon)),
-                                           extent > 0 ? extent : UsualExtent);
+                                           extent > 0 ? extent : UsualExtent, owner_.leave);
     rolled_->SetContent(content);
     ConnectTitle(rolled_->Title());
 }
@@ -153,10 +173,13 @@ void QtPane::Show() {
     }
     dock_->show();
     dock_->raise();
+    if (dock_->isFloating()) dock_->activateWindow();
     if (dock_->widget()) dock_->widget()->setFocus(Qt::OtherFocusReason);
 }
 
 void QtPane::Hide() {
+    // The toolkit would give the focus to whatever comes next.
+    if (HasFocus()) owner_.leave();
     if (!rolled_) return dock_->hide();
     record_.extent = Extent();
     const QScopedValueRollback<bool> guard(arranging_, true);
@@ -167,8 +190,7 @@ void QtPane::Hide() {
 
 void QtPane::TakeExtent() {
     if (record_.extent <= 0 || rolled_) return;
-    const bool upright = Area() == Qt::LeftDockWidgetArea || Area() == Qt::RightDockWidgetArea;
-    window_.resizeDocks({dock_}, {record_.extent}, upright ? Qt::Horizontal : Qt::Vertical);
+    window_.resizeDocks({dock_}, {record_.extent}, Upright() ? Qt::Horizontal : Qt::Vertical);
 }
 
 void QtPane::TabOnto(QtPane& first) {
@@ -178,6 +200,7 @@ void QtPane::TabOnto(QtPane& first) {
 }
 
 void QtPane::MoveTo(Qt::DockWidgetArea area) {
+    if (HasFocus()) owner_.leave();
     SetAutoHidden(false);
     dock_->setFloating(false);
     window_.addDockWidget(area, dock_);
@@ -186,6 +209,8 @@ void QtPane::MoveTo(Qt::DockWidgetArea area) {
 
 // In the middle of the window: where it stood docked it would look docked.
 void QtPane::Float() {
+    // On its way it would give the focus to the pane that comes next.
+    if (HasFocus()) owner_.leave();
     SetAutoHidden(false);
     dock_->setFloating(true);
     const QSize half = window_.size() / 2;
@@ -223,6 +248,11 @@ bool QtPane::eventFilter(QObject* watched, QEvent* event) {
         QPainter painter(dock_);
         painter.setPen(dock_->palette().color(QPalette::Mid));
         painter.drawRect(dock_->rect().adjusted(0, 0, -1, -1));
+    }
+    if (watched == dock_ && event->type() == QEvent::KeyPress && dock_->isFloating() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        owner_.leave();
+        return true;
     }
     if (watched == dock_ && event->type() == QEvent::MouseButtonPress)
         press_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();

@@ -18,6 +18,7 @@
 struct PaneOwner {
     std::function<void(const std::string& pane, bool shown)> shown;
     std::function<void(const std::string& pane, bool begins)> dragged;
+    std::function<void()> leave; // gives the focus to the documents
     std::map<Qt::DockWidgetArea, EdgeStrip*> strips; // one for each side
 };
 
@@ -31,6 +32,10 @@ public:
     void SetAutoHidden(bool autoHidden) override;
     void Show() override;
     void Hide() override;
+    bool HasFocus() const override;
+    bool Floating() const override { return !rolled_ && dock_->isFloating(); }
+    void SetFloating(bool floating) override;
+    void Enlarge(int steps) override;
 
     void Replace(const LayoutPane& record);
     void Attach(Form& form, const std::string& caption, const std::string& icon);
@@ -40,6 +45,7 @@ public:
     bool Present() const { return rolled_ || !dock_->isHidden(); }
     // Shown or hidden as a check mark says.
     void SetPresent(bool present) { present ? Show() : Hide(); }
+    Qt::DockWidgetArea Area() const;
     LayoutPane Record() const;
     // Gives it the extent of its record, and puts it as a tab onto another: for an arrangement without a
     // record of the window's own.
@@ -54,8 +60,8 @@ private:
     void MoveTo(Qt::DockWidgetArea area);
     void ShowMenu(const QPoint& global);
     void ConnectTitle(PaneTitle& title);
-    Qt::DockWidgetArea Area() const;
     int Extent() const;
+    bool Upright() const;
 
     LayoutPane record_;
     QMainWindow& window_;

@@ -18,10 +18,10 @@ constexpr int LeftOver = 60; // of the documents, however wide the pane is
 }
 
 RolledPane::RolledPane(EdgeStrip& strip, QMainWindow& window, const QString& caption, const QIcon& icon,
-                       int extent)
+                       int extent, std::function<void()> leave)
     : QFrame(&window), strip_(&strip), window_(window), tab_(strip.AddTab(caption, icon)),
       title_(new PaneTitle), body_(new QWidget(this)), grip_(new QWidget(this)), slide_(this, "pos"),
-      extent_(extent) {
+      extent_(extent), leave_(std::move(leave)) {
     BuildFrame();
     SetCaption(caption);
     hover_.setSingleShot(true);
@@ -30,7 +30,7 @@ RolledPane::RolledPane(EdgeStrip& strip, QMainWindow& window, const QString& cap
     });
     connect(tab_, &EdgeTab::Hovered, this, [this] { hover_.start(HoverMilliseconds); });
     connect(tab_, &QToolButton::clicked, this, [this] { out_&& HasFocus() ? SlideIn() : SlideOut(true); });
-    connect(&leave_, &QTimer::timeout, this, &RolledPane::CheckLeft);
+    connect(&left_, &QTimer::timeout, this, &RolledPane::CheckLeft);
     connect(&slide_, &QPropertyAnimation::finished, this, [this] {
         if (!out_) hide();
     });
@@ -85,13 +85,11 @@ void RolledPane::SetContent(QWidget* content) {
     if (!content) return;
     body_->layout()->addWidget(content);
     content->show();
-    setFocusProxy(content);
 }
 
 QWidget* RolledPane::TakeContent() {
     QWidget* content = content_;
     content_ = nullptr;
-    setFocusProxy(nullptr);
     if (content) body_->layout()->removeWidget(content);
     return content;
 }
@@ -141,24 +139,19 @@ void RolledPane::SlideOut(bool focus) {
         move(from);
         show();
         Slide(from, place.topLeft());
-        leave_.start(LeaveMilliseconds);
+        left_.start(LeaveMilliseconds);
     }
     tab_->setChecked(true);
     if (!focus) return;
-    if (!HasFocus()) focusBefore_ = QApplication::focusWidget();
     if (content_) content_->setFocus(Qt::OtherFocusReason);
 }
 
 void RolledPane::SlideIn() {
     tab_->setChecked(false);
-    leave_.stop();
+    left_.stop();
     if (!out_) return;
     out_ = false;
-    if (HasFocus()) {
-        QWidget* back =
-            focusBefore_ && focusBefore_->isVisible() ? focusBefore_.data() : window_.centralWidget();
-        if (back) back->setFocus(Qt::OtherFocusReason);
-    }
+    if (HasFocus()) leave_();
     Slide(pos(), PlaceIn());
 }
 
@@ -203,8 +196,12 @@ void RolledPane::Grip(const QMouseEvent& event) {
     case Qt::TopToolBarArea: extent = at.y() - strip.bottom(); break;
     default: extent = strip.top() - at.y(); break;
     }
+    SetExtent(extent);
+}
+
+void RolledPane::SetExtent(int extent) {
     extent_ = std::max(SmallestExtent, extent);
-    setGeometry(PlaceOut());
+    if (out_) setGeometry(PlaceOut());
 }
 
 #include "moc_RolledPane.cpp"

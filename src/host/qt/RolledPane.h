@@ -9,13 +9,16 @@
 #include <QPointer>
 #include <QPropertyAnimation>
 #include <QTimer>
+#include <functional>
 
 class RolledPane : public QFrame {
     Q_OBJECT
 
 public:
     // `extent`: pixels that it takes of the window. The content is given back by TakeContent.
-    RolledPane(EdgeStrip& strip, QMainWindow& window, const QString& caption, const QIcon& icon, int extent);
+    // `leave` gives the focus to the documents.
+    RolledPane(EdgeStrip& strip, QMainWindow& window, const QString& caption, const QIcon& icon, int extent,
+               std::function<void()> leave);
     ~RolledPane() override;
 
     // Takes it out of sight and deletes it when that is safe: the click that leads here may be its own.
@@ -27,6 +30,7 @@ public:
     void SlideIn();
     bool Out() const { return out_; }
     int Extent() const { return extent_; }
+    void SetExtent(int extent);
     Qt::ToolBarArea Edge() const { return strip_->Edge(); }
     PaneTitle& Title() { return *title_; }
 
@@ -51,9 +55,9 @@ private:
     QWidget* body_; // holds title and content
     QWidget* grip_; // the inner edge, at which it is drawn wider
     QPointer<QWidget> content_;
-    QPointer<QWidget> focusBefore_;
-    QTimer hover_, leave_;
+    QTimer hover_, left_;
     QPropertyAnimation slide_;
     int extent_;
+    std::function<void()> leave_;
     bool out_ = false;
 };

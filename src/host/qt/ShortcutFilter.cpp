@@ -111,6 +111,6 @@ bool ShortcutFilter::OfferPress(QWidget* widget, const QKeyEvent& event) {
     table_.events->DS_ShortcutFiring(*command, cancel);
     if (cancel) return false;
     // A key that is held repeats the commands that are made for it; for others the repeats are swallowed.
-    if (!event.isAutoRepeat() || command->AutoRepeat()) table_.Fire(*command);
+    if (!event.isAutoRepeat() || command->AutoRepeat()) table_.FireByKey(*command);
     return true;
 }

@@ -54,7 +54,7 @@ StartPage::StartPage(const std::vector<std::string>& commands, CommandTable& tab
         if (!command->Shortcuts().empty()) {
             const QKeySequence keys(command->Shortcuts().front());
             auto* label = new QLabel(keys.toString(QKeySequence::NativeText), this);
-            label->setEnabled(false);
+            label->setForegroundRole(QPalette::PlaceholderText);
             grid->addWidget(label, row, 2);
         }
         ++row;

@@ -25,7 +25,7 @@ void StatusText::Show(const QString& left, const QString& hot, const QString& ri
     hot_ = hot;
     right_ = right;
     colour_ = colour;
-    setAccessibleDescription(left + hot + right);
+    setAccessibleName(left + hot + right);
     setToolTip(fontMetrics().horizontalAdvance(left + hot + right) > width() - 2 * SideMargin
                    ? left + hot + right
                    : QString());

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QStyle>
@@ -34,6 +35,12 @@ void StudioWindow::resizeEvent(QResizeEvent* event) {
 void StudioWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && resized) resized();
+}
+
+void StudioWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier || !leave)
+        return QMainWindow::keyPressEvent(event);
+    leave();
 }
 
 QMenu* StudioWindow::createPopupMenu() {

@@ -1,0 +1,56 @@
+// The contrast is that of the accessibility guidelines for the web, which ask for 4.5 in text of usual size.
+#include "app/ReadableStyle.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double Enough = 4.5;
+constexpr int Steps = 50;
+
+double Luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+// `share` of the first colour and the rest of the second, both without their transparency.
+QColor Mixed(const QColor& one, const QColor& other, double share) {
+    const auto part = [share](int a, int b) {
+        return static_cast<int>(std::lround(a * share + b * (1 - share)));
+    };
+    return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
+}
+
+// The colour, moved no further towards another one than is needed to stand out from `ground`.
+QColor Readable(const QColor& colour, const QColor& towards, const QColor& ground) {
+    for (int step = 0; step < Steps; ++step) {
+        const QColor moved = Mixed(towards, colour, static_cast<double>(step) / Steps);
+        if (Contrast(moved, ground) >= Enough) return moved;
+    }
+    return towards;
+}
+
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const double a = Luminance(one), b = Luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+void ReadableStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        // A selection keeps its hue and gives way: darker under a light text, lighter under a dark one.
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        const QColor away = Luminance(text) > 0.18 ? Qt::black : Qt::white;
+        palette.setColor(group, QPalette::Highlight,
+                         Readable(palette.color(group, QPalette::Highlight), away, text));
+        // A hint is half of the text's colour, or as much more as it needs.
+        const QColor base = palette.color(group, QPalette::Base);
+        const QColor full = palette.color(group, QPalette::Text);
+        palette.setColor(group, QPalette::PlaceholderText, Readable(Mixed(full, base, 0.5), full, base));
+    }
+}
