@@ -38,9 +38,14 @@ public:
         Changed();
     }
     void Load() {
-        paths_ = ReadStoredList(section_);
+        std::vector<std::string> stored = ReadStoredList(section_);
         const auto count = std::strtoul(gHost.settings->Get(section_, "Count", "0").c_str(), nullptr, 10);
-        if (paths_.size() > count) paths_.resize(count);
+        if (stored.size() > count) stored.resize(count);
+        paths_.clear();
+        for (std::string& path : stored)
+            if (std::find(paths_.begin(), paths_.end(), path) == paths_.end())
+                paths_.push_back(std::move(path));
+        Cut();
         Show();
     }
     void Save() {

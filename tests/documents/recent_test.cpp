@@ -114,6 +114,11 @@ TEST_F(RecentFilesTest, TheNextStartShowsThemAsTheOptionSays) {
     Options::gShowRecentFull = 1;
     Mod_File::LoadRecentFilesProjects();
     EXPECT_EQ(Shown(), (Texts{Path("b.bb"), Path("a.bb")}));
+    for (const char* key : {"3", "4", "5"}) // written by hand: a text twice, too many
+        session.host.settings.Save("RecentFilenames", key, *key == '3' ? Path("a.bb") : key);
+    session.host.settings.Save("RecentFilenames", "Count", "5");
+    Mod_File::LoadRecentFilesProjects();
+    EXPECT_EQ(Shown(), (Texts{Path("b.bb"), Path("a.bb"), "4"}));
     session.host.settings.Save("RecentFilenames", "Count", "no number");
     Mod_File::LoadRecentFilesProjects();
     EXPECT_TRUE(Shown().empty());
