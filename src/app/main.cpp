@@ -54,6 +54,10 @@ struct Services {
     QtDockStudio dock;
 
     Services() { gHost = {&dialogs, &files, &settings, &processes, &desktop, &instances, &views, &dock}; }
+    // What is destroyed later must not ask for them.
+    ~Services() { gHost = {}; }
+    Services(const Services&) = delete;
+    Services& operator=(const Services&) = delete;
 };
 
 void NameApplication() {
@@ -93,6 +97,6 @@ int main(int argc, char** argv) {
     WatchForTheEnd();
     if (!Mod_Main::Main(JoinCommandLine(arguments, startFolder))) return 0;
     const int status = Mod_Main::Ended() ? 0 : QApplication::exec();
-    gHost.dock->SetEvents(nullptr);
+    Mod_Main::TakeDown();
     return status;
 }

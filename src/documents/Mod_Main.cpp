@@ -59,7 +59,8 @@ void LoadEditControl() {
 } // namespace
 
 bool Main(const std::string& commandLine) {
-    return Guarded("Main", "Mod_Main", true, [&] {
+    BeginStart();
+    const bool runs = Guarded("Main", "Mod_Main", true, [&] {
         if (HandedOver(commandLine)) return false;
         Start();
         // Painting stays frozen until the first document is there: an empty window is painted for nothing.
@@ -72,6 +73,8 @@ bool Main(const std::string& commandLine) {
         gHost.desktop->LockWindowUpdate(false);
         return true;
     });
+    EndStart();
+    return runs;
 }
 
 void Start() {

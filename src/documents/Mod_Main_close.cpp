@@ -7,17 +7,21 @@
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"
 #include "documents/RecentFiles.h"
+#include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/Desktop.h"
 #include "host/DockStudio.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Outside.h"
 #include "host/SettingsStore.h"
 
 #include <cmath>
 #include <cstdlib>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace Mod_Main {
 
@@ -48,13 +52,32 @@ void SavePlace(const WindowPlace& place) {
     save("MainState", place.state);
 }
 
-bool ended = false; // what is remembered between runs has been written for the last time
+// What is remembered between runs is written while the program runs: before that it isn't known yet, and
+// behind the end there is less of it.
+enum class Life { Starts, Runs, Ended };
+Life life = Life::Runs;
 
-// Writes what is remembered between runs, but for the workspace.
+std::string ownHandle; // of this process's channel, while others may find it
+
+// Whether the settings name this process; another window may have written its own handle there since.
+bool NamesThis() { return !ownHandle.empty() && gHost.settings->Get("Instance", "Handle", "0") == ownHandle; }
+
+// Nobody finds this process any more. Answers whether somebody would have.
+bool HideHandle() {
+    const bool names = NamesThis();
+    if (names) gHost.settings->Save("Instance", "Handle", "0");
+    return names;
+}
+
+// Closes the channel. False when somebody handed over something meanwhile that nobody has opened yet.
+bool NothingCame() {
+    const NestedLoop loop; // what comes now must not open in the middle of the end
+    gHost.instances->Withdraw();
+    return WaitingFromOutside() == 0;
+}
+
+// Writes the lists, the arrangement and the window's place.
 void SaveLists() {
-    // As on closing it: a project is saved without being asked for.
-    for (const auto& entry : gProjects)
-        if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
     Mod_File::SaveRecentFilesProjects();
     MRUCommandLine.Save();
     const WindowPlace place = gHost.dock->Place();
@@ -69,8 +92,17 @@ void SaveLists() {
 
 } // namespace
 
+void BeginStart() { life = Life::Starts; }
+void EndStart() {
+    if (life == Life::Starts) life = Life::Runs;
+}
+
+void Publish() {
+    ownHandle = gHost.instances->Publish(TextReceived);
+    gHost.settings->Save("Instance", "Handle", ownHandle);
+}
+
 void PlaceMainWindow() {
-    ended = false;
     const ScreenSize screen = gHost.desktop->Screen();
     WindowPlace place;
     place.top = ReadPlace("MainTop", 1000);
@@ -85,9 +117,8 @@ void PlaceMainWindow() {
 
 void QueryUnload(bool& cancel) {
     Guarded("Form_QueryUnload", "frmMain", [&] {
-        const std::string handle = gHost.settings->Get("Instance", "Handle", "0");
-        gHost.settings->Save("Instance", "Handle", "0");
-        cancel = !Mod_File::AskForAll();
+        const bool wasFound = HideHandle();
+        cancel = !Mod_File::AskForAll() || !NothingCame();
         if (!cancel) {
             if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
             Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
@@ -95,32 +126,50 @@ void QueryUnload(bool& cancel) {
         }
         if (cancel) {
             // Who starts the program again must find this one, unless it was told to end meanwhile.
-            if (!ended) gHost.settings->Save("Instance", "Handle", handle);
+            if (wasFound && life != Life::Ended) Publish();
             return;
         }
         SaveLists();
-        ended = true;
-        gHost.instances->Withdraw();
+        life = Life::Ended;
         gHost.desktop->Pump();
     });
 }
 
 void SaveSession() {
-    if (ended) return;
+    if (life != Life::Runs) return;
     // Nobody may be there to close a report, and who ends the session doesn't wait.
     const auto report = std::exchange(gShowErrorDialog, nullptr);
     Mod_File::SaveWorkSpace(Mod_File::LastWorkspace());
+    // As on closing it: a project is saved without being asked for.
+    for (const auto& entry : gProjects)
+        if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
     Guarded("SaveSession", "Mod_Main", SaveLists);
     gShowErrorDialog = report;
 }
 
 void EndNow() {
     SaveSession();
-    if (!ended) gHost.settings->Save("Instance", "Handle", "0");
-    ended = true;
-    gHost.instances->Withdraw();
+    HideHandle();
+    const bool starts = std::exchange(life, Life::Ended) == Life::Starts;
+    NothingCame(); // what came opens no more
+    // The start would go on to the end, and ask what it has to ask.
+    if (starts) gHost.desktop->EndProcess(0);
 }
 
-bool Ended() { return ended; }
+void TakeDown() {
+    gHost.dock->SetEvents(nullptr);
+    for (DocumentWindow* window : gHost.dock->DocumentWindows()) window->Attach(nullptr);
+    ForgetOutside();
+    std::vector<std::shared_ptr<ClsProject>> projects; // a list that is looked at must not be half gone
+    for (const auto& entry : gProjects) {
+        projects.push_back(entry.record);
+        for (const auto& source : entry.record->Sources)
+            static_cast<frmDoc&>(*source.record).View->SetEvents(nullptr); // the focus will wander
+    }
+    MakeActive(nullptr);
+    gProjects.RemoveAll();
+}
+
+bool Ended() { return life == Life::Ended; }
 
 } // namespace Mod_Main

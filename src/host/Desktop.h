@@ -66,5 +66,6 @@ public:
     virtual void WaitForPublish() = 0;
     // Delivers a text to the channel of that name. False when nobody listens there.
     virtual bool Send(const std::string& handle, const std::string& text) = 0;
+    // Closes the channel, after it has received what was already sent.
     virtual void Withdraw() = 0;
 };

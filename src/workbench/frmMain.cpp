@@ -45,7 +45,7 @@ frmMain& frmMain::Instance() {
 
 void frmMain::Form_Load() {
     Guarded("Form_Load", "frmMain", [this] {
-        gHost.settings->Save("Instance", "Handle", gHost.instances->Publish(Mod_Main::TextReceived));
+        Mod_Main::Publish();
         gHost.dock->SetEvents(this);
         LoadFactoryLayout();
         try {

@@ -1,7 +1,7 @@
 // The program up to its documents on a platform for tests.
+#include "documents/Session.h"
 #include "documents/CloseFiles.h"
 #include "documents/CompilerRegistry.h"
-#include "documents/Session.h"
 
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
@@ -36,6 +36,8 @@ Session::Session() {
     Mod_Main::LoadCompilers();
     Mod_Main::SetActiveCompiler(DefaultCompiler);
     Mod_File::LoadStyle("Default");
+    Mod_Main::BeginStart(); // the session before this one may have ended
+    Mod_Main::EndStart();
 }
 
 Session::~Session() {

@@ -93,13 +93,30 @@ TEST_F(StartTest, WhatAnotherInstanceSentOpensInFront) {
     EXPECT_EQ(session.host.dock.place.state, 1); // a minimised window stays so
 }
 
+struct Ended {
+    int status;
+};
+struct EndingDesktop : FakeDesktop {
+    void EndProcess(int status) override { throw Ended{status}; }
+};
+
+// What is remembered isn't known yet, and a start that goes on could ask something.
+TEST_F(StartTest, AnEndDuringTheStartWritesNothing) {
+    const std::string workspace = session.host.Put("Conf/LastWorkspace.zws", "of the last run");
+    gDocumentCalls.ShowMainWindow = [] { Mod_Main::SaveSession(); };
+    EXPECT_TRUE(Mod_Main::Main(""));
+    EndingDesktop ending;
+    gHost.desktop = &ending;
+    Mod_Main::BeginStart();
+    EXPECT_THROW(Mod_Main::EndNow(), Ended);
+    gHost.desktop = &session.host.desktop;
+    Mod_Main::SaveSession();
+    EXPECT_EQ(session.Bytes(workspace), "of the last run");
+    EXPECT_TRUE(session.host.dock.savedLayouts.empty());
+}
+
 struct CompilersTest : StartTest {
-    struct Ended {
-        int status;
-    };
-    struct EndingDesktop : FakeDesktop {
-        void EndProcess(int status) override { throw Ended{status}; }
-    } ending;
+    EndingDesktop ending;
 
     void Load(const std::string& bytes, const std::string& byDefault = "") {
         session.host.Put("Conf/compilers.dat", bytes);

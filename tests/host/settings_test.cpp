@@ -98,7 +98,9 @@ TEST(InstancesTest, TheFirstOwnsAndASecondDeliversItsText) {
     while (received.empty() && clock.elapsed() < 5000)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     EXPECT_EQ(received, std::vector<std::string>{text});
+    EXPECT_TRUE(second.Send(handle, "the last word"));
     first.Withdraw();
+    EXPECT_EQ(received.back(), "the last word"); // its sender takes it for delivered
     EXPECT_FALSE(second.Send(handle, "Aktiviraj"));
     EXPECT_FALSE(second.Send("0", "Aktiviraj"));
 }

@@ -11,6 +11,7 @@
 #include <deque>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 class FakeSettings : public SettingsStore {
@@ -137,11 +138,15 @@ public:
         sent.push_back(handle + " " + text);
         return true;
     }
-    void Withdraw() override { receive = nullptr; }
+    void Withdraw() override {
+        if (receive && !onTheWay.empty()) receive(std::exchange(onTheWay, {}));
+        receive = nullptr;
+    }
 
     bool anotherRuns = false, nobodyListens = false;
     int waits = 0;
     std::vector<std::string> sent;
+    std::string onTheWay; // is received when the channel closes
     std::function<void(const std::string&)> receive;
 };
 

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int PatienceMilliseconds = 2000;
+constexpr int LastWordMilliseconds = 500;
 constexpr unsigned long PublishMilliseconds = 50;
 constexpr qint64 LongestText = 1 << 20;
 
@@ -87,4 +88,13 @@ bool QtInstances::Send(const std::string& handle, const std::string& text) {
     return true;
 }
 
-void QtInstances::Withdraw() { server_.reset(); }
+void QtInstances::Withdraw() {
+    if (!server_) return;
+    QFile::remove(server_->fullServerName()); // nobody finds it any more
+    // Whoever was quicker takes his text for delivered.
+    for (bool nobody = false; server_->isListening() && !nobody;) server_->waitForNewConnection(0, &nobody);
+    for (QLocalSocket* socket : server_->findChildren<QLocalSocket*>())
+        if (socket->state() == QLocalSocket::ConnectedState)
+            socket->waitForDisconnected(LastWordMilliseconds);
+    server_.reset();
+}
