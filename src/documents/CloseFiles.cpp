@@ -9,6 +9,7 @@
 #include "host/Dialogs.h"
 #include "host/DockStudio.h"
 #include "host/ErrorLog.h"
+#include "host/Failure.h"
 #include "host/Host.h"
 
 #include <algorithm>
@@ -68,9 +69,29 @@ bool Ask(long serial) {
     return SaveFile(document);
 }
 
-bool AskFor(const ClsProject* project) {
-    const std::vector<long> serials = Serials(project);
-    return std::all_of(serials.begin(), serials.end(), Ask);
+// A project is saved without being asked for. False when it could not be and has to stay.
+bool SaveOrKeep(const std::shared_ptr<ClsProject>& project) {
+    if (project->SingleFile || !project->Dirty) return true;
+    try {
+        Mod_Project::WriteProject(*project);
+        return true;
+    } catch (const Failure&) {
+        return gHost.dialogs->Show(
+                   {"Could not save " + project->FullPath +
+                        "\r\nThe file may be in use by another process or disk is write protected\r\n\r\nDo "
+                        "you want to close the project and lose its changes ?",
+                    MessageIcon::Critical, "Project could not be saved !", MessageButtons::YesNo,
+                    MessageAnswer::No}) == MessageAnswer::Yes;
+    }
+}
+
+bool AskFor(const std::shared_ptr<ClsProject>& project) {
+    const std::vector<long> serials = Serials(project.get());
+    if (!std::all_of(serials.begin(), serials.end(), Ask)) return false;
+    if (project) return SaveOrKeep(project);
+    std::vector<std::shared_ptr<ClsProject>> all;
+    for (const auto& entry : gProjects) all.push_back(entry.record);
+    return std::all_of(all.begin(), all.end(), SaveOrKeep);
 }
 
 // Closes documents that were asked for. False when one stayed.
@@ -85,9 +106,8 @@ bool Close(const ClsProject* project, bool singleOnly) {
     return true;
 }
 
-// Closes a project whose documents were asked for.
+// Closes a project that was saved and whose documents were asked for.
 bool CloseAsked(const std::shared_ptr<ClsProject>& project) {
-    if (project->Dirty) Mod_Project::SaveProject(*project);
     // What could not be closed needs its project.
     if (!Close(project.get(), false) || project->Sources.Count() > 0) return false;
     if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
@@ -121,8 +141,7 @@ bool CloseAllFiles() {
 }
 
 bool CloseProject(std::shared_ptr<ClsProject> project) {
-    return Guarded("CloseProject", "Mod_File", false,
-                   [&] { return AskFor(project.get()) && CloseAsked(project); });
+    return Guarded("CloseProject", "Mod_File", false, [&] { return AskFor(project) && CloseAsked(project); });
 }
 
 } // namespace Mod_File

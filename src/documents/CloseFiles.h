@@ -11,11 +11,12 @@ namespace Mod_File {
 // Closes every single file and then every project, the last first; asks for each document that is dirty.
 // False when something stayed open.
 bool CloseAllFiles();
-// Closes a project's documents, after asking for each that is dirty, and saves and closes the project. False
-// when something stayed open.
+// Asks for each dirty document of a project, saves the project, and closes it with its documents. False when
+// something stayed open.
 bool CloseProject(std::shared_ptr<ClsProject> project);
 
-// The save prompt for every open document that is dirty. False when one was cancelled or could not be saved.
+// The save prompt for every open document that is dirty, then the saving of every project that is. False when
+// one was cancelled or could not be saved.
 bool AskForAll();
 // Closes every document window, the help window excepted, without another question. False when one stayed.
 bool CloseDocuments();

@@ -85,14 +85,6 @@ void ParseUnheard(frmDoc& document, const std::function<void()>& parse) {
 
 namespace {
 
-// Takes back what was begun where a member could not be opened, so that what was active still is.
-void GiveUp(frmDoc& document, const frmDoc* before, const std::shared_ptr<ClsProject>& project) {
-    const long serial = before == nullptr ? 0 : before->Serial;
-    UnloadDocument(&document);
-    MakeActive(DocumentOfSerial(serial));
-    gCurrentProject = project;
-}
-
 void ParseMember(ClsProject& project) {
     CurrentFunctionName = MainProgram;
     CurrentLocals = project.MainFunLocals;
@@ -102,7 +94,49 @@ void ParseMember(ClsProject& project) {
     Mod_Parse::ParseAllLines();
 }
 
+// A window that shows nobody's text goes.
+void LeaveWindow(frmDoc& document) {
+    for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
+        if (window->HostedForm() != &document) continue;
+        window->Attach(nullptr);
+        gHost.dock->DropDocumentWindow(*window);
+        return;
+    }
+}
+
 } // namespace
+
+void GiveUp(frmDoc& document, long activeBefore) {
+    LeaveWindow(document);
+    UnloadDocument(&document);
+    MakeActive(DocumentOfSerial(activeBefore));
+    if (gCurrentProject) Mod_Main::SetActiveCompiler(gCurrentProject->Compiler);
+}
+
+void PutAside(const std::shared_ptr<frmDoc>& document) {
+    CloseUndoGroup(document.get());
+    document->View->SetEvents(nullptr);
+    LeaveWindow(*document);
+    UnloadDocument(document.get());
+    if (gActiveDoc == document.get()) MakeActive(nullptr);
+}
+
+void PutBack(const std::shared_ptr<frmDoc>& document, const std::shared_ptr<ClsProject>& project) {
+    project->Sources.Add(document, document->FullFilename);
+    if (document->SingleFile) gProjects.Add(project, project->FullPath);
+    MakeActive(document.get());
+    Mod_Main::SetActiveCompiler(project->Compiler);
+    if (!document->SingleFile) {
+        // Its symbols count as those of a closed file. The text and its undo history stay.
+        Mod_Sci::SetModEventMask(0);
+        Mod_Sci::MarkerDeleteAll(-1);
+        ParseMember(*project);
+        Mod_Sci::SetModEventMask(EventMask);
+    }
+    document->SubClass();
+    BindWindow(*document, false);
+    MakeActive(document.get());
+}
 
 bool ActivateOpen(const std::string& path) {
     const frmDoc* document = DocumentOfPath(path);
@@ -112,12 +146,12 @@ bool ActivateOpen(const std::string& path) {
     return true;
 }
 
-bool OpenProjectsFile(const std::string& path, bool documentWindow) {
+bool OpenProjectsFile(const std::shared_ptr<ClsProject>& project, const std::string& path,
+                      bool documentWindow) {
     return Guarded("OpenProjectsFile", "Mod_File", false, [&] {
         // A second name of a file that is open would be a second document of it.
         if (ActivateOpen(path)) return true;
-        const auto project = gCurrentProject;
-        const frmDoc* before = ActiveForm();
+        const long before = ActiveForm() == nullptr ? 0 : ActiveForm()->Serial;
         std::string reason;
         const std::shared_ptr<frmDoc> document = ReadDocument(path, reason);
         if (!document) return false;
@@ -129,11 +163,12 @@ bool OpenProjectsFile(const std::string& path, bool documentWindow) {
         project->Sources.Add(document, path);
         try {
             MakeActive(document.get());
+            Mod_Main::SetActiveCompiler(project->Compiler);
             document->Initialise(GetFileName(path));
             ParseUnheard(*document, [&] { ParseMember(*project); });
             BindWindow(*document, documentWindow);
         } catch (...) {
-            GiveUp(*document, before, project);
+            GiveUp(*document, before);
             throw;
         }
         MakeActive(document.get());
@@ -144,12 +179,7 @@ bool OpenProjectsFile(const std::string& path, bool documentWindow) {
 
 bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& path, bool documentWindow) {
     if (ActivateOpen(path)) return true;
-    const auto before = gCurrentProject;
-    gCurrentProject = project;
-    Mod_Main::SetActiveCompiler(project->Compiler);
-    if (!OpenProjectsFile(path, documentWindow)) {
-        gCurrentProject = before;
-        if (before) Mod_Main::SetActiveCompiler(before->Compiler);
+    if (!OpenProjectsFile(project, path, documentWindow)) {
         TellUnloadable(path);
         return false;
     }

@@ -27,6 +27,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 DocumentCalls gDocumentCalls;
 
@@ -48,41 +49,9 @@ bool CanBeRead(const std::string& path) {
     }
 }
 
-// An open file comes to the front; with changes the user may have it loaded anew. True when the call is done.
-bool AlreadyOpen(std::string& path) {
-    frmDoc* document = DocumentOfPath(path);
-    if (document == nullptr) return false;
-    path = document->FullFilename; // it keeps its name, whichever led to it
-    if (!document->Dirty) return ActivateOpen(path);
-    const long serial = document->Serial;
-    const MessageAnswer answer = gHost.dialogs->Show(
-        {"File " + document->Filename +
-             " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
-         MessageIcon::Exclamation, "Warning", MessageButtons::YesNo, MessageAnswer::No});
-    if (answer != MessageAnswer::Yes) return true;
-    if (!CanBeRead(path)) { // the text in the window is all that is left of it
-        TellUnloadable(path);
-        return true;
-    }
-    document = DocumentOfSerial(serial);
-    if (document == nullptr) return false;
-    DocumentWindow* window = gHost.dock->FindDocumentWindow(document->m_strDocumentWindowID);
-    if (window != nullptr) window->Attach(nullptr);
-    UnloadDocument(document);
-    if (window != nullptr) gHost.dock->DropDocumentWindow(*window);
-    return false;
-}
-
-// What is no source and no project goes to the desktop. True when the call is done.
+// What is no source goes to the desktop. True when the call is done.
 bool ForeignFile(const std::string& path) {
-    if (path.size() <= ShortestNamedPath) return false;
-    const std::string extension = GetExtension(path);
-    if (extension == ".ZPF") {
-        Mod_Project::LoadProject(path);
-        if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
-        return true;
-    }
-    if (extension == ".BB") return false;
+    if (path.size() <= ShortestNamedPath || GetExtension(path) == ".BB") return false;
     switch (gHost.files->Kind(path)) {
     case PathKind::File: gHost.files->OpenWithDesktop(path); return true;
     case PathKind::None:
@@ -107,6 +76,18 @@ std::shared_ptr<ClsProject> AddSingleProject(const std::string& name,
     return project;
 }
 
+void ShowSingle(frmDoc& document, ClsProject& project, bool documentWindow) {
+    MakeActive(&document);
+    document.Initialise(GetFileName(document.FullFilename));
+    gHost.desktop->Pump();
+    MakeActive(&document); // a focus that moved in the pump may have made another one active
+    const WaitCursor wait;
+    project.Compiler = CheckFileCompilerUsed();
+    Mod_Main::SetActiveCompiler(project.Compiler);
+    ParseUnheard(document, Mod_Parse::ParseFile);
+    BindWindow(document, documentWindow);
+}
+
 bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) {
     std::shared_ptr<frmDoc> document;
     {
@@ -118,18 +99,14 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
         TellUnloadable(path);
         return false;
     }
+    const long before = ActiveForm() == nullptr ? 0 : ActiveForm()->Serial;
     const auto project = AddSingleProject(path, document);
     document->IsSnippet = isSnippet;
-    MakeActive(document.get());
-    document->Initialise(GetFileName(path));
-    gHost.desktop->Pump();
-    MakeActive(document.get()); // a focus that moved in the pump may have made another one active
-    {
-        const WaitCursor wait;
-        project->Compiler = CheckFileCompilerUsed();
-        Mod_Main::SetActiveCompiler(project->Compiler);
-        ParseUnheard(*document, Mod_Parse::ParseFile);
-        BindWindow(*document, documentWindow);
+    try {
+        ShowSingle(*document, *project, documentWindow);
+    } catch (...) {
+        GiveUp(*document, before);
+        throw;
     }
     MakeActive(document.get());
     Mod_Sci::EmptyUndoBuffer();
@@ -137,6 +114,47 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     AddRecentFile(path);
     if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
     return true;
+}
+
+// Loads an open document anew. Where that fails, the text in the window is all that is left of it, and stays.
+bool Reload(const std::shared_ptr<frmDoc>& document) {
+    const auto project = gProjects.Item(document->PrjFullPath);
+    const std::string path = document->FullFilename;
+    if (!CanBeRead(path)) {
+        TellUnloadable(path);
+        return false;
+    }
+    PutAside(document);
+    const bool loaded = Guarded("OpenFile", "Mod_File", false, [&] {
+        return document->SingleFile ? LoadDocument(path, false, document->IsSnippet)
+                                    : OpenMember(project, path);
+    });
+    if (!loaded) PutBack(document, project);
+    return loaded;
+}
+
+// An open file comes to the front; with changes the user may have it loaded anew, and the answer is true
+// then.
+bool OpenAgain(const frmDoc& document) {
+    if (!document.Dirty) return ActivateOpen(document.FullFilename), false;
+    const long serial = document.Serial;
+    const MessageAnswer answer = gHost.dialogs->Show(
+        {"File " + document.Filename +
+             " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
+         MessageIcon::Exclamation, "Warning", MessageButtons::YesNo, MessageAnswer::No});
+    const frmDoc* still = answer == MessageAnswer::Yes ? DocumentOfSerial(serial) : nullptr;
+    if (still == nullptr) return false;
+    return Reload(std::static_pointer_cast<frmDoc>(
+        gProjects.Item(still->PrjFullPath)->Sources.Item(still->FullFilename)));
+}
+
+// What is open or belongs to an open project is opened as that. Nothing for any other file.
+std::optional<bool> OpenKnown(const std::string& path, bool documentWindow) {
+    if (const frmDoc* document = DocumentOfPath(path)) return OpenAgain(*document);
+    std::string memberPath;
+    if (const auto project = ProjectOfMember(path, memberPath))
+        return OpenMember(project, memberPath, documentWindow);
+    return std::nullopt;
 }
 
 // A name that no open document has: with a number behind it where that is wanted, or where it is taken.
@@ -192,11 +210,21 @@ bool OpenFile(const std::string& wanted, bool documentWindow, bool isSnippet) {
         std::string path = wanted.empty() ? AskForFile() : wanted;
         if (path.empty()) return false;
         path = gHost.files->Find(path);
-        if (ForeignFile(path) || AlreadyOpen(path)) return false;
-        std::string memberPath;
-        if (const auto project = ProjectOfMember(path, memberPath))
-            return OpenMember(project, memberPath, documentWindow);
-        return LoadDocument(path, documentWindow, isSnippet);
+        if (const auto opened = OpenKnown(path, documentWindow)) return *opened;
+        if (path.size() > ShortestNamedPath && GetExtension(path) == ".ZPF") {
+            Mod_Project::LoadProject(path);
+            if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+            return false;
+        }
+        return !ForeignFile(path) && LoadDocument(path, documentWindow, isSnippet);
+    });
+}
+
+bool OpenHere(const std::string& wanted, bool documentWindow) {
+    return Guarded("OpenFile", "Mod_File", false, [&] {
+        const std::string path = gHost.files->Find(wanted);
+        if (const auto opened = OpenKnown(path, documentWindow)) return *opened;
+        return LoadDocument(path, documentWindow, false);
     });
 }
 

@@ -14,6 +14,9 @@ namespace Mod_File {
 // Opens a source file or a project; an empty path asks for files. True when a document was loaded.
 // `documentWindow`: its window came back with a layout. Writes gActiveDoc, gCurrentProject, SciWndData.
 bool OpenFile(const std::string& path, bool documentWindow = false, bool isSnippet = false);
+// Opens a file as a source whatever its extension, as one that an Include, a compiler's error, a recent list
+// or a workspace names. OpenFile hands what is neither source nor project to the desktop.
+bool OpenHere(const std::string& path, bool documentWindow = false);
 // Makes a new, unnamed document and activates it.
 void NewFile();
 // Saves the text of one document, whichever is the active one. False when nothing was written.

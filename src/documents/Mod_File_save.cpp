@@ -3,6 +3,7 @@
 
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File_backup.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Project.h"
 #include "documents/OpenPaths.h"
 #include "documents/Options.h"
@@ -89,9 +90,11 @@ bool AllowedInProject(const ClsProject& project, const std::string& path) {
     return true;
 }
 
-// Two documents of one path could not be told apart, nor could a file by itself be told from a member.
+// Two documents of one path could not be told apart, nor could a file by itself be told from a member. The
+// file of a project or of the workspace would be written over with a source.
 bool TakenElsewhere(const frmDoc& document, const std::string& path) {
-    if (const frmDoc* other = DocumentOfPath(path); other != nullptr && other != &document) {
+    const frmDoc* other = DocumentOfPath(path);
+    if ((other != nullptr && other != &document) || ProjectOfPath(path) || SameFile(path, LastWorkspace())) {
         InvalidName(path, " is already open");
         return true;
     }

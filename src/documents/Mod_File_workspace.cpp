@@ -106,7 +106,7 @@ void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
     if (!named || (!entry.single && gHost.files->Kind(gHost.files->Find(entry.path)) == PathKind::None))
         return TellUnloadable(entry.path);
     if (entry.single)
-        OpenFile(entry.path, true);
+        OpenHere(entry.path, true);
     else if (!ProjectOfPath(entry.path))
         Mod_Project::LoadProject(entry.path, true);
 }

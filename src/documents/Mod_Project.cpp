@@ -12,6 +12,7 @@
 #include "engine/ClsCompiler.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
+#include "host/Failure.h"
 #include "host/Files.h"
 #include "host/Guards.h"
 #include "host/Host.h"
@@ -19,12 +20,22 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 namespace Mod_Project {
 
 namespace {
 
 constexpr const char* Header = "[Zolto Project file]";
+
+// Nothing for what cannot be read, as a folder.
+std::optional<std::string> BytesOf(const std::string& path) {
+    try {
+        return gHost.files->Read(path);
+    } catch (const Failure&) {
+        return std::nullopt;
+    }
+}
 
 // The part of a path in the data's form up to its last backslash, and what stands behind it.
 std::string Behind(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
@@ -78,12 +89,12 @@ std::string AlreadyOpenMember(const ClsProject& project) {
     return {};
 }
 
-void OpenMembers(ClsProject& project, bool fromWorkspace) {
+void OpenMembers(const std::shared_ptr<ClsProject>& project, bool fromWorkspace) {
     const WaitCursor wait;
     std::vector<std::string> paths;
-    for (const auto& entry : project.Files) paths.push_back(Mod_File::MemberPath(project, *entry.record));
+    for (const auto& entry : project->Files) paths.push_back(Mod_File::MemberPath(*project, *entry.record));
     for (const std::string& path : paths)
-        if (!Mod_File::OpenProjectsFile(path, fromWorkspace)) Mod_File::TellUnloadable(path);
+        if (!Mod_File::OpenProjectsFile(project, path, fromWorkspace)) Mod_File::TellUnloadable(path);
 }
 
 // Brings the project's main file to the front, else its first file.
@@ -154,7 +165,9 @@ void DodajFolderSorted(std::shared_ptr<clsFolder> folder, ClsProject& project) {
 
 bool BuildProjectFromFile(const std::string& path, ClsProject& project) {
     return Guarded("BuildProjectFromFile", "Mod_File", false, [&] {
-        const std::vector<std::string> lines = BlockLines(gHost.files->Read(path));
+        const auto bytes = BytesOf(path);
+        if (!bytes) return false;
+        const std::vector<std::string> lines = BlockLines(*bytes);
         project.FullPath = path;
         project.Path = GetFolder(path);
         project.Name = GetFileName(path);
@@ -188,13 +201,16 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
             if (chosen.empty()) return false;
             path = chosen[0];
         }
+        const auto present = Mod_File::ProjectOfPath(path);
+        if (present && present->Sources.Count() > 0) {
+            Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
+            return false;
+        }
+        // One that has no document left is read anew: its tabs were closed, or its files have come back.
+        if (present && present->Dirty && !SaveProject(*present)) return false;
         auto project = std::make_shared<ClsProject>();
         if (!BuildProjectFromFile(path, *project)) {
             Mod_File::TellLoadFailure({"Not a valid project file !", MessageIcon::Critical});
-            return false;
-        }
-        if (Mod_File::ProjectOfPath(project->FullPath)) {
-            Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
             return false;
         }
         if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
@@ -207,11 +223,11 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         }
         if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
         Mod_Main::SetActiveCompiler(project->Compiler);
+        if (present) gProjects.RemoveKey(present->FullPath);
         gProjects.Add(project, project->FullPath);
         {
             const PipelineRest rest;
-            gCurrentProject = project;
-            OpenMembers(*project, fromWorkspace);
+            OpenMembers(project, fromWorkspace);
         }
         if (!fromWorkspace) ShowMainFile(*project);
         if (project->Sources.Count() == 0) BackToActive();
@@ -229,29 +245,33 @@ void SetCommandLine(ClsProject& project, const std::string& text) {
     if (!project.SingleFile) project.Dirty = true;
 }
 
+void WriteProject(ClsProject& project) {
+    std::string text = std::string(Header) + "\r\n<Settings>\r\n";
+    text += BlockValue("Version", "1") + "\r\n" + BlockValue("Expanded", BlockBoolean(project.Expanded)) +
+            "\r\n" + BlockValue("Icon", project.Icon) + "\r\n" + BlockValue("MainFile", project.MainFile) +
+            "\r\n" + BlockValue("Compiler", project.Compiler) + "\r\n" +
+            BlockValue("CommandLine", project.CommandLine) + "\r\n";
+    text += "</Settings>\r\n<Folders>\r\n";
+    for (const auto& entry : project.Folders)
+        text += BlockValue("AbsPath", entry.record->AbsPath) +
+                BlockValue("Expanded", BlockBoolean(entry.record->Expanded)) + "\r\n";
+    text += "</Folders>\r\n<Files>\r\n";
+    for (const auto& entry : project.Files) {
+        const clsFile& file = *entry.record;
+        text += BlockValue("AbsPath", file.AbsPath) + BlockValue("PrjFolder", file.PrjFolder) +
+                BlockValue("Line", std::to_string(file.Line)) +
+                BlockValue("Column", std::to_string(file.Column)) +
+                BlockValue("Tip", std::to_string(file.Tip)) +
+                BlockValue("Visible", BlockBoolean(file.Visible)) + "\r\n";
+    }
+    text += "</Files>\r\n";
+    gHost.files->Write(project.FullPath, text);
+    project.Dirty = false;
+}
+
 bool SaveProject(ClsProject& project) {
     return Guarded("SaveProject", "Mod_File", false, [&] {
-        std::string text = std::string(Header) + "\r\n<Settings>\r\n";
-        text += BlockValue("Version", "1") + "\r\n" + BlockValue("Expanded", BlockBoolean(project.Expanded)) +
-                "\r\n" + BlockValue("Icon", project.Icon) + "\r\n" +
-                BlockValue("MainFile", project.MainFile) + "\r\n" + BlockValue("Compiler", project.Compiler) +
-                "\r\n" + BlockValue("CommandLine", project.CommandLine) + "\r\n";
-        text += "</Settings>\r\n<Folders>\r\n";
-        for (const auto& entry : project.Folders)
-            text += BlockValue("AbsPath", entry.record->AbsPath) +
-                    BlockValue("Expanded", BlockBoolean(entry.record->Expanded)) + "\r\n";
-        text += "</Folders>\r\n<Files>\r\n";
-        for (const auto& entry : project.Files) {
-            const clsFile& file = *entry.record;
-            text += BlockValue("AbsPath", file.AbsPath) + BlockValue("PrjFolder", file.PrjFolder) +
-                    BlockValue("Line", std::to_string(file.Line)) +
-                    BlockValue("Column", std::to_string(file.Column)) +
-                    BlockValue("Tip", std::to_string(file.Tip)) +
-                    BlockValue("Visible", BlockBoolean(file.Visible)) + "\r\n";
-        }
-        text += "</Files>\r\n";
-        gHost.files->Write(project.FullPath, text);
-        project.Dirty = false;
+        WriteProject(project);
         return true;
     });
 }

@@ -92,7 +92,7 @@ frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
         return document;
     }
     const frmDoc* before = ActiveForm();
-    const bool opened = Mod_File::OpenFile(path);
+    const bool opened = path.empty() ? Mod_File::OpenFile(path) : Mod_File::OpenHere(path);
     return opened || ActiveForm() != before ? ActiveForm() : nullptr;
 }
 

@@ -78,7 +78,7 @@ void ToggleFold(const Click&) {
 }
 
 void OpenRecentFile(const Click& click) {
-    if (const auto path = Mod_File::RecentFile(click.item)) Mod_File::OpenFile(*path);
+    if (const auto path = Mod_File::RecentFile(click.item)) Mod_File::OpenHere(*path);
 }
 
 void OpenRecentProject(const Click& click) {

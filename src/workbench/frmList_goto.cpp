@@ -113,6 +113,6 @@ void frmList::OpenInclude() {
             if (there) break;
         }
         if (path.empty() || Mod_File::ActivateOpen(path)) return;
-        Mod_File::OpenFile(path);
+        Mod_File::OpenHere(path);
     });
 }

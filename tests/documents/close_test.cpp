@@ -23,6 +23,7 @@ struct CloseTest : testing::Test {
         session.Type("; new ");
         return document;
     }
+    std::string Handle() { return session.host.settings.Get("Instance", "Handle", ""); }
     bool Cancelled() {
         session.host.dock.CloseWindow();
         return !session.host.dock.closed;
@@ -68,7 +69,7 @@ TEST_F(CloseTest, NothingClosesBeforeTheLastQuestionWasAnswered) {
     const std::string first = Dirty("first.bb").FullFilename;
     const std::string second = Dirty("second.bb").FullFilename;
     const auto keys = session.WindowKeys();
-    session.host.settings.Save("Instance", "Handle", "5");
+    Mod_Main::Publish();
     const std::function<bool()> ends[] = {[&] { return Cancelled(); },
                                           [] { return !Mod_File::CloseAllFiles(); }};
     for (const auto& end : ends) {
@@ -77,7 +78,7 @@ TEST_F(CloseTest, NothingClosesBeforeTheLastQuestionWasAnswered) {
         EXPECT_TRUE(end());
         EXPECT_EQ(session.WindowKeys(), keys);
         EXPECT_TRUE(gProjects.Item(first)->Sources.Item(0)->Dirty);
-        EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "5"); // it can still be found
+        EXPECT_EQ(Handle(), "4711:channel"); // it can still be found
         EXPECT_TRUE(session.host.dock.savedLayouts.empty());
     }
     dialogs.WillAnswer(MessageAnswer::No);
@@ -114,20 +115,33 @@ TEST_F(CloseTest, ADismissedPromptKeepsAProject) {
         EXPECT_EQ(project->Sources.Count(), 2);
         EXPECT_EQ(gProjects.Count(), 1);
     }
+    // A project that cannot be saved stays too, until the user lets its changes go.
+    project->Dirty = true;
+    for (const auto& end : ends) {
+        for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::No}) dialogs.WillAnswer(answer);
+        session.host.files.failing = {{"w" + path, "Read-only file system"}};
+        dialogs.WillAnswer(MessageAnswer::Cancel);
+        EXPECT_TRUE(end());
+        EXPECT_EQ(session.LastMessage().find("Could not save " + path), 0u);
+        EXPECT_EQ(session.WindowKeys(), keys);
+    }
+    for (int question = 0; question < 2; ++question) dialogs.WillAnswer(MessageAnswer::No);
+    dialogs.WillAnswer(MessageAnswer::Yes);
+    EXPECT_TRUE(Mod_File::CloseProject(project));
 }
 
 // A process that is told to end asks nothing and writes no text over its file.
 TEST_F(CloseTest, TheEndWithoutAQuestionKeepsWhatIsRemembered) {
     const std::string path = Dirty("a.bb").FullFilename;
-    session.host.settings.Save("Instance", "Handle", "5");
-    Mod_Main::PlaceMainWindow();
+    Mod_Main::Publish();
     EXPECT_FALSE(Mod_Main::Ended());
     Mod_Main::EndNow();
+    Mod_Main::PlaceMainWindow(); // a start that goes on behind the end
     EXPECT_TRUE(Mod_Main::Ended());
     EXPECT_EQ(session.Bytes(path), "old\r\n");
     const std::string workspace = session.Bytes(session.host.Path("Conf/LastWorkspace.zws"));
     EXPECT_NE(workspace.find(path), std::string::npos);
-    EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0");
+    EXPECT_EQ(Handle(), "0");
     EXPECT_EQ(session.host.dock.savedLayouts.size(), 1u);
     session.host.dock.DropDocumentWindow(*session.host.dock.FindDocumentWindow(path));
     Mod_Main::SaveSession(); // what has ended is not written again, with less in it
@@ -138,14 +152,47 @@ TEST_F(CloseTest, TheStepsOfTheEndComeInTheirOrder) {
     std::vector<std::string> steps;
     session.Open("a.bb", "");
     gDocumentCalls.UnloadFind = [&] {
-        EXPECT_EQ(session.host.settings.Get("Instance", "Handle", ""), "0");
+        EXPECT_EQ(Handle(), "0");
         EXPECT_EQ(session.WindowKeys().size(), 1u); // nothing was closed yet
         steps.push_back("find");
     };
-    session.host.instances.receive = [&](const std::string&) {};
+    Mod_Main::Publish();
     EXPECT_FALSE(Cancelled());
     EXPECT_EQ(steps, std::vector<std::string>{"find"});
     EXPECT_FALSE(session.host.instances.receive); // nobody can hand over any more
+}
+
+TEST_F(CloseTest, AWindowWithdrawsOnlyItsOwnHandle) {
+    const std::function<void()> ends[] = {[&] { EXPECT_FALSE(Cancelled()); }, Mod_Main::EndNow};
+    for (const auto& end : ends) {
+        Mod_Main::Publish();
+        session.host.settings.Save("Instance", "Handle", "99:another"); // a window that started since
+        end();
+        EXPECT_EQ(Handle(), "99:another");
+    }
+}
+
+// Whoever handed over a file was told that it will be opened here.
+TEST_F(CloseTest, AFileThatComesDuringTheEndCancelsIt) {
+    const std::string path = session.host.Put("late.bb", "");
+    Mod_Main::Publish();
+    session.host.instances.onTheWay = path;
+    EXPECT_TRUE(Cancelled());
+    EXPECT_EQ(Handle(), "4711:channel");
+    session.host.desktop.Advance(100);
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
+    EXPECT_FALSE(Cancelled());
+}
+
+TEST_F(CloseTest, WhatIsLeftGoesWithItsProgramBeforeThePlatformDoes) {
+    for (const char* name : {"a.bb", "b.bb"}) {
+        Dirty(name);
+        session.host.processes.WillStart({.ends = false});
+        EXPECT_TRUE(ActiveForm()->ShellClass->ExecuteNoCheck("program", ""));
+    }
+    Mod_Main::TakeDown();
+    EXPECT_EQ(gProjects.Count(), 0);
+    EXPECT_EQ(session.host.desktop.Timers(), 0u);
 }
 
 TEST_F(CloseTest, AChangedProjectIsWrittenAtTheEnd) {

@@ -1,5 +1,6 @@
 // Opening by path, by dialog and by command line, and what is said where nothing can be opened.
 #include "documents/Mod_File.h"
+#include "documents/Mod_File_workspace.h"
 #include "documents/Session.h"
 #include "engine/ClsProject.h"
 #include "host/Host.h"
@@ -59,6 +60,24 @@ TEST_F(OpenTest, AChangedFileIsLoadedAnewOnlyWhenTheUserSaysSo) {
     EXPECT_FALSE(ActiveForm()->Dirty);
     EXPECT_EQ(Documents(), 1u);
     EXPECT_EQ(gProjects.Count(), 1);
+    session.Type("kept = 1\r\n");
+    session.host.views.fails = true;
+    for (const MessageAnswer next : {MessageAnswer::Yes, MessageAnswer::Ok})
+        session.host.dialogs.WillAnswer(next);
+    EXPECT_FALSE(Mod_File::OpenFile(path)); // the old one stays where the new one fails
+    EXPECT_EQ(Mod_Sci::GetText().find("kept"), 0u);
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
+    EXPECT_EQ(gCurrentProject, gProjects.Find(path));
+}
+
+TEST_F(OpenTest, AFileThatGetsNoWindowLeavesTheActiveDocument) {
+    const frmDoc& first = session.Open("a.bb", "a=1\r\n");
+    const std::string path = session.host.Put("b.bb", "b=1\r\n");
+    session.host.dock.AddDocumentWindow(path, "in its way", nullptr);
+    session.host.ExpectErrorLog();
+    EXPECT_FALSE(Mod_File::OpenFile(path));
+    EXPECT_EQ(ActiveForm(), &first);
+    EXPECT_EQ(gProjects.Count(), 1);
 }
 
 TEST_F(OpenTest, AChangedFileThatIsGoneStaysInItsWindow) {
@@ -82,6 +101,15 @@ TEST_F(OpenTest, WhatIsNoSourceGoesToTheDesktop) {
     EXPECT_EQ(session.LastMessage(), "File: /no/such.txt does not exists !");
     EXPECT_EQ(session.host.dialogs.messages.back().icon, MessageIcon::Exclamation);
     EXPECT_EQ(Documents(), 0u);
+    EXPECT_TRUE(Mod_File::OpenHere(text)); // an Include names it, or a workspace
+    session.Open("a.bb", "");
+    EXPECT_FALSE(Mod_File::OpenFile(text));
+    EXPECT_EQ(ActiveForm()->FullFilename, text);
+    const std::string workspace = session.host.Path("desk.zws");
+    Mod_File::SaveWorkSpace(workspace);
+    EXPECT_TRUE(Mod_File::LoadWorkSpace(workspace));
+    EXPECT_EQ(Documents(), 2u);
+    EXPECT_EQ(session.host.files.openedWithDesktop.size(), 1u);
 }
 
 TEST_F(OpenTest, WhatCannotBeReadIsToldAndLeavesNothingBehind) {

@@ -4,6 +4,7 @@
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
 #include "engine/ClsCompiler.h"
+#include "host/Host.h"
 #include "sci/Mod_Sci.h"
 
 #include <filesystem>
@@ -71,6 +72,54 @@ TEST_F(OpenProjectTest, OpeningByExtensionLoadsAProject) {
     EXPECT_EQ(session.LastMessage(), "Project is already loaded");
     EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Exclamation);
     EXPECT_EQ(session.WindowKeys().size(), 2u);
+    gProjects.Find(Zpf())->CommandLine = "-fast";
+    gProjects.Find(Zpf())->Dirty = true;
+    for (const std::string& path : {Main(), Maths()}) session.Close(path);
+    EXPECT_TRUE(Mod_Project::LoadProject(Zpf())); // its tabs were closed one by one
+    EXPECT_EQ(session.WindowKeys().size(), 2u);
+    EXPECT_EQ(gProjects.Count(), 1);
+    EXPECT_EQ(gCurrentProject->CommandLine, "-fast");
+    EXPECT_EQ(ActiveForm()->FullFilename, Main());
+}
+
+// A box in the middle of the members lets another view have its say.
+TEST_F(OpenProjectTest, MembersJoinTheirOwnProjectWhateverIsActive) {
+    frmDoc& single = session.Open("single.bb", "s=1\r\n");
+    struct : FakeDialogs {
+        frmDoc* active = nullptr;
+        MessageAnswer Show(const Message&) override { return MakeActive(active), MessageAnswer::Ok; }
+    } wandering;
+    wandering.active = &single;
+    gHost.dialogs = &wandering;
+    session.host.files.failing = {{"r" + Main(), "Input/output error"}};
+    const auto project = Load();
+    gHost.dialogs = &dialogs;
+    EXPECT_EQ(project->Sources.Count(), 1);
+    EXPECT_EQ(gProjects.Find(single.FullFilename)->Sources.Count(), 1);
+}
+
+TEST_F(OpenProjectTest, AMemberIsOneWhateverItsExtension) {
+    const std::string level = session.host.Put("Game/level.inc", "l=1\r\n");
+    session.host.Put("Game/Game.zpf", "[Zolto Project file]\r\n<Files>\r\n AbsPath=\"Main.bb\"\r\n "
+                                      "AbsPath=\"level.inc\"\r\n</Files>\r\n");
+    const auto project = Load();
+    session.Close(level);
+    EXPECT_TRUE(Mod_File::OpenFile(level));
+    EXPECT_EQ(ActiveForm()->PrjFullPath, Zpf());
+    EXPECT_TRUE(session.host.files.openedWithDesktop.empty());
+}
+
+TEST_F(OpenProjectTest, TheFileOfAProjectOrTheWorkspaceIsNoPlaceForASource) {
+    Load();
+    frmDoc& single = session.Open("single.bb", "s=1\r\n");
+    const std::string before = session.Bytes(Zpf());
+    for (const std::string& path : {Zpf(), session.host.Put("Conf/LastWorkspace.zws", before)}) {
+        dialogs.WillSave(path);
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        EXPECT_FALSE(Mod_File::SaveFileAs(&single));
+        EXPECT_TRUE(session.LastMessage().ends_with(" is already open"));
+        EXPECT_EQ(session.Bytes(path), before);
+    }
 }
 
 TEST_F(OpenProjectTest, AMemberThatIsOpenElsewhereStopsTheLoad) {
@@ -102,6 +151,16 @@ TEST_F(OpenProjectTest, ProjectsThatCannotBeHad) {
     EXPECT_TRUE(Mod_Project::LoadProject(session.host.Path("gone/Gone.zpf")));
     EXPECT_EQ(gProjects.Item(0)->Files.Count(), 0);
     EXPECT_TRUE(session.WindowKeys().empty());
+    session.host.Put("gone/a.bb", "");
+    EXPECT_TRUE(Mod_Project::LoadProject(session.host.Path("gone/Gone.zpf")));
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{session.host.Path("gone/a.bb")}); // it came back
+    session.host.files.failing = {{"r" + Zpf(), "Permission denied"}};
+    std::filesystem::create_directory(session.host.Path("folder.zpf"));
+    for (const std::string& path : {Zpf(), session.host.Path("folder.zpf")}) {
+        dialogs.WillAnswer(MessageAnswer::Ok);
+        EXPECT_FALSE(Mod_Project::LoadProject(path));
+        EXPECT_EQ(session.LastMessage(), "Not a valid project file !");
+    }
 }
 
 TEST_F(OpenProjectTest, AMemberStaysInTheFolderAndItsNameIsItsOwn) {
@@ -160,6 +219,17 @@ TEST_F(OpenProjectTest, AMemberOpensAsThatMemberByWhateverWay) {
     EXPECT_TRUE(Mod_File::OpenFile(path("link.bb"))); // loaded anew
     EXPECT_EQ(ActiveForm()->FullFilename, Maths());
     EXPECT_FALSE(ActiveForm()->SingleFile || ActiveForm()->Dirty);
+    session.Type("; kept\r\n");
+    session.host.views.fails = true;
+    for (const MessageAnswer answer : {MessageAnswer::Yes, MessageAnswer::Ok}) dialogs.WillAnswer(answer);
+    EXPECT_FALSE(Mod_File::OpenFile(Maths())); // the old one stays where the new one fails
+    session.host.views.fails = false;
+    EXPECT_EQ(Mod_Sci::GetText().find("; kept"), 0u);
+    EXPECT_TRUE(ActiveForm()->Dirty);
+    EXPECT_EQ(project->Sources.Count(), 2);
+    EXPECT_EQ(project->Funkcii.Count(), 2);
+    session.Type("; more\r\n");
+    dialogs.WillAnswer(MessageAnswer::No);
     session.Close(Maths());
     frmDoc& single = session.Open("single.bb", "s=1\r\n");
     dialogs.WillSave(Maths());
@@ -181,7 +251,7 @@ TEST_F(OpenProjectTest, AMemberThatGetsNoWindowLeavesTheActiveDocument) {
     const frmDoc& main = Member(Main());
     session.host.dock.AddDocumentWindow(Maths(), "in its way", nullptr);
     session.host.ExpectErrorLog();
-    EXPECT_FALSE(Mod_File::OpenProjectsFile(Maths()));
+    EXPECT_FALSE(Mod_File::OpenProjectsFile(project, Maths()));
     EXPECT_EQ(ActiveForm(), &main);
     EXPECT_EQ(SciWndData, main.SciEdi_WndData);
     EXPECT_EQ(project->Sources.Count(), 1);
