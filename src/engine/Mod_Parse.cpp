@@ -185,7 +185,9 @@ void LineParser::Indent() {
     IndentLevel = std::max(1, IndentLevel - closes_);
     if (!startsWithComment_) {
         const int target = (IndentLevel - 1) * OptionsEdit::TabValue;
-        if (Mod_Sci::GetLineIndentation(line_) != target) {
+        // With the whole text the view would forget what was just found.
+        const bool blankDocument = line_ == 0 && Mod_Sci::GetLineIndentPosition(0) == Mod_Sci::GetLength();
+        if (Mod_Sci::GetLineIndentation(line_) != target && !blankDocument) {
             const ColoringScope own;
             SetIndentation(line_, target);
         }
