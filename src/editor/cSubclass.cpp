@@ -15,6 +15,7 @@
 #include "engine/Mod_Folding.h"
 #include "engine/Mod_Parse.h"
 #include "engine/Mod_Parse_walk.h"
+#include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
 #include "host/Desktop.h"
@@ -44,6 +45,18 @@ public:
     ~Unheard() { Mod_Sci::SetModEventMask(EventMask); }
     Unheard(const Unheard&) = delete;
     Unheard& operator=(const Unheard&) = delete;
+};
+
+// The parser indents nothing for as long as it lives, whatever the option for loading says.
+class AsItStands {
+public:
+    AsItStands() : before_(std::exchange(OptionsEdit::AutoIndentOnLoad, 0)) {}
+    ~AsItStands() { OptionsEdit::AutoIndentOnLoad = before_; }
+    AsItStands(const AsItStands&) = delete;
+    AsItStands& operator=(const AsItStands&) = delete;
+
+private:
+    int before_;
 };
 
 std::vector<int> FoldedLines() {
@@ -114,7 +127,9 @@ void cSubclass::ParseWhole(const std::function<void()>& change) {
     ForgetFile();
     {
         const Unheard unheard;
+        const AsItStands indentation;
         change();
+        crCame_ = true; // nobody was told what came
         State().mLastOperationUndoRedo = false;
         CurrentFunctionName = MainProgram;
         CurrentLocals = gCurrentProject->MainFunLocals;

@@ -56,7 +56,7 @@ bool IsLineEnd(const SciNotification& notification, int line) {
 
 // Whether a change is about to take a CR LF apart or to put one together: the lines on both sides change with
 // it, and the view moves their markers in a way of its own.
-bool PartsLineEnd(const SciNotification& notification) {
+bool PartsLineEnd(const SciNotification& notification, bool mayHoldCr) {
     const auto at = [](std::intptr_t position) { return Mod_Sci::GetCharAt(position); };
     const auto position = notification.position;
     const auto end = position + notification.length;
@@ -66,12 +66,19 @@ bool PartsLineEnd(const SciNotification& notification) {
                (at(end - 1) == '\r' && at(end) == '\n');
     // An undo does not tell what it brings back.
     if (notification.text == nullptr)
-        return behindCr || (at(position) == '\n' &&
+        return behindCr || (mayHoldCr && at(position) == '\n' &&
                             (notification.modificationType & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)));
     if (notification.length == 0) return false;
     const char first = notification.text[0];
     const char last = notification.text[notification.length - 1];
     return (behindCr && (at(position) == '\n' || first == '\n')) || (last == '\r' && at(position) == '\n');
+}
+
+// Whether what came in holds a CR; in a document with LF alone few insertions do, and most are one letter.
+bool HoldsCr(const SciNotification& notification) {
+    for (auto at = notification.position; at < notification.position + notification.length; ++at)
+        if (Mod_Sci::GetCharAt(at) == '\r') return true;
+    return false;
 }
 
 // Raises a flag for as long as it lives.
@@ -162,7 +169,7 @@ void cSubclass::Modified(const SciNotification& notification) {
         mFrmDoc.SetDirty(true);
         const int start = LineOf(notification.position);
         const int end = LineOf(notification.position + notification.length);
-        if (PartsLineEnd(notification))
+        if (PartsLineEnd(notification, crCame_ || !mFrmDoc.LfEnds))
             BeforeParting(notification, start, (type & SC_MOD_BEFOREDELETE) ? end : start);
         else if (type & SC_MOD_BEFOREDELETE)
             BeforeDelete(notification, start, end);
@@ -173,6 +180,7 @@ void cSubclass::Modified(const SciNotification& notification) {
     } else if (type & SC_MOD_INSERTTEXT) {
         AfterInsert(notification);
     }
+    if ((type & SC_MOD_INSERTTEXT) && mFrmDoc.LfEnds && !crCame_) crCame_ = HoldsCr(notification);
 }
 
 // A folded header that goes would leave its lines hidden with nothing to show them by.
@@ -201,7 +209,7 @@ void cSubclass::BeforeParting(const SciNotification& notification, int start, in
 }
 
 void cSubclass::AfterParting(const SciNotification& notification) {
-    ForgetLines(mFrmDoc.SciEdi_WndData);
+    if (notification.linesAdded != 0) ForgetLines(mFrmDoc.SciEdi_WndData);
     const bool inserted = (notification.modificationType & SC_MOD_INSERTTEXT) != 0;
     const auto end = notification.position + (inserted ? notification.length : 0);
     const int last = std::min(LineOf(end) + 1, static_cast<int>(Mod_Sci::GetLineCount()) - 1);

@@ -29,6 +29,26 @@ TEST_F(PipelineTest, ALineIsParsedWhenTheCaretLeavesIt) {
     ExpectAsLoaded();
 }
 
+TEST_F(PipelineTest, AnUndoAtALinesEndLeavesTheFoldsClosed) {
+    for (const std::string end : {"\n", "\r\n"}) {
+        Open("Function f()" + end + "Local b" + end + "End Function" + end + "x" + end + "y" + end);
+        Mod_Sci::ToggleFold(0);
+        GoTo(3, 1);
+        Type("z\b");
+        Mod_Sci::Undo();
+        Settle();
+        EXPECT_FALSE(Mod_Sci::GetFoldExpanded(0));
+    }
+}
+
+TEST_F(PipelineTest, ParsingAnewLeavesTheIndentationAndSoTheHistory) {
+    frmDoc& document = OpenLines({"x", "\ty"});
+    const std::string text = Mod_Sci::GetText();
+    const Setting indent(OptionsEdit::AutoIndentOnLoad, 1);
+    document.m_oSubclass->ParseAnew();
+    EXPECT_EQ(Mod_Sci::GetText(), text);
+}
+
 TEST_F(PipelineTest, DrainingParsesWithoutACaretMove) {
     frmDoc& document = OpenLines({"x", "y"});
     GoTo(1, 1);
