@@ -107,6 +107,7 @@ std::string ShownFile(const ErrorLine& error, const frmDoc* document, const Comp
 void Report(const ErrorLine& error, const std::string& file) {
     const std::string& message = error.fields[5];
     const std::string place = "Line: " + error.fields[1] + ", Column: " + error.fields[2];
+    if (!file.empty()) Append(file);
     Append("Compile Error In " + place + " -->  " + message);
     if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
     gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ", MessageIcon::Critical,

@@ -152,10 +152,14 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
     TellProblem(problem);
 }
 
+void Notice(const std::string& text) {
+    if (gEditorCalls.SetNotice) gEditorCalls.SetNotice(text);
+}
+
 // A document runs one child at a time. True, after a word in the status bar, while one runs.
 bool Busy(const frmDoc& document) {
     if (!document.ShellClass->Running()) return false;
-    if (gEditorCalls.SetNotice) gEditorCalls.SetNotice("Process already running.");
+    Notice("Process already running.");
     return true;
 }
 
@@ -231,7 +235,9 @@ void RunLastCreated() {
 }
 
 void StopRunning() {
-    if (DocumentActive() && ActiveForm()->ShellClass->Running()) ActiveForm()->ShellClass->Terminate();
+    if (!DocumentActive()) return;
+    if (!ActiveForm()->ShellClass->Running()) return Notice("No process to terminate.");
+    if (ActiveForm()->ShellClass->Terminate()) Append("The program was stopped.");
 }
 
 void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath) {

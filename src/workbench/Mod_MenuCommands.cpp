@@ -109,6 +109,8 @@ void ShowPane(const char* pane) {
 void TogglePane(const char* pane, bool byKey) {
     DockPane* found = gHost.dock->FindPane(pane);
     if (!found) return;
+    // One that slid out goes back when it loses the focus.
+    if (byKey && found->AutoHidden() && found->HasFocus()) return FocusText();
     if (found->Visible() && !found->AutoHidden() && (!byKey || found->HasFocus()))
         found->Hide();
     else

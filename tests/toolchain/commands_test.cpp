@@ -1,6 +1,7 @@
 // What the compiler is called with, and what stops a call.
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
+#include "documents/OpenPaths.h"
 #include "documents/Options.h"
 #include "editor/EditorCalls.h"
 #include "editor/OpenDocuments.h"
@@ -210,10 +211,15 @@ TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
     session.Type("x");
     Compile(path, false); // one at a time: nothing is saved, cleared or shown
     EXPECT_EQ(word, "Process already running.");
+    session.Open("b.bb", "");
+    StopRunning(); // this one runs nothing
+    EXPECT_EQ(word, "No process to terminate.");
+    BringToFront(*Mod_File::DocumentOfPath(path));
     EXPECT_TRUE(ActiveForm()->Dirty);
     EXPECT_EQ(cleared, 1);
     gEditorCalls = {};
     StopRunning();
+    EXPECT_EQ(output.back(), "The program was stopped.");
     session.host.desktop.Advance(200);
     EXPECT_EQ(processes.killed, 1);
     EXPECT_FALSE(ActiveForm()->ShellClass->Running());

@@ -87,7 +87,11 @@ CommandCombo::CommandCombo(QtCommand& command, CommandTable& table, QWidget* par
 
 // The toolkit's box takes Escape for a letter to look for.
 void CommandCombo::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) return event->ignore();
+    if (event->key() == Qt::Key_Escape) {
+        if (uncommitted_) setEditText(before_);
+        uncommitted_ = false;
+        return event->ignore();
+    }
     QComboBox::keyPressEvent(event);
 }
 
@@ -113,6 +117,7 @@ void CommandCombo::Changed(bool committed) {
     if (showing_) return;
     const std::string text = Typed(currentText());
     const bool differs = text != command_.Text();
+    if (differs && !uncommitted_) before_ = Shown(command_.Text());
     if (differs) command_.SetText(text);
     uncommitted_ = !committed && (uncommitted_ || differs);
     if (!table_.events) return;

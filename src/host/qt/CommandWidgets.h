@@ -25,6 +25,7 @@ private:
     CommandTable& table_;
     bool showing_ = false;     // the program sets the text
     bool uncommitted_ = false; // the user typed and has not entered it
+    QString before_;           // what stood there when the user began to type
 };
 
 // The widget of a status command: a text, a progress bar or a clock.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -93,6 +94,15 @@ QString Suffix(const std::string& filter) {
     return suffix.contains('*') ? QString() : suffix;
 }
 
+// A box is as wide as its text, and the desktop cuts a title that is longer.
+void WidenToTitle(QMessageBox& box) {
+    constexpr int RoomForButtons = 120;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (!grid) return;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + RoomForButtons;
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }
 
 QString ToolkitFilter(const std::string& filter) {
@@ -115,6 +125,7 @@ MessageAnswer QtDialogs::Show(const Message& message) {
     MessageBox box(Icon(message.icon), Title(message.title), text, Buttons(message.buttons), Parent());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(DefaultButton(message));
+    WidenToTitle(box);
     switch (box.exec()) {
     case QMessageBox::Yes: return MessageAnswer::Yes;
     case QMessageBox::No: return MessageAnswer::No;
