@@ -136,8 +136,10 @@ bool Reload(const std::shared_ptr<frmDoc>& document) {
 // An open file comes to the front; with changes the user may have it loaded anew, and the answer is true
 // then.
 bool OpenAgain(const frmDoc& document) {
-    if (!document.Dirty) return ActivateOpen(document.FullFilename), false;
     const long serial = document.Serial;
+    const bool dirty = document.Dirty;
+    ActivateOpen(document.FullFilename); // who is asked sees what about
+    if (!dirty) return false;
     const MessageAnswer answer = gHost.dialogs->Show(
         {"File " + document.Filename +
              " is already open and has changed.\r\nDo you want to reload this file and lose any changes ?",
@@ -262,7 +264,10 @@ void OpenFilesFromCommand(const std::string& commandLine) {
         long line = 0;
         const auto open = [&](const std::string& path) {
             if (path.empty() || gHost.desktop->ShortPath(path).empty()) return false;
-            if (OpenFile(path) && line > 0) Mod_Sci::GotoLine(line - 1);
+            if (OpenFile(path) && line > 0) {
+                Mod_Sci::EnsureVisible(line - 1); // it may lie in a closed fold
+                Mod_Sci::GotoLine(line - 1);
+            }
             line = 0;
             return true;
         };
