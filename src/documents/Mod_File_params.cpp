@@ -8,6 +8,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -15,6 +16,7 @@
 #include <charconv>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace Mod_File {
 
@@ -77,24 +79,22 @@ void ForEachEntry(std::string_view text, Visit visit) {
     }
 }
 
-// Applies one line of the block; false for a line that does not belong to it.
-bool ApplyLine(const std::string& text) {
-    const std::string_view kind = std::string_view(text).substr(0, 4);
-    if (kind == ";~F#") {
+bool IsBlockLine(std::string_view text) {
+    return text.starts_with(";~F#") || text.starts_with(";~B#") || text.starts_with(";~L#") ||
+           text.starts_with(";~C#");
+}
+
+void ApplyLine(std::string_view text) {
+    if (text.starts_with(";~F#")) {
         if (OptionsEdit::ShowFoldMargin)
             ForEachEntry(text, [](int line) {
                 if (HasMarker(line, MarkerFoldOpens)) Mod_Sci::ToggleFold(line);
             });
-    } else if (kind == ";~B#") {
+    } else if (text.starts_with(";~B#")) {
         ForEachEntry(text, [](int line) { Mod_Sci::MarkerAdd(line, MarkerBookmark); });
-    } else if (kind == ";~L#") {
-        // Without its line end: what stayed in it would be written back and end the block early.
-        if (gCurrentProject->SingleFile)
-            gCurrentProject->CommandLine = text.substr(4, text.find_last_not_of("\r\n") - 3);
-    } else if (kind != ";~C#") {
-        return false;
+    } else if (text.starts_with(";~L#")) {
+        if (gCurrentProject->SingleFile) gCurrentProject->CommandLine = text.substr(4);
     }
-    return true;
 }
 
 // The block's lines end as those of its file do. A CR anywhere makes it CR LF, because one at the text's end
@@ -111,19 +111,74 @@ std::size_t LineEndBefore(std::string_view text, std::size_t position) {
     return text.ends_with('\n') || text.ends_with('\r') ? 1 : 0;
 }
 
-} // namespace
+std::size_t LineEndAt(std::string_view text, std::size_t position) {
+    return std::min(text.find_first_of("\r\n", position), text.size());
+}
 
-std::size_t FindParameters(std::string_view text) {
-    for (std::size_t at = text.find(";~"); at != std::string_view::npos; at = text.find(";~", at + 1))
+// The start of the next line, from the end of one; the text's end where there is none.
+std::size_t BehindLineEnd(std::string_view text, std::size_t end) {
+    return std::min(text.size(), end + (text.substr(end).starts_with("\r\n") ? 2 : 1));
+}
+
+std::size_t FindHeader(std::string_view text, std::size_t from) {
+    for (std::size_t at = text.find(";~", from); at != std::string_view::npos; at = text.find(";~", at + 1))
         if ((at == 0 || LineEndBefore(text, at) > 0) && EqualNoCase(text.substr(at, Header.size()), Header))
             return at;
     return std::string_view::npos;
 }
 
+// What goes from a text with a block: the line end in front of the header, which was written with it (one
+// byte where a program has turned the file's line ends to LF), and what another program put behind a last
+// line.
+struct Block {
+    std::size_t from;
+    std::size_t to;
+    std::vector<std::string_view> lines; // behind the header, without their line ends
+};
+
+// The blocks of a text in their order. A header alone is a block only as the last one.
+std::vector<Block> FindBlocks(std::string_view text) {
+    std::vector<Block> blocks;
+    for (std::size_t at = FindHeader(text, 0); at != std::string_view::npos; at = FindHeader(text, at + 1)) {
+        if (!blocks.empty() && blocks.back().lines.empty()) blocks.pop_back();
+        Block block{at - LineEndBefore(text, at), LineEndAt(text, at), {}};
+        for (;;) {
+            const std::size_t line = BehindLineEnd(text, block.to);
+            if (!IsBlockLine(text.substr(line))) break;
+            block.to = LineEndAt(text, line);
+            block.lines.push_back(text.substr(line, block.to - line));
+        }
+        if (text.find_first_not_of("\r\n", block.to) == std::string_view::npos) block.to = text.size();
+        blocks.push_back(std::move(block));
+    }
+    return blocks;
+}
+
+void Remove(const Block& block) {
+    const auto from = static_cast<std::intptr_t>(block.from);
+    const auto to = static_cast<std::intptr_t>(block.to);
+    // A line that goes would leave its markers to the line before it, which has its own.
+    for (auto line = Mod_Sci::LineFromPosition(to); line > Mod_Sci::LineFromPosition(from); --line)
+        Mod_Sci::MarkerDelete(line, -1);
+    Mod_Sci::ReplaceRange(from, to, "");
+}
+
+} // namespace
+
+std::size_t FindParameters(std::string_view text) { return FindHeader(text, 0); }
+
 bool HasOnlyLf(std::string_view text) {
-    std::string_view source = text.substr(0, FindParameters(text));
-    if (source.size() < text.size() && source.ends_with("\r\n")) source.remove_suffix(2);
-    return source.find('\n') != std::string_view::npos && source.find('\r') == std::string_view::npos;
+    bool lf = false;
+    const auto onlyLf = [&](std::string_view source) {
+        lf = lf || source.find('\n') != std::string_view::npos;
+        return source.find('\r') == std::string_view::npos;
+    };
+    std::size_t from = 0;
+    for (const Block& block : FindBlocks(text)) {
+        if (!onlyLf(text.substr(from, block.from - from))) return false;
+        from = block.to;
+    }
+    return onlyLf(text.substr(from)) && lf;
 }
 
 std::string GetFileParameters() {
@@ -156,32 +211,25 @@ void CheckFileParameters() {
     Guarded("CheckFileParameters", "Mod_File", [&] {
         // Searched in a copy: the view's own search takes longer than to read the file.
         const std::string text = gActiveDoc->MayHaveParameters ? Mod_Sci::GetText() : std::string();
-        const std::size_t found = FindParameters(text);
-        if (found == std::string::npos) {
+        const std::vector<Block> blocks = FindBlocks(text);
+        if (blocks.empty()) {
             Coloring = false;
             return;
         }
-        const auto header = static_cast<std::intptr_t>(found);
         const ColoringScope own;
-        const auto lines = Mod_Sci::GetLineCount();
-        auto line = Mod_Sci::LineFromPosition(header) + 1;
-        while (line < lines && Mod_Sci::GetCharAt(Mod_Sci::PositionFromLine(line)) == ';' &&
-               ApplyLine(Mod_Sci::LineText(line)))
-            ++line;
-        const auto end = line >= lines ? Mod_Sci::GetLength() : Mod_Sci::GetLineEndPosition(line - 1);
-        // A line that goes would leave its markers to the line before it, which has its own.
-        const auto headerLine = Mod_Sci::LineFromPosition(header);
-        for (auto gone = std::max<std::intptr_t>(1, headerLine); gone < line; ++gone)
-            Mod_Sci::MarkerDelete(gone, -1);
-        // The line end in front of the header was written with it; a program that turned the file's line
-        // ends to LF has made one byte of its two.
-        Mod_Sci::ReplaceRange(header - static_cast<std::intptr_t>(LineEndBefore(text, found)), end, "");
+        for (const std::string_view line : blocks.back().lines) ApplyLine(line);
+        std::for_each(blocks.rbegin(), blocks.rend(), Remove);
+        // Nobody hears of lines that move.
+        if (blocks.front().to < text.size()) ForgetLines(SciWndData);
     });
 }
 
 std::string CheckFileCompilerUsed() {
     return Guarded("CheckFileCompilerUsed", "Mod_File", DefaultCompiler, [&] {
-        const std::string last = Mod_Sci::LineText(Mod_Sci::GetLineCount() - 1);
+        auto line = Mod_Sci::GetLineCount() - 1;
+        while (line > 0 && Mod_Sci::GetLineEndPosition(line) == Mod_Sci::PositionFromLine(line)) --line;
+        const std::string last =
+            Mod_Sci::GetTextRange(Mod_Sci::PositionFromLine(line), Mod_Sci::GetLineEndPosition(line));
         if (!last.starts_with(";~C#")) return DefaultCompiler;
         const auto compiler = gCompilers.Find(last.substr(4));
         return compiler ? compiler->Name : DefaultCompiler;

@@ -6,6 +6,7 @@
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
 #include "engine/OptionsEdit.h"
+#include "engine/SymbolLine.h"
 #include "sci/Mod_Sci.h"
 
 #include <gtest/gtest.h>
@@ -109,9 +110,43 @@ TEST_F(ParametersTest, AHeaderInsideTheTextBeginsTheBlockThere) {
     EXPECT_EQ(Bookmarks(), std::vector<int>{0});
     session.Open("b.bb", ";~Zolto Editor Parameters:\r\n;~B#0\r\nc=3"); // nothing stands in front of it
     EXPECT_EQ(Mod_Sci::GetText(), "\r\nc=3");
+    session.Open("d.bb",
+                 std::string("Global a") + Head + "\r\n;~C#x\r\nGlobal b\r\nFunction f()\r\nEnd Function");
+    EXPECT_EQ(LineOf(*gCurrentProject->Globals.ItemHash("b")), 1); // which has moved unheard
+    EXPECT_EQ(LineOf(*gCurrentProject->Funkcii.ItemHash("f")), 2);
     const std::string quoted = "Print \"x;~Zolto Editor Parameters:\"\r\n;~B#0\r\n"; // no line begins with it
     session.Open("c.bb", quoted);
     EXPECT_EQ(Mod_Sci::GetText(), quoted);
+}
+
+// Another program or a merge puts a line end or a second block behind the block; nothing of it stays or
+// grows.
+TEST_F(ParametersTest, TheLastOfSeveralBlocksCountsAndNoRoundTripAddsALine) {
+    const std::string block = std::string(Head) + "\r\n;~B#1\r\n;~C#ZoltoBasic";
+    const std::string first = std::string(Head) + "\r\n;~B#0\r\n;~L#old";
+    const std::string lone = std::string(Head) + "\r\n;text";
+    const struct {
+        std::string bytes;
+        std::string source;
+    } rows[] = {{"a=1\r\nb=2" + first + block, "a=1\r\nb=2"},
+                {"a=1\r\nb=2" + first + "\r\nc=3" + block + "\r\n", "a=1\r\nb=2\r\nc=3"},
+                {"a=1\nb=2" + block + "\n", "a=1\nb=2"},
+                {"a=1\r\nb=2" + lone + block, "a=1\r\nb=2" + lone}};
+    for (const auto& row : rows) {
+        frmDoc* document = &session.Open("a.bb", row.bytes);
+        std::string saved;
+        for (int round = 0; round < 3; ++round) {
+            EXPECT_EQ(Mod_Sci::GetText(), row.source);
+            EXPECT_EQ(Bookmarks(), std::vector<int>{1});
+            EXPECT_EQ(gCurrentProject->CommandLine, "");
+            const std::string before = saved;
+            saved = Saved(*document);
+            EXPECT_TRUE(round == 0 || saved == before) << saved;
+            const std::string path = document->FullFilename;
+            session.Close(path);
+            if (round < 2) document = &session.Open("a.bb", saved + (round == 0 ? "\n" : ""));
+        }
+    }
 }
 
 TEST_F(ParametersTest, TheCompilerIsTakenFromTheLastLineAlone) {
@@ -128,7 +163,8 @@ TEST_F(ParametersTest, TheCompilerIsTakenFromTheLastLineAlone) {
         return name;
     };
     EXPECT_EQ(compiler(std::string("a=1") + Head + "\r\n;~C#other"), "Other");
-    EXPECT_EQ(compiler(std::string("a=1") + Head + "\r\n;~C#Other\r\n"), "ZoltoBasic");
+    EXPECT_EQ(compiler(std::string("a=1") + Head + "\r\n;~C#Other\r\n"), "Other");
+    EXPECT_EQ(compiler(std::string("a=1") + Head + "\r\n;~C#Other\r\nb=2"), "ZoltoBasic");
     EXPECT_EQ(compiler(std::string("a=1") + Head + "\r\n;~C#Unknown"), "ZoltoBasic");
     EXPECT_EQ(compiler("a=1"), "ZoltoBasic");
 }
