@@ -2,7 +2,7 @@
 #include "editor/Mod_SciFun_goto.h"
 
 #include "editor/frmDoc.h"
-#include "engine/Markers.h"
+#include "engine/Mod_Parse.h"
 #include "engine/OptionsEdit.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
@@ -18,8 +18,8 @@ constexpr std::intptr_t FunctionLines = MaskOf(MarkerFunction);
 
 std::intptr_t CaretLine() { return Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()); }
 
-// The lines that end a function carry its marker too.
-bool EndsFunction(std::intptr_t line) { return HasMarker(static_cast<int>(line), MarkerFoldCloses); }
+// The lines that only end a function carry its marker too.
+bool OnlyEnds(std::intptr_t line) { return !FunctionsOn(static_cast<int>(line)).begins; }
 
 } // namespace
 
@@ -55,7 +55,7 @@ void GotoNextFunction() {
         auto line = CaretLine();
         do {
             line = Mod_Sci::MarkerNext(line + 1, FunctionLines);
-        } while (line >= 0 && EndsFunction(line));
+        } while (line >= 0 && OnlyEnds(line));
         if (line >= 0) GotoLine(line);
     });
 }
@@ -66,7 +66,7 @@ void GotoPreviousFunction() {
         auto line = CaretLine();
         do {
             line = Mod_Sci::MarkerPrevious(line - 1, FunctionLines);
-        } while (line >= 0 && EndsFunction(line));
+        } while (line >= 0 && OnlyEnds(line));
         if (line >= 0) GotoLine(line);
     });
 }

@@ -158,10 +158,12 @@ void AutoIndent(LineSpan lines) {
 // from the document's first line to the next function.
 LineSpan LinesOfFunction(int line) {
     constexpr int Mask = MaskOf(MarkerFunction);
+    const FunctionsOnLine own = FunctionsOn(line);
+    int first = line;
+    if (own.endsAbove || !own.begins) first = static_cast<int>(Mod_Sci::MarkerPrevious(line - 1, Mask));
+    if (first < line && !FunctionsOn(first).goesBelow) first = 0;
     // The line that ends a function is still its own.
-    const bool ends = HasMarker(line, MarkerFunction) && HasMarker(line, MarkerFoldCloses);
-    int first = static_cast<int>(Mod_Sci::MarkerPrevious(ends ? line - 1 : line, Mask));
-    if (first < 0 || HasMarker(first, MarkerFoldCloses)) first = 0;
+    const bool ends = !own.goesBelow && (own.begins || own.endsAbove);
     int last = ends ? line : static_cast<int>(Mod_Sci::MarkerNext(line + 1, Mask));
     if (last < 0) last = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
     return {first, last};

@@ -36,6 +36,14 @@ std::string CurrentFunction(int line);
 std::string CurrentType(int line);
 // The name to show for a line; touches nothing.
 std::string CurrentFunctionForDisplay(int line);
+// What the tables know of the functions of a line.
+struct FunctionsOnLine {
+    bool begins = false;    // one begins here
+    bool endsAbove = false; // one ends here that began above
+    bool goesBelow = false; // one begins here and goes on below
+    std::string lastBegun;  // the name of the last one that begins here
+};
+FunctionsOnLine FunctionsOn(int line);
 // The indentation level, from 1, of the line below.
 int GetNextIndent(int line);
 // Gives a line an indentation in columns. A blank line behind a lone CR keeps its own: while it has none the

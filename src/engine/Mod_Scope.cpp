@@ -147,21 +147,31 @@ std::string CurrentType(int line) {
     });
 }
 
+FunctionsOnLine FunctionsOn(int line) {
+    FunctionsOnLine found;
+    if (line < 0 || !HasMarker(line, MarkerFunction)) return found;
+    LineEvents events;
+    ReadKnownEvents(line, events);
+    for (const LineEvent& event : events) {
+        if (!event.OfFunctions()) continue;
+        found.goesBelow = event.kind == LineEvent::Function;
+        if (!found.goesBelow) {
+            found.endsAbove = found.endsAbove || !found.begins;
+            continue;
+        }
+        found.begins = true;
+        found.lastBegun = LightTokens[static_cast<std::size_t>(event.token)].Text;
+    }
+    return found;
+}
+
 std::string CurrentFunctionForDisplay(int line) {
     return Guarded("CurrentFunctionForDisplay", "Mod_Parse", std::string(), [&]() -> std::string {
-        LineEvents events;
-        for (int from = line;; --from) {
-            const int at = static_cast<int>(Mod_Sci::MarkerPrevious(from, MaskOf(MarkerFunction)));
-            if (at < 0) return MainProgram;
-            ReadKnownEvents(at, events);
-            const LineEvent* last = nullptr;
-            for (const LineEvent& event : events)
-                if (event.OfFunctions()) last = &event;
-            if (last != nullptr && last->kind == LineEvent::Function)
-                return LightTokens[static_cast<std::size_t>(last->token)].Text;
-            // The line that ends a function still counts as its own.
-            if (last == nullptr || at != from) return MainProgram;
-        }
+        // The line that ends a function still counts as its own.
+        if (const FunctionsOnLine own = FunctionsOn(line); own.begins) return own.lastBegun;
+        const int above = static_cast<int>(Mod_Sci::MarkerPrevious(line - 1, MaskOf(MarkerFunction)));
+        const FunctionsOnLine nearest = FunctionsOn(above);
+        return nearest.goesBelow ? nearest.lastBegun : MainProgram;
     });
 }
 

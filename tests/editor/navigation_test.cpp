@@ -187,14 +187,15 @@ TEST_F(NavigationTest, TypingLeavesTablesAndStylesAsALoadDoes) {
 }
 
 TEST_F(NavigationTest, FunctionsAreGoneToWithoutTheirEnds) {
-    OpenLines({"x", "Function f()", "a", "End Function", "y", "Function g()", "End Function"});
+    OpenLines({"x", "Function f()", "a", "End Function", "y", "Function g() : End Function", "Function h()",
+               "End Function : Function i()", "End Function"});
     std::vector<int> lines;
-    for (int step = 0; step < 3; ++step) GotoNextFunction(), lines.push_back(Line());
-    EXPECT_EQ(lines, (std::vector<int>{1, 5, 5})); // no wrap
-    GoTo(6);
+    for (int step = 0; step < 5; ++step) GotoNextFunction(), lines.push_back(Line());
+    EXPECT_EQ(lines, (std::vector<int>{1, 5, 6, 7, 7})); // no wrap
+    GoTo(8);
     lines.clear();
-    for (int step = 0; step < 3; ++step) GotoPreviousFunction(), lines.push_back(Line());
-    EXPECT_EQ(lines, (std::vector<int>{5, 1, 1}));
+    for (int step = 0; step < 5; ++step) GotoPreviousFunction(), lines.push_back(Line());
+    EXPECT_EQ(lines, (std::vector<int>{7, 6, 5, 1, 1}));
 }
 
 TEST_F(NavigationTest, ALineIsShownAndWithTheOptionAtTheTop) {

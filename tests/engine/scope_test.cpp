@@ -8,10 +8,12 @@ using namespace Mod_Parse;
 class ScopeTest : public SourceTest {};
 
 TEST_F(ScopeTest, AFunctionReachesToItsEnd) {
-    OpenLines({"x", "Function f()", "Local a", "End Function", "y", "Function g$()", "Local b"});
-    const char* names[] = {MainProgram, "f", "f", MainProgram, MainProgram, "g", "g"};
-    const char* shown[] = {MainProgram, "f", "f", "f", MainProgram, "g", "g"};
-    for (int line = 0; line < 7; ++line) {
+    OpenLines({"x", "Function f()", "Local a", "End Function", "y", "Function g$()", "Local b",
+               "End Function : Function h()", "End Function", "Function i() : End Function"});
+    const char* names[] = {MainProgram, "f", "f", MainProgram, MainProgram,
+                           "g",         "g", "h", MainProgram, MainProgram};
+    const char* shown[] = {MainProgram, "f", "f", "f", MainProgram, "g", "g", "h", "h", "i"};
+    for (int line = 0; line < 10; ++line) {
         EXPECT_EQ(CurrentFunction(line), names[line]) << line;
         EXPECT_EQ(CurrentLocals == gCurrentProject->MainFunLocals, names[line] == std::string(MainProgram));
         EXPECT_EQ(CurrentLocals->ExistsHash("a"), names[line] == std::string("f")) << line;
