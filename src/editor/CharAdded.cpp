@@ -8,6 +8,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "host/Paths.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
@@ -46,19 +47,40 @@ std::intptr_t InFrontOfBrackets(std::intptr_t close, std::intptr_t lineStart) {
     return lineStart - 1;
 }
 
+// Whether one of two words ends at a position.
+bool EndsWithWord(std::intptr_t end, std::intptr_t lineStart, const char* word, const char* other) {
+    auto start = end;
+    while (start > lineStart && IsIdChar[CharAt(start - 1)]) --start;
+    const std::string text = Mod_Sci::GetTextRange(start, end);
+    return EqualNoCase(text, word) || EqualNoCase(text, other);
+}
+
+// Whether a statement begins behind a position: at the line's start, behind a colon, a Then or an Else.
+bool BeginsStatement(std::intptr_t front, std::intptr_t lineStart) {
+    while (front >= lineStart && IsBlank[CharAt(front)]) --front;
+    return front < lineStart || CharAt(front) == ':' || EndsWithWord(front + 1, lineStart, "Then", "Else");
+}
+
+// Whether nothing of a statement stands from a position on.
+bool EndsStatement(std::intptr_t at) {
+    const auto lineEnd = Mod_Sci::GetLineEndPosition(Mod_Sci::LineFromPosition(at));
+    while (at < lineEnd && IsBlank[CharAt(at)]) ++at;
+    if (at == lineEnd || CharAt(at) == ':' || CharAt(at) == ';') return true;
+    auto end = at;
+    while (end < lineEnd && IsIdChar[CharAt(end)]) ++end;
+    return EndsWithWord(end, at, "Else", "EndIf");
+}
+
 // The place in front of what the signs at `scan` + 1 change; nothing when that is no statement of its own.
 std::optional<std::intptr_t> InFrontOfTarget(std::intptr_t scan, std::intptr_t lineStart) {
     for (;;) {
         if (scan < lineStart || IsNoVariable(scan)) return {};
         while (scan >= lineStart && IsName(CharAt(scan))) --scan;
-        if (scan < lineStart) return scan;
-        if (CharAt(scan) != ')' && CharAt(scan) != ']') break;
+        if (scan < lineStart || (CharAt(scan) != ')' && CharAt(scan) != ']')) return scan;
         scan = InFrontOfBrackets(scan, lineStart);
         if (scan >= lineStart && IsBlank[CharAt(scan)]) --scan;
         if (scan < lineStart || !IsName(CharAt(scan))) return {};
     }
-    if (IsOperator[CharAt(scan)]) return {};
-    return scan;
 }
 
 void LikeAbove() {
@@ -89,7 +111,7 @@ void ExpandPlusPlus(std::intptr_t pos, char ch) {
     auto scan = pos - 2;
     if (scan >= lineStart && IsBlank[CharAt(scan)]) targetEnd = scan--;
     const auto front = InFrontOfTarget(scan, lineStart);
-    if (!front) return;
+    if (!front || !BeginsStatement(*front, lineStart) || !EndsStatement(pos + 1)) return;
     const std::string target = Mod_Sci::GetTextRange(*front + 1, targetEnd);
     if (target.empty()) return;
     Mod_Sci::ReplaceRange(targetEnd, pos + 1, "=" + target + ch + "1");

@@ -123,7 +123,10 @@ TEST_F(CurrentLine, ExpansionOfPlusPlus) {
             EXPECT_EQ(typed("i --"), "i=i-1");
             EXPECT_EQ(typed("If d Then i++"), "If d Then i=i+1");
             EXPECT_EQ(typed("a(i)++"), "a(i)=a(i)+1");
-            for (const char* kept : {"; i++", "s$=\"i++", "d=i++", "Print++"}) EXPECT_EQ(typed(kept), kept);
+            EXPECT_EQ(typed("d=1 : If d Then i=1 Else i++"), "d=1 : If d Then i=1 Else i=i+1");
+            for (const char* kept :
+                 {"; i++", "s$=\"i++", "d=i++", "Print++", "d = i--3", "If i++", "Print i++"})
+                EXPECT_EQ(typed(kept), kept);
         }
     }
     Leave(1);
