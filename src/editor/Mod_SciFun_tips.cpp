@@ -138,7 +138,7 @@ int OpenerAbove(int line) {
         const auto here = Mod_Sci::GetLineIndentation(at);
         if (here > indent) continue;
         const auto first = Mod_Sci::GetLineIndentPosition(at);
-        if (Mod_Sci::GetCharAt(first) == ';') continue;
+        if (Mod_Sci::GetCharAt(first) == ';' || first == Mod_Sci::GetLineEndPosition(at)) continue;
         if (here < indent) return -1;
         if (!EqualNoCase(Mod_Sci::GetTextRange(first, first + 4), "Else")) return at;
     }

@@ -63,6 +63,7 @@ TEST_F(TipsTest, AClosingWordShowsWhatItCloses) {
               " <SCOPE:> For i = 1 To 3");
     EXPECT_EQ(Colour(), 0xFF0000);
     EXPECT_EQ(TipAt("If a\r\n\tStop\r\nElse\r\n\tStop\r\n;note\r\nEndI|f\r\n"), " <SCOPE:> If a");
+    EXPECT_EQ(TipAt("\tIf a\r\n\t\tStop\r\n\r\n  \r\n\tEndI|f\r\n"), " <SCOPE:> If a");
     EXPECT_EQ(TipAt("If a\n\tStop\nEndI|f\n"), " <SCOPE:> If a");
     EXPECT_EQ(TipAt("    If a\n        Stop\n    Else\n        Stop\n    EndI|f\n"), " <SCOPE:>     If a");
     EXPECT_EQ(TipAt("Select a\r\n\tCas|e 1\r\n"), "");
