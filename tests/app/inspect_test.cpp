@@ -226,6 +226,15 @@ TEST(InspectTest, PositionsAreThoseOfClicksAndFileNamesAreShown) {
     EXPECT_EQ(First(report)["path"].toString().toStdString(), source);
 }
 
+TEST(InspectTest, EditsEndWithTheLastDocument) {
+    const QTemporaryDir folder;
+    const std::string edits = Put(folder, "edits", R"({"op":"command","name":"Close File"}
+{"op":"type","text":"x"}
+)");
+    const QJsonObject report = Inspect({"--edits", edits, Put(folder, "a.bb", "Print 1\r\n")});
+    EXPECT_TRUE(report["documents"].toArray().isEmpty());
+}
+
 TEST(InspectTest, EditsThatAreNoneAreRefused) {
     const QTemporaryDir folder;
     const std::string source = Put(folder, "a.bb", "Print 1\r\n");

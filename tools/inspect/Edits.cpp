@@ -109,6 +109,7 @@ QAbstractScrollArea* View() {
 
 void Pending() {
     QApplication::processEvents();
+    if (ActiveForm() == nullptr) return;
     View()->viewport()->repaint();
     QApplication::processEvents();
 }
@@ -200,12 +201,13 @@ std::vector<long long> PlayEdits(const std::vector<EditOperation>& operations) {
     Pending();
     std::vector<long long> times;
     for (const EditOperation& operation : operations) {
+        if (ActiveForm() == nullptr) return times; // the last document was closed
         const auto since = std::chrono::steady_clock::now();
         Play(operation);
         times.push_back(
             std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - since)
                 .count());
     }
-    Play({});
+    if (ActiveForm() != nullptr) Play({});
     return times;
 }

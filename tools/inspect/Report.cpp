@@ -18,6 +18,7 @@ namespace {
 
 // Makes each open document of a project the active one in turn, in the project's order.
 void ForEachDocument(const std::shared_ptr<ClsProject>& project, const std::function<void(frmDoc&)>& visit) {
+    if (!project) return; // the last document was closed
     frmDoc* const before = ActiveForm();
     for (const auto& source : project->Sources) {
         auto* document = static_cast<frmDoc*>(source.record.get());
@@ -164,7 +165,7 @@ std::string Report(const ReportOptions& options) {
     json.Key("documents").Array();
     ForEachDocument(project, [&](frmDoc& document) { Document(json, document, options); });
     json.EndArray();
-    if (options.symbols) Symbols(json, project);
+    if (options.symbols && project) Symbols(json, project);
     if (!options.times.empty()) {
         json.Line().Key("time_us").Object();
         for (const auto& [stage, microseconds] : options.times) json.Key(stage).Number(microseconds);
