@@ -62,6 +62,18 @@ void FinishEdit() {
     CloseUndoGroup(gActiveDoc);
 }
 
+// The parser keeps the last keyword that opened a scope for as long as this lives.
+class ScopeKeywordKept {
+public:
+    ScopeKeywordKept() {
+        LastScopeKeyword.clear();
+        RememberScopeKeyword = true;
+    }
+    ~ScopeKeywordKept() { RememberScopeKeyword = false; }
+    ScopeKeywordKept(const ScopeKeywordKept&) = delete;
+    ScopeKeywordKept& operator=(const ScopeKeywordKept&) = delete;
+};
+
 class WaitCursor {
 public:
     WaitCursor() { BeginWaitCursor(); }
@@ -84,11 +96,19 @@ void Command(const char* name, Body body) {
     Guarded(name, "Mod_SciFun", body);
 }
 
+// Between a lone CR and an LF; without a text there, the two line ends would be one.
+bool NeedsText(int line) {
+    return Mod_Sci::GetCharAt(Mod_Sci::PositionFromLine(line) - 1) == '\r' &&
+           Mod_Sci::GetCharAt(Mod_Sci::GetLineEndPosition(line)) == '\n';
+}
+
 void MoveLine(int step) {
     CancelList();
     const int line = CaretLine();
     const int other = line + step;
     if (other < 0 || other >= Mod_Sci::GetLineCount()) return gHost.desktop->Beep();
+    if (NeedsText(line) && TextOf(other).empty()) return gHost.desktop->Beep();
+    if (NeedsText(other) && TextOf(line).empty()) return gHost.desktop->Beep();
     const auto offset = Mod_Sci::GetCurrentPos() - Mod_Sci::PositionFromLine(line);
     const std::string moved = TextOf(line);
     const std::string neighbour = TextOf(other);
@@ -173,15 +193,22 @@ void NewLine() {
 
 void CompleteScope() {
     Command("CompleteScope", [] {
-        LastScopeKeyword.clear();
-        RememberScopeKeyword = true;
-        NewLine();
-        ActiveForm()->m_oSubclass->ParseNow();
-        RememberScopeKeyword = false;
+        CancelList();
+        // What stands behind the caret comes back into the scope: an opener among it is none of the caret's.
+        const auto from = Mod_Sci::GetSelectionEnd();
+        const auto to = Mod_Sci::GetLineEndPosition(Mod_Sci::LineFromPosition(from));
+        const std::string rest = Mod_Sci::GetTextRange(from, to);
+        OpenUndoGroup();
+        if (!rest.empty()) Mod_Sci::ReplaceRange(from, to, "");
+        {
+            const ScopeKeywordKept kept;
+            NewLine();
+            ActiveForm()->m_oSubclass->ParseNow();
+        }
         const char* closer = Closer(LastScopeKeyword);
-        if (closer == nullptr) return CloseUndoGroup(gActiveDoc);
         const auto caret = Mod_Sci::GetCurrentPos();
-        Insert(caret, LineBreak() + closer);
+        const std::string below = closer == nullptr ? std::string() : LineBreak() + closer;
+        if (!rest.empty() || closer != nullptr) Insert(caret, rest + below);
         Mod_Sci::GotoPos(caret);
         FinishEdit();
     });
@@ -205,7 +232,8 @@ void UnCommentSelection() {
         OpenUndoGroup();
         for (int line = lines.first; line <= lines.last; ++line) {
             const auto at = BehindBlanks(line);
-            if (Mod_Sci::GetCharAt(at) == ';') Mod_Sci::ReplaceRange(at, at + 1, "");
+            if (Mod_Sci::GetCharAt(at) != ';') continue;
+            if (TextOf(line) != ";" || !NeedsText(line)) Mod_Sci::ReplaceRange(at, at + 1, "");
         }
     });
 }

@@ -169,6 +169,13 @@ TEST_P(EditCommandsTest, AutoIndentOfAFunctionLeavesCommentsLabelsAndTheCaretsPl
            {"    x", "Function f()", "; note", ".again", "  y = 1", "End Function", "   z"});
 }
 
+TEST_P(EditCommandsTest, AutoIndentOfAFunctionOfOneLineTakesThatLineAlone) {
+    OpenSource({"    x", "Function a()", "End Function", "    Function b() : End Function"});
+    GoTo(3, 6);
+    Expect(AutoindentCurrentFunction,
+           {"    x", "Function a()", "End Function", "Function b() : End Function"});
+}
+
 TEST_P(EditCommandsTest, ABreakpointComesAndGoes) {
     OpenSource({"x = 1", "", "Stopper = 2 : Stop", "  "});
     GoTo(0, 2);
@@ -205,6 +212,32 @@ TEST_P(EditCommandsTest, CompletingAScopeIsOneStep) {
         CompleteScope(); // the scope ends on its line
         EXPECT_EQ(Mod_Sci::GetLineCount(), 2) << line;
     }
+    // What stands behind the caret goes into the scope; an opener among it is none of the caret's.
+    OpenSource({"For i = 1 To 2 : x = 1", "y"});
+    Mod_Sci::SetUseTabs(0);
+    GoTo(0, 14);
+    Expect(CompleteScope, {"For i = 1 To 2", "  : x = 1", "Next", "y"});
+    OpenSource({"For i=1 To 3", "Next"});
+    GoTo(0);
+    Expect(CompleteScope, {"", "For i=1 To 3", "Next"});
+    OpenSource({"x=1 : While a", "Wend"});
+    GoTo(0, 3);
+    Expect(CompleteScope, {"x=1", ": While a", "Wend"});
+    EXPECT_FALSE(RememberScopeKeyword);
+}
+
+// An empty line between a lone CR and an LF would be none.
+TEST_F(SourceTest, NoCommandMakesOneLineEndOfTwo) {
+    Open("a\r;\nb\r\n\r\nc");
+    GoTo(1);
+    UnCommentSelection();
+    EXPECT_EQ(Mod_Sci::GetText(), "a\r;\nb\r\n\r\nc");
+    const Setting noIndent(OptionsEdit::AutoIndentType, 0);
+    Open("a\rb\n\r\nc");
+    GoTo(2);
+    MoveCurrentLineUp();
+    EXPECT_EQ(Mod_Sci::GetText(), "a\rb\n\r\nc");
+    EXPECT_EQ(host.desktop.beeps, 1);
 }
 
 TEST_F(SourceTest, FoldsOfAKindCloseAndOpenAndTheCaretStaysInSight) {
