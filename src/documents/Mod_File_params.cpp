@@ -157,10 +157,12 @@ std::vector<Block> FindBlocks(std::string_view text) {
 void Remove(const Block& block) {
     const auto from = static_cast<std::intptr_t>(block.from);
     const auto to = static_cast<std::intptr_t>(block.to);
-    // A line that goes would leave its markers to the line before it, which has its own.
-    for (auto line = Mod_Sci::LineFromPosition(to); line > Mod_Sci::LineFromPosition(from); --line)
-        Mod_Sci::MarkerDelete(line, -1);
+    // A line that goes would leave its markers to the line before it and take the fold point there.
+    const auto first = Mod_Sci::LineFromPosition(from);
+    const auto level = Mod_Sci::GetFoldLevel(first);
+    for (auto line = Mod_Sci::LineFromPosition(to); line > first; --line) Mod_Sci::MarkerDelete(line, -1);
     Mod_Sci::ReplaceRange(from, to, "");
+    Mod_Sci::SetFoldLevel(first, level);
 }
 
 } // namespace

@@ -114,6 +114,8 @@ TEST_F(ParametersTest, AHeaderInsideTheTextBeginsTheBlockThere) {
                  std::string("Global a") + Head + "\r\n;~C#x\r\nGlobal b\r\nFunction f()\r\nEnd Function");
     EXPECT_EQ(LineOf(*gCurrentProject->Globals.ItemHash("b")), 1); // which has moved unheard
     EXPECT_EQ(LineOf(*gCurrentProject->Funkcii.ItemHash("f")), 2);
+    session.Open("e.bb", std::string("Type T") + Head + "\r\n;~C#x");
+    EXPECT_TRUE(Mod_Sci::GetFoldLevel(0) & SC_FOLDLEVELHEADERFLAG);
     const std::string quoted = "Print \"x;~Zolto Editor Parameters:\"\r\n;~B#0\r\n"; // no line begins with it
     session.Open("c.bb", quoted);
     EXPECT_EQ(Mod_Sci::GetText(), quoted);
