@@ -3,13 +3,18 @@
 #include "editor/CodePage.h"
 
 #include "editor/EditorCalls.h"
+#include "editor/PositionBrowser.h"
 #include "editor/frmDoc.h"
+#include "engine/Markers.h"
+#include "engine/SymbolLine.h"
 #include "host/Desktop.h"
 #include "host/Host.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -21,28 +26,64 @@ void Tell(const std::string& text) {
     if (gEditorCalls.SetNotice) gEditorCalls.SetNotice(text);
 }
 
-// Gives the active view's high bytes the form they have in UTF-8; the selection stays where it is in the
-// text.
-void WriteAsUtf8(const std::string& text) {
-    auto anchor = Mod_Sci::Send(SCI_GETANCHOR), caret = Mod_Sci::GetCurrentPos();
-    const auto grow = [](std::intptr_t& place, std::intptr_t at, std::size_t bytes) {
-        if (at < place) place += static_cast<std::intptr_t>(bytes) - 1;
-    };
+// The active view's selection, which may be a rectangle.
+class Selection {
+public:
+    // Follows a text that becomes longer behind a place.
+    void Grow(std::intptr_t at, std::intptr_t by) {
+        if (at < anchor_) anchor_ += by;
+        if (at < caret_) caret_ += by;
+    }
+    void Restore() const {
+        if (!rectangle_) {
+            Mod_Sci::SetSel(anchor_, caret_);
+            return;
+        }
+        Mod_Sci::Send(SCI_SETRECTANGULARSELECTIONANCHOR, anchor_);
+        Mod_Sci::Send(SCI_SETRECTANGULARSELECTIONCARET, caret_);
+    }
+
+private:
+    bool rectangle_ = Mod_Sci::Send(SCI_GETSELECTIONMODE) == SC_SEL_RECTANGLE;
+    std::intptr_t anchor_ = Mod_Sci::Send(SCI_GETANCHOR);
+    std::intptr_t caret_ = Mod_Sci::GetCurrentPos();
+};
+
+// Has the active view show the other code page, for which it forgets its lines; what nobody can read off the
+// text is set anew. The symbols must have been forgotten, and all lines are to be parsed.
+void Show(frmDoc& document, bool utf8) {
+    constexpr int Kept[] = {Mod_Parse::MarkerBookmark, Mod_Parse::MarkerInactiveCaret};
+    std::vector<std::pair<std::intptr_t, int>> markers;
+    for (const int marker : Kept)
+        for (auto line = Mod_Sci::MarkerNext(0, Mod_Parse::MaskOf(marker)); line >= 0;
+             line = Mod_Sci::MarkerNext(line + 1, Mod_Parse::MaskOf(marker)))
+            markers.emplace_back(line, marker);
+    const auto setPlaces = Mod_SciFun::KeepPlaces();
+    document.View->SetUtf8(utf8);
+    ForgetLines(document.SciEdi_WndData);
+    setPlaces();
+    for (const auto& [line, marker] : markers) Mod_Sci::MarkerAdd(line, marker);
+    document.State.mOldStartLine = -100;
+}
+
+// Gives the active view's high bytes the form they have in UTF-8.
+template <class Grown>
+void WriteAsUtf8(const std::string& text, Grown grown) {
     for (std::size_t i = text.size(); i-- > 0;) {
         if (!IsHigh(text[i])) continue;
         const std::string character = CharacterInUtf8(static_cast<unsigned char>(text[i]));
         const auto at = static_cast<std::intptr_t>(i);
         Mod_Sci::ReplaceRange(at, at + 1, character);
-        grow(anchor, at, character.size());
-        grow(caret, at, character.size());
+        grown(at, static_cast<std::intptr_t>(character.size()) - 1);
     }
-    Mod_Sci::SetSel(anchor, caret);
 }
 
 } // namespace
 
-bool TakeBeyondCodePage(frmDoc& document, const std::string& character) {
+bool TakeBeyondCodePage(frmDoc& document, const std::string& character,
+                        const std::function<void(std::intptr_t, std::intptr_t)>& grown) {
     const ActiveSwap swap(document);
+    document.m_oSubclass->ParseNow();
     const std::string text = Mod_Sci::GetText();
     const bool ascii = std::none_of(text.begin(), text.end(), IsHigh);
     if (!ascii && !document.NewFile) {
@@ -51,14 +92,29 @@ bool TakeBeyondCodePage(frmDoc& document, const std::string& character) {
         Tell("Left out: \"" + character + "\" is not in Windows-1252, the code page of this file");
         return false;
     }
-    if (!ascii) {
-        OpenUndoGroup();
-        WriteAsUtf8(text);
-        // An input method takes back what it composes with an undo of its own.
-        document.m_oSubclass->ParseNow();
-        CloseUndoGroup(&document);
-    }
-    document.View->SetUtf8(true);
+    Selection selection;
+    const auto top = Mod_Sci::GetFirstVisibleLine();
+    OpenUndoGroup();
+    Mod_Sci::AddUndoAction(0);
+    document.m_oSubclass->ChangeMany([&] {
+        WriteAsUtf8(text, [&](std::intptr_t at, std::intptr_t by) {
+            selection.Grow(at, by);
+            if (grown) grown(at, by);
+        });
+        Show(document, true);
+    });
+    selection.Restore();
+    Mod_Sci::Send(SCI_SETFIRSTVISIBLELINE, top);
     Tell("This document is UTF-8 now");
     return true;
+}
+
+void FollowCodePage(frmDoc& document, bool utf8) {
+    const ActiveSwap swap(document);
+    // Turning the history off for the parser would end a group that is open.
+    CloseUndoGroup(&document);
+    const auto top = Mod_Sci::GetFirstVisibleLine();
+    document.m_oSubclass->ParseAnew([&] { Show(document, utf8); });
+    Mod_Sci::Send(SCI_SETFIRSTVISIBLELINE, top);
+    Tell(utf8 ? "This document is UTF-8 now" : "This document is Windows-1252 again");
 }

@@ -64,7 +64,7 @@ private:
     std::vector<Piece> Pieces(const FindOptions& options);
     std::optional<Hit> NextIn(const Piece& piece, const DocumentSearch& search, std::intptr_t from) const;
     int ReplaceIn(Piece piece, const DocumentSearch& search, const std::string& bytes);
-    int ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptions& options,
+    int ReplaceInDocument(std::vector<Piece> pieces, const FindOptions& options,
                           const std::string& replacement);
     int CountIn(const std::vector<Piece>& pieces, const FindOptions& options) const;
     void Changed(const frmDoc& document, std::intptr_t start, std::intptr_t by);

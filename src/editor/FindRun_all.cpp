@@ -1,6 +1,7 @@
 // Replacing one hit and all, and counting them.
 #include "editor/FindRun.h"
 
+#include "editor/CodePage.h"
 #include "editor/OpenDocuments.h"
 #include "editor/SciOptions.h"
 #include "host/Dialogs.h"
@@ -21,6 +22,17 @@ void TellUnknownCharacters(const frmDoc& document) {
                          .title = "Zolto - Replace"});
 }
 
+// What replaces hits, in the document's bytes; the document becomes UTF-8 for it where it may. Nothing when
+// it has no bytes for it, which is told.
+std::optional<std::string> BytesFor(frmDoc& document, const std::string& replacement,
+                                    const std::function<void(std::intptr_t, std::intptr_t)>& grown) {
+    const DocumentSearch any(document, {});
+    auto bytes = any.InDocument(replacement);
+    if (!bytes && TakeBeyondCodePage(document, {}, grown)) bytes = replacement;
+    if (!bytes) TellUnknownCharacters(document);
+    return bytes;
+}
+
 } // namespace
 
 // What a change of the text means for the places that the run keeps.
@@ -36,17 +48,17 @@ void FindRun::Changed(const frmDoc& document, std::intptr_t start, std::intptr_t
 bool FindRun::Replace(const FindOptions& options, const std::string& replacement) {
     if (!DocumentActive() || options.text.empty()) return false;
     frmDoc& document = *ActiveForm();
-    const Hit hit{Mod_Sci::GetSelectionStart(), Mod_Sci::GetSelectionEnd()};
-    const DocumentSearch search(document, options);
+    const auto selected = [] { return Hit{Mod_Sci::GetSelectionStart(), Mod_Sci::GetSelectionEnd()}; };
     // What a search in the selection has not begun with is its area and no hit.
     const bool isArea = options.area == SearchIn::Selection && !running_;
-    if (isArea || !search.Matches(hit)) return FindNext(options, true);
-    const auto bytes = search.InDocument(replacement);
-    if (!bytes) {
-        TellUnknownCharacters(document);
-        return false;
-    }
+    if (isArea || !DocumentSearch(document, options).Matches(selected())) return FindNext(options, true);
     Begin(options, Direction::Forward);
+    const auto bytes = BytesFor(document, replacement,
+                                [&](std::intptr_t at, std::intptr_t by) { Changed(document, at, by); });
+    if (!bytes) return false;
+    const Hit hit = selected();
+    const DocumentSearch search(document, options);
+    if (!search.Matches(hit)) return false;
     const auto length = search.Replace(hit, *bytes);
     Changed(document, hit.start, length - (hit.end - hit.start));
     const auto behind = hit.start + length;
@@ -104,22 +116,25 @@ int FindRun::ReplaceIn(Piece piece, const DocumentSearch& search, const std::str
 }
 
 // All pieces of one document, as one undo step to which belongs what the parser writes.
-int FindRun::ReplaceInDocument(const std::vector<Piece>& pieces, const FindOptions& options,
+int FindRun::ReplaceInDocument(std::vector<Piece> pieces, const FindOptions& options,
                                const std::string& replacement) {
     frmDoc& document = *pieces.front().document;
     if (CountIn(pieces, options) == 0) return 0;
     const ActiveSwap swap(document);
-    const DocumentSearch search(document, options);
-    const auto bytes = search.InDocument(replacement);
-    if (!bytes) {
-        TellUnknownCharacters(document);
-        return 0;
-    }
-    int count = 0;
     OpenUndoGroup();
-    document.m_oSubclass->ChangeMany([&] {
-        for (const Piece& piece : pieces) count += ReplaceIn(piece, search, *bytes);
+    const auto bytes = BytesFor(document, replacement, [&](std::intptr_t at, std::intptr_t by) {
+        Changed(document, at, by);
+        for (Piece& piece : pieces) {
+            if (piece.from > at) piece.from += by;
+            if (piece.end > at && piece.end != ToTheEnd) piece.end += by;
+        }
     });
+    const DocumentSearch search(document, options);
+    int count = 0;
+    if (bytes)
+        document.m_oSubclass->ChangeMany([&] {
+            for (const Piece& piece : pieces) count += ReplaceIn(piece, search, *bytes);
+        });
     CloseUndoGroup(&document);
     return count;
 }

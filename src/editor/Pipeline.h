@@ -38,8 +38,8 @@ public:
     virtual void ChangeMany(const std::function<void()>& change) = 0;
 
     // Parses all lines anew after a change of the vocabulary, and gives keywords their spelling. The history
-    // stays; the document becomes dirty where a byte changed.
-    virtual void ParseAnew() = 0;
+    // stays; the document becomes dirty where a byte changed. `change` runs in front and changes no text.
+    virtual void ParseAnew(const std::function<void()>& change = [] {}) = 0;
 };
 
 // The pipeline of a new document.

@@ -14,6 +14,8 @@
 #include <array>
 #include <cstdlib>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace Mod_SciFun {
 
@@ -62,6 +64,11 @@ bool AtCaret(Place& place) {
     return place.InActive() && LineOf(place) == Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
 }
 
+void SetMarker(Place& place, std::intptr_t line) {
+    place.Handle = static_cast<int>(Mod_Sci::MarkerAdd(line, Mod_Parse::MarkerPosition));
+    place.Seen = Seen(SciWndData, static_cast<int>(line));
+}
+
 void Forget(Place& place) {
     if (const frmDoc* document = place.Open(); document != nullptr && place.Handle > 0)
         Mod_Sci::SendTo(document->SciEdi_WndData, SCI_MARKERDELETEHANDLE, place.Handle);
@@ -83,8 +90,7 @@ void AddPlace(std::intptr_t position, std::intptr_t line) {
     Forget(At(CBrowserPos)); // the oldest, when the ring is full
     Place& place = At(CBrowserPos);
     place.Document = document;
-    place.Handle = static_cast<int>(Mod_Sci::MarkerAdd(line, Mod_Parse::MarkerPosition));
-    place.Seen = Seen(SciWndData, static_cast<int>(line));
+    SetMarker(place, line);
     place.Stamp = stamp + 1;
     place.Offset = position - Mod_Sci::PositionFromLine(line);
 }
@@ -144,6 +150,16 @@ void GotoNextPosition() {
         const int bottom = At(CBrowserPos).Stamp;
         Walk(Behind(CBrowserPos), Behind, [bottom](const Place& place) { return place.Stamp > bottom; });
     });
+}
+
+std::function<void()> KeepPlaces() {
+    std::vector<std::pair<Place*, std::intptr_t>> kept;
+    for (Place& place : CBrowser)
+        if (place.InActive()) kept.emplace_back(&place, MarkerLine(place));
+    return [kept] {
+        for (const auto& [place, line] : kept)
+            if (line >= 0) SetMarker(*place, line);
+    };
 }
 
 } // namespace Mod_SciFun

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace Mod_SciFun {
 
@@ -12,5 +13,8 @@ void CheckCBrowser(std::intptr_t position, std::intptr_t line);
 // Moves back and forward through the places. The caret stays where there is none.
 void GotoPreviousPosition();
 void GotoNextPosition();
+// Notes the lines of the active document's places; what it answers sets their markers anew on the same lines,
+// when the view has forgotten all it had.
+std::function<void()> KeepPlaces();
 
 } // namespace Mod_SciFun

@@ -106,14 +106,14 @@ void cSubclass::ChangeMany(const std::function<void()>& change) {
     });
 }
 
-void cSubclass::ParseAnew() {
+void cSubclass::ParseAnew(const std::function<void()>& change) {
     const ActiveSwap swap(mFrmDoc);
     ParseNow();
     const std::string before = Mod_Sci::GetText();
     const auto anchor = Mod_Sci::Send(SCI_GETANCHOR), caret = Mod_Sci::GetCurrentPos();
     // A keyword's new spelling is as long as its old one, so the history still fits.
     Mod_Sci::SetUndoCollection(0);
-    ParseWhole([] {});
+    ParseWhole(change);
     Mod_Sci::SetUndoCollection(1);
     Mod_Sci::SetSel(anchor, caret);
     if (Mod_Sci::GetText() != before) mFrmDoc.SetDirty(true);
@@ -183,6 +183,10 @@ void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
 bool cSubclass::OnBeyondCodePage(const std::string& character) {
     return Guarded("OnBeyondCodePage", "cSubclass", false,
                    [&] { return TakeBeyondCodePage(mFrmDoc, character); });
+}
+
+void cSubclass::OnHistoryCodePage(bool utf8) {
+    Guarded("OnHistoryCodePage", "cSubclass", [&] { FollowCodePage(mFrmDoc, utf8); });
 }
 
 void cSubclass::StyleNeeded() {

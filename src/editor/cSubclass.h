@@ -19,11 +19,12 @@ public:
     void OnKillFocus() override;
     void OnDropFiles(const std::vector<std::string>& paths) override;
     bool OnBeyondCodePage(const std::string& character) override;
+    void OnHistoryCodePage(bool utf8) override;
 
     void DeactivateCheck() override;
     void ParseNow() override;
     void ChangeMany(const std::function<void()>& change) override;
-    void ParseAnew() override;
+    void ParseAnew(const std::function<void()>& change) override;
 
 private:
     void Dispatch(const SciNotification& notification);

@@ -34,10 +34,11 @@ public:
     virtual void OnSetFocus() = 0;
     virtual void OnKillFocus() = 0;
     virtual void OnDropFiles(const std::vector<std::string>& paths) = 0;
-    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes;
-    // empty while it is still being composed. Answers whether the view shows UTF-8 now; else the character is
-    // left out.
+    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes.
+    // Answers whether the view shows UTF-8 now; else the character is left out.
     virtual bool OnBeyondCodePage(const std::string&) { return false; }
+    // An undo or a redo has led over the view's change to UTF-8: what it is to show now.
+    virtual void OnHistoryCodePage(bool /*utf8*/) {}
 };
 
 using SciDirectFunction = std::intptr_t (*)(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
@@ -56,7 +57,8 @@ public:
     virtual void GrabFocus() = 0;
     // The user's last key moved to another entry of a completion list that is open.
     virtual bool MovedInList() = 0;
-    // Text is shown as UTF-8 or as single bytes; positions are bytes in both.
+    // Text is shown as UTF-8 or as single bytes; positions are bytes in both. The view forgets the markers,
+    // the fold levels and the closed folds of all its lines.
     virtual void SetUtf8(bool utf8) = 0;
     // The toolkit's widget, for the one who places it.
     virtual void* NativeWidget() = 0;

@@ -62,7 +62,10 @@ bool IsUtf8(std::string_view bytes) {
 }
 
 std::string ToUtf8(std::string_view bytes) {
-    if (IsUtf8(bytes)) return std::string(bytes);
+    return IsUtf8(bytes) ? std::string(bytes) : SingleBytesToUtf8(bytes);
+}
+
+std::string SingleBytesToUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() * 2);
     for (const char c : bytes) Append(text, CharacterOf(static_cast<unsigned char>(c)));

@@ -10,6 +10,9 @@ bool IsUtf8(std::string_view bytes);
 // The bytes themselves where they are valid UTF-8, else each byte read as Windows-1252.
 std::string ToUtf8(std::string_view bytes);
 
+// Each byte read as Windows-1252.
+std::string SingleBytesToUtf8(std::string_view bytes);
+
 // The character of a byte in Windows-1252; a byte that has none there gives its own number.
 char16_t CharacterOf(unsigned char byte);
 std::string CharacterInUtf8(unsigned char byte);

@@ -181,6 +181,8 @@ inline std::intptr_t LineFromPosition(std::intptr_t position) { return Send(SCI_
 inline std::intptr_t PositionFromLine(std::intptr_t line) { return Send(SCI_POSITIONFROMLINE, line); }
 inline std::intptr_t ReplaceSel(const char* text) { return Send(SCI_REPLACESEL, 0, Address(text)); }
 inline std::intptr_t CanUndo() { return Send(SCI_CANUNDO); }
+// Writes a mark of the owner's own into the history.
+inline std::intptr_t AddUndoAction(std::intptr_t token) { return Send(SCI_ADDUNDOACTION, token); }
 inline std::intptr_t EmptyUndoBuffer() { return Send(SCI_EMPTYUNDOBUFFER); }
 inline std::intptr_t Undo() { return Send(SCI_UNDO); }
 inline std::intptr_t Cut() { return Send(SCI_CUT); }

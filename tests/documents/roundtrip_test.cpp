@@ -5,10 +5,13 @@
 #include "engine/OptionsEdit.h"
 #include "sci/Mod_Sci.h"
 
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QInputMethodEvent>
-#include <QWidget>
+#include <QMimeData>
 #include <gtest/gtest.h>
 
 namespace {
@@ -102,6 +105,9 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
         {";\xE9\x80", "\u0416\U0001F600", ";\u00E9\u20AC\u0416\U0001F600", true, true, true},
         {";\u00E9", "\u0416", ";\u00E9\u0416", false, true, false},
         {";\xE9", "e\u0301", ";\xE9\xE9", false, false, false}, // an accent of its own joins its letter
+        {"", "", "", true, false, false},                       // a composition that was given up
+        {"\n", "a\r\nb\n", "\na\nb\n", false, false, false},
+        {"\r\n", "a\nb", "\r\na\r\nb", false, false, false},
     };
     for (const auto& row : rows)
         for (const char* composed : {"", "x", "\u0416"}) {
@@ -116,9 +122,7 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
             Commit(row.typed, composed);
             EXPECT_EQ(Mod_Sci::GetText(), row.after) << composed;
             EXPECT_EQ(CodePage(), row.utf8 ? SC_CP_UTF8 : 0) << row.after << composed;
-            if (composed[0] != '\xD0') {
-                EXPECT_EQ(!told.empty(), row.isTold) << row.after << told;
-            }
+            EXPECT_EQ(!told.empty(), row.isTold) << row.after << told;
             Mod_Sci::SetSavePoint();
             if (row.isNew) ActiveForm()->SetDirty(false);
             session.Close(ActiveForm()->m_strDocumentWindowID);
@@ -129,7 +133,49 @@ TEST_F(EncodingTest, CharactersOutsideLatin1AreTakenOrTold) {
     Mod_Sci::Paste();
     EXPECT_EQ(Mod_Sci::GetText(), ";\xE9\x80?");
     EXPECT_NE(told.find("\u0416"), std::string::npos) << told;
+    // Copied in its own code page, although the bytes could be UTF-8.
+    Mod_Sci::ReplaceSel("\xC3\xA4");
+    Mod_Sci::SetSel(Mod_Sci::GetLength() - 2, Mod_Sci::GetLength());
+    Mod_Sci::Copy();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "\u00C3\u00A4");
     gEditorCalls = {};
+}
+
+// The history leads back to the code page, and what comes in takes the selection's and the pointer's place.
+TEST_F(EncodingTest, ATextThatBecomesUtf8StaysWhereItIs) {
+    const auto begin = [](const char* text) {
+        Mod_File::NewFile();
+        Mod_Sci::ReplaceSel(text);
+        Mod_Sci::EmptyUndoBuffer();
+    };
+    begin("\xE9\n\xE9");
+    Commit("\u0416");
+    Mod_Sci::Undo();
+    Commit("\u00E4");
+    EXPECT_EQ(Mod_Sci::GetText(), "\xE9\n\xE9\xE4");
+    // A rectangle of the second column of both lines.
+    begin("\xE9y\n\xE9z");
+    Mod_Sci::Send(SCI_SETRECTANGULARSELECTIONANCHOR, 1);
+    Mod_Sci::Send(SCI_SETRECTANGULARSELECTIONCARET, 5);
+    QApplication::clipboard()->setText(QString::fromUtf8("\u0416"));
+    Mod_Sci::Paste();
+    EXPECT_EQ(Mod_Sci::GetText(), "\u00E9\u0416\n\u00E9");
+    begin("\xE9\xE9yz");
+    auto* view = static_cast<QAbstractScrollArea*>(static_cast<QWidget*>(ActiveForm()->NativeWidget()));
+    QMimeData dropped;
+    dropped.setText("\u0416");
+    const QPoint at(static_cast<int>(Mod_Sci::Send(SCI_POINTXFROMPOSITION, 0, 3)), 1);
+    QDragEnterEvent enter(at, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+    QDropEvent drop(at, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+    QApplication::sendEvent(view->viewport(), &enter);
+    QApplication::sendEvent(view->viewport(), &drop);
+    EXPECT_EQ(Mod_Sci::GetText(), "\u00E9\u00E9y\u0416z");
+    ActiveForm()->m_oSubclass->DeactivateCheck(); // as the paint does it
+    auto* told = QAccessible::queryAccessibleInterface(view)->editableTextInterface();
+    told->replaceText(1, 3, "a\nb");
+    EXPECT_EQ(Mod_Sci::GetText(), "\u00E9a\r\nb\u0416z");
+    Mod_Sci::Undo();
+    EXPECT_EQ(Mod_Sci::GetText(), "\u00E9\u00E9y\u0416z");
 }
 
 // A block ends its lines as the file does; one that another program has turned, or that stands behind LF with

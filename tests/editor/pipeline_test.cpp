@@ -2,6 +2,9 @@
 // the swap of the active document.
 #include "engine/fixture/SourceTest.h"
 
+#include "editor/CodePage.h"
+#include "editor/FindRun.h"
+#include "editor/PositionBrowser.h"
 #include "editor/SciOptions.h"
 
 #include <QApplication>
@@ -47,6 +50,53 @@ TEST_F(PipelineTest, ParsingAnewLeavesTheIndentationAndSoTheHistory) {
     const Setting indent(OptionsEdit::AutoIndentOnLoad, 1);
     document.m_oSubclass->ParseAnew();
     EXPECT_EQ(Mod_Sci::GetText(), text);
+}
+
+// The view forgets all its lines when it shows another code page.
+TEST_F(PipelineTest, AnotherCodePageLeavesNothingBehind) {
+    frmDoc& document = OpenLines({"Function f()", "Local n", "End Function", "Global g", ";\xE4", "y"});
+    document.NewFile = true;
+    Mod_Sci::ToggleFold(0);
+    Mod_Sci::MarkerAdd(3, MarkerBookmark);
+    Mod_SciFun::CheckCBrowser(Mod_Sci::PositionFromLine(3), 3);
+    const std::string single = Mod_Sci::GetText();
+    const auto expectKept = [&](std::intptr_t page) {
+        Leave(4);
+        EXPECT_EQ(Mod_Sci::Send(SCI_GETCODEPAGE), page);
+        EXPECT_FALSE(Mod_Sci::GetFoldExpanded(0));
+        EXPECT_EQ(Mod_Sci::MarkerNext(0, MaskOf(MarkerBookmark)), 3);
+        EXPECT_TRUE(HasMarker(3, MarkerPosition));
+        ExpectAsLoaded();
+    };
+    GoTo(5);
+    ASSERT_TRUE(TakeBeyondCodePage(document, "\u0416"));
+    Mod_Sci::ReplaceSel("\u0416");
+    EXPECT_EQ(Text(5), "\u0416y");
+    expectKept(SC_CP_UTF8);
+    Replace(3, 7, 3, 8, "h");
+    Leave(4);
+    EXPECT_NE(Symbols().find("Global h @3"), std::string::npos) << Symbols();
+    ExpectAsLoaded();
+    Mod_SciFun::GotoPreviousPosition();
+    EXPECT_EQ(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), 3);
+    while (Mod_Sci::Send(SCI_CANUNDO)) Mod_Sci::Undo();
+    EXPECT_EQ(Mod_Sci::GetText(), single);
+    expectKept(0);
+    EXPECT_FALSE(document.Dirty);
+    Mod_Sci::Redo();
+    EXPECT_EQ(Text(4), ";\u00E4");
+    expectKept(SC_CP_UTF8);
+    // A replacement makes UTF-8 of it just as typing does, and finds its places again.
+    Mod_Sci::Undo();
+    FindOptions options;
+    options.text = "\u00E4";
+    options.fromTop = true;
+    EXPECT_EQ(FindRun().ReplaceAll(options, "\u0416\u0416"), 1);
+    EXPECT_EQ(Text(4), ";\u0416\u0416");
+    expectKept(SC_CP_UTF8);
+    Mod_Sci::Undo();
+    EXPECT_EQ(Mod_Sci::GetText(), single);
+    expectKept(0);
 }
 
 TEST_F(PipelineTest, DrainingParsesWithoutACaretMove) {

@@ -41,8 +41,9 @@ QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
 
 } // namespace
 
-ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard)
-    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)),
+ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
+                           std::function<void()> travelled)
+    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)), travelled_(std::move(travelled)),
       pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
     views.push_back(this);
 }
@@ -100,6 +101,8 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
     }
     }
     if (owing) FlushPending();
+    if (message == Base::SCI_UNDO || message == Base::SCI_REDO)
+        if (ChangeEvents* events = Of(pointer)) events->travelled_();
     return answer;
 }
 
@@ -118,7 +121,9 @@ void ChangeEvents::ApplyMask() {
     if (mask_ < 0) return;
     // Bits that tell who made a change would let the narrowed ones through as well.
     narrowed_ = (mask_ & Change) == Change && (mask_ & BeforeChange) == BeforeChange;
-    view_.SendScintilla(Base::SCI_SETMODEVENTMASK, narrowed_ ? BeforeChange : mask_);
+    const int heard = narrowed_ ? BeforeChange : mask_;
+    // What the history holds beside the text is the view's own matter.
+    view_.SendScintilla(Base::SCI_SETMODEVENTMASK, heard == 0 ? 0 : heard | Base::SC_MOD_CONTAINER);
 }
 
 void ChangeEvents::FlushPending() {

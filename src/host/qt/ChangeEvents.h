@@ -14,8 +14,9 @@ public:
     using Hand = std::function<void(const SciNotification&)>;
 
     // `hand` takes what the owner of the view is to see; `unheard` runs when the owner asked for no changes
-    // and for as long as it did there may have been some.
-    ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard);
+    // and for as long as it did there may have been some; `travelled` runs behind each undo and redo.
+    ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
+                 std::function<void()> travelled);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;
     ChangeEvents& operator=(const ChangeEvents&) = delete;
@@ -53,6 +54,7 @@ private:
     QsciScintillaBase& view_;
     Hand hand_;
     std::function<void()> unheard_;
+    std::function<void()> travelled_;
     std::intptr_t pointer_;
     int mask_ = -1; // -1: none was asked for, the library's own is in force
     bool narrowed_ = false;

@@ -93,9 +93,9 @@ public:
     void deleteText(int start, int end) override { replaceText(start, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override {
+        const QByteArray bytes = view_.Take(text); // in front of all else: places may move
         setSelection(0, start, end);
-        if (start != end) view_.SendScintilla(Base::SCI_CLEAR);
-        view_.InsertTyped(text);
+        view_.ReplaceSelection(bytes);
     }
 
 private:

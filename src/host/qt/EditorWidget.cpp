@@ -8,6 +8,7 @@
 #include <QChildEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMimeData>
 
 namespace {
@@ -27,10 +28,13 @@ bool MovesInList(int key) {
            key == Qt::Key_Home || key == Qt::Key_End;
 }
 
-// One string for each character, with accents joined to their letters as far as there are such letters.
+// With accents joined to their letters as far as there are such letters.
+QString Composed(const QString& text) { return text.normalized(QString::NormalizationForm_C); }
+
+// One string for each character.
 QStringList Characters(const QString& text) {
     QStringList characters;
-    for (const QChar unit : text.normalized(QString::NormalizationForm_C)) {
+    for (const QChar unit : Composed(text)) {
         if (unit.isLowSurrogate() && !characters.isEmpty())
             characters.back() += unit;
         else
@@ -48,7 +52,12 @@ EditorWidget::EditorWidget(QWidget* parent)
                                          teller_.Hear(notification);
                                          if (events_) events_->OnNotify(notification);
                                      },
-                                     [this] { teller_.Unheard(); }) {
+                                     [this] { teller_.Unheard(); },
+                                     [this] {
+                                         const auto utf8 = std::exchange(historyUtf8_, std::nullopt);
+                                         if (utf8 && *utf8 != IsUtf8() && events_)
+                                             events_->OnHistoryCodePage(*utf8);
+                                     }) {
     setFrameShape(QFrame::NoFrame);
     SendScintilla(SCI_SETCODEPAGE, 0UL);
     SendScintilla(SCI_USEPOPUP, 0UL);
@@ -68,15 +77,24 @@ bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf
 void EditorWidget::Notify(const SciNotification& notification) { changes_.Take(notification); }
 
 // A question mark in place of what a code page lacks would be a silent loss, so its owner is asked first.
-bool EditorWidget::TakesCharacter(const QString& character, bool composing) const {
+bool EditorWidget::TakesCharacter(const QString& character) const {
     std::string byte;
     if (IsUtf8() || FromUtf8ToSingleBytes(Typed(character), byte)) return true;
-    return events_ && events_->OnBeyondCodePage(composing ? std::string() : Typed(character));
+    return events_ && events_->OnBeyondCodePage(Typed(character));
+}
+
+void EditorWidget::Offer(const QString& text) const {
+    std::string bytes;
+    if (IsUtf8() || FromUtf8ToSingleBytes(Typed(Composed(text)), bytes)) return;
+    for (const QString& character : Characters(text))
+        if (!TakesCharacter(character)) break;
 }
 
 // What the document lacks a byte for becomes a question mark.
 QByteArray EditorWidget::InDocument(const QString& text) const {
     if (IsUtf8()) return text.toUtf8();
+    std::string whole;
+    if (FromUtf8ToSingleBytes(Typed(Composed(text)), whole)) return QByteArray::fromStdString(whole);
     QByteArray bytes;
     for (const QString& character : Characters(text)) {
         std::string byte = "?";
@@ -114,6 +132,10 @@ void EditorWidget::ConnectNotifications() {
     connect(this, &Base::SCN_MODIFIED, this,
             [this](int position, int type, const char* text, int length, int linesAdded, int line,
                    int foldNow, int foldBefore, int, int) {
+                if (type & SC_MOD_CONTAINER) {
+                    historyUtf8_ = (type & SC_PERFORMED_REDO) != 0;
+                    return;
+                }
                 Notify({.code = Modified,
                         .position = position,
                         .modificationType = type,
@@ -149,22 +171,24 @@ void EditorWidget::childEvent(QChildEvent* event) {
 bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
 
 QByteArray EditorWidget::fromMimeData(const QMimeData* source, bool& rectangular) const {
-    if (source->hasText())
-        for (const QString& character : Characters(source->text()))
-            if (!TakesCharacter(character, false)) break;
     QByteArray bytes = QsciScintillaBase::fromMimeData(source, rectangular);
     // The library knows Latin-1 alone.
-    if (!IsUtf8() && source->hasText()) bytes = InDocument(source->text());
-    // The line ends that the library would make of the pasted ones.
+    bytes = Take(source->hasText() ? source->text() : QString::fromLatin1(bytes));
+    changes_.Insert(bytes);
+    return bytes;
+}
+
+QByteArray EditorWidget::Take(const QString& text) const {
+    Offer(text);
+    QByteArray bytes = InDocument(text);
     bytes.replace("\r\n", "\n").replace('\r', '\n');
     if (SendScintilla(SCI_GETEOLMODE) == SC_EOL_CRLF) bytes.replace("\n", "\r\n");
-    changes_.Insert(bytes);
     return bytes;
 }
 
 QMimeData* EditorWidget::toMimeData(const QByteArray& text, bool rectangular) const {
     QMimeData* copied = QsciScintillaBase::toMimeData(text, rectangular);
-    if (!IsUtf8()) copied->setText(Shown(text.toStdString()));
+    if (!IsUtf8()) copied->setText(QString::fromStdString(SingleBytesToUtf8(text.toStdString())));
     return copied;
 }
 
@@ -187,7 +211,14 @@ void EditorWidget::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void EditorWidget::dropEvent(QDropEvent* event) {
-    if (!event->mimeData()->hasUrls()) return QsciScintillaBase::dropEvent(event);
+    if (!event->mimeData()->hasUrls()) {
+        // The text may grow in front of the place where the pointer is.
+        Offer(event->mimeData()->text());
+        QDragMoveEvent there(event->position().toPoint(), event->possibleActions(), event->mimeData(),
+                             event->buttons(), event->modifiers());
+        QsciScintillaBase::dragMoveEvent(&there);
+        return QsciScintillaBase::dropEvent(event);
+    }
     event->acceptProposedAction();
     const auto paths = LocalFiles(event->mimeData());
     if (events_ && !paths.empty()) events_->OnDropFiles(paths);
@@ -214,17 +245,44 @@ void EditorWidget::keyPressEvent(QKeyEvent* event) {
     QsciScintillaBase::keyPressEvent(event);
 }
 
+void EditorWidget::ReplaceSelection(const QByteArray& bytes) {
+    const ChangeEvents::Inserting text(changes_, bytes);
+    SendScintilla(SCI_REPLACESEL, 0UL, bytes.constData());
+}
+
 // Character by character, as keys do it: undo steps and what follows a typed character hang on that. The
 // library takes the bytes of a single-byte text for Latin-1.
 void EditorWidget::InsertTyped(const QString& text) {
-    for (const QString& character : Characters(text)) {
-        if (!TakesCharacter(character, false)) continue;
-        const QByteArray bytes = InDocument(character);
+    QString lines = text;
+    lines.replace("\r\n", "\n").replace('\r', '\n');
+    for (const QString& character : Characters(lines)) {
+        if (!TakesCharacter(character)) continue;
+        const QByteArray bytes = Take(character);
+        if (character == "\n") {
+            ReplaceSelection(bytes);
+            continue;
+        }
         const ChangeEvents::Inserting typed(changes_, bytes);
         QInputMethodEvent one;
         one.setCommitString(IsUtf8() ? character : QString::fromLatin1(bytes));
         QsciScintillaBase::inputMethodEvent(&one);
     }
+}
+
+// What is composed stands beside the text where the document lacks bytes for it: a composition that is
+// cancelled must change nothing.
+void EditorWidget::ShowComposed(const QString& text) {
+    if (!composed_) {
+        composed_ = new QLabel(viewport());
+        composed_->setAutoFillBackground(true);
+    }
+    QFont font = composed_->font();
+    font.setUnderline(true);
+    composed_->setFont(font);
+    composed_->setText(text);
+    composed_->adjustSize();
+    composed_->move(inputMethodQuery(Qt::ImCursorRectangle).toRect().topLeft());
+    composed_->setVisible(!text.isEmpty());
 }
 
 void EditorWidget::inputMethodEvent(QInputMethodEvent* event) {
@@ -233,12 +291,13 @@ void EditorWidget::inputMethodEvent(QInputMethodEvent* event) {
     nothing.setCommitString({}, event->replacementStart(), event->replacementLength());
     QsciScintillaBase::inputMethodEvent(&nothing);
     InsertTyped(event->commitString());
-    if (event->preeditString().isEmpty()) return;
-    for (const QString& character : Characters(event->preeditString()))
-        if (!TakesCharacter(character, true)) break;
-    const QString shown =
-        IsUtf8() ? event->preeditString() : QString::fromLatin1(InDocument(event->preeditString()));
-    QInputMethodEvent composing(shown, event->attributes());
+    const QString composed = event->preeditString();
+    std::string bytes;
+    const bool fits = IsUtf8() || FromUtf8ToSingleBytes(Typed(Composed(composed)), bytes);
+    if (composed_ || !fits) ShowComposed(fits ? QString() : composed);
+    if (composed.isEmpty() || !fits) return;
+    QInputMethodEvent composing(IsUtf8() ? composed : QString::fromLatin1(InDocument(composed)),
+                                event->attributes());
     QsciScintillaBase::inputMethodEvent(&composing);
 }
 

@@ -8,6 +8,10 @@
 
 #include <Qsci/qsciscintillabase.h>
 
+#include <optional>
+
+class QLabel;
+
 class EditorWidget : public QsciScintillaBase {
     Q_OBJECT
 
@@ -19,8 +23,11 @@ public:
     // The last key moved in a completion list, which is still open.
     bool MovedInList() const { return movedInList_ && SendScintilla(SCI_AUTOCACTIVE); }
 
-    // Inserts at the caret, as if it were typed.
-    void InsertTyped(const QString& text);
+    // The bytes in which the document takes a text from outside, with its line ends; what it lacks a byte for
+    // is offered to its owner before, and becomes a question mark where it is refused.
+    QByteArray Take(const QString& text) const;
+    // Puts bytes of the document in place of the selection, in one step of the history.
+    void ReplaceSelection(const QByteArray& bytes);
     TextTeller& Teller() { return teller_; }
 
 protected:
@@ -40,12 +47,17 @@ private:
     void ConnectNotifications();
     void Notify(const SciNotification& notification);
 
-    bool TakesCharacter(const QString& character, bool composing) const;
+    bool TakesCharacter(const QString& character) const;
+    void Offer(const QString& text) const;
     QByteArray InDocument(const QString& text) const;
+    void InsertTyped(const QString& text);
+    void ShowComposed(const QString& text);
 
     EditorViewEvents* events_ = nullptr;
     bool painting_ = false;
     bool movedInList_ = false;
+    std::optional<bool> historyUtf8_; // the code page that an undo or a redo came to
+    QLabel* composed_ = nullptr;      // what is composed and has no bytes in the document
     TextTeller teller_{*this};
     mutable ChangeEvents changes_;
 };
