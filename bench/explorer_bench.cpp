@@ -10,7 +10,7 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/frmMainList.h"
+#include "workbench/explorer/frmMainList.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>

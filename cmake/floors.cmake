@@ -25,3 +25,16 @@ function(zolto_floor name)
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   zolto_warnings(${name})
 endfunction()
+
+# zolto_room(floor name DEPENDS ...): the folder src/<floor>/<name> as a target of its own (floor host/qt, name view:
+# host_qt_view), which sees only the rooms that it names. The target of the floor itself collects its rooms.
+function(zolto_room floor name)
+  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  string(REPLACE "/" "_" parent ${floor})
+  zolto_floor(${parent}_${name} FOLDER ${floor}/${name} DEPENDS ${arg_DEPENDS})
+  set_target_properties(${parent}_${name} PROPERTIES AUTOMOC ON)
+  if(NOT TARGET ${parent})
+    add_library(${parent} INTERFACE)
+  endif()
+  target_link_libraries(${parent} INTERFACE ${parent}_${name})
+endfunction()

@@ -14,14 +14,14 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
-#include "workbench/Shown.h"
-#include "workbench/frmCompiling.h"
-#include "workbench/frmError.h"
-#include "workbench/frmFind.h"
-#include "workbench/frmMain.h"
-#include "workbench/frmMainList.h"
-#include "workbench/frmOutput.h"
-#include "workbench/frmSplash.h"
+#include "workbench/parts/Shown.h"
+#include "workbench/output/frmCompiling.h"
+#include "workbench/dialogs/frmError.h"
+#include "workbench/find/frmFind.h"
+#include "workbench/frame/frmMain.h"
+#include "workbench/explorer/frmMainList.h"
+#include "workbench/output/frmOutput.h"
+#include "workbench/dialogs/frmSplash.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "documents/StoredList.h"
 #include "documents/WorkspaceText.h"
 #include "host/Host.h"
-#include "host/qt/QtSettingsStore.h"
+#include "host/qt/system/QtSettingsStore.h"
 #include "support/FakeHost.h"
 
 #include <QProcess>

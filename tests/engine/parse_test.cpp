@@ -2,7 +2,7 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "engine/Mod_Folding.h"
-#include "host/qt/QtFiles.h"
+#include "host/qt/system/QtFiles.h"
 
 namespace {
 

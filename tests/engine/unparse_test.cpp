@@ -1,7 +1,7 @@
 // Taking a line back is the exact inverse of its parse, and scopes give and take what stands in them.
 #include "engine/fixture/SourceTest.h"
 
-#include "host/qt/QtFiles.h"
+#include "host/qt/system/QtFiles.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The arrangement as a person sees it: what is saved comes back pixel for pixel, after everything was moved,
 // after a restart, and in a maximised window.
 #include "host/Failure.h"
-#include "host/qt/QtDockStudio.h"
+#include "host/qt/frame/QtDockStudio.h"
 #include "support/FakeHost.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // A view tells the changes of its text in the order of the library, and assistive technology what became of
 // them.
-#include "host/qt/EditorWidget.h"
-#include "host/qt/QtEditorView.h"
+#include "host/qt/view/EditorWidget.h"
+#include "host/qt/view/QtEditorView.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // The window for customising, used as a person uses it: by its fields, buttons and keys.
-#include "host/qt/CustomizeDialog.h"
-#include "host/qt/QtDockStudio.h"
+#include "host/qt/customize/CustomizeDialog.h"
+#include "host/qt/frame/QtDockStudio.h"
 #include "support/FakeHost.h"
 
-#include "host/qt/QtText.h"
+#include "host/qt/system/QtText.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,6 +1,6 @@
 // Arrangements: what is saved comes back, and a damaged file changes nothing.
 #include "host/Failure.h"
-#include "host/qt/QtDockStudio.h"
+#include "host/qt/frame/QtDockStudio.h"
 #include "support/FakeHost.h"
 
 #include <gtest/gtest.h>

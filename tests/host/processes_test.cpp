@@ -1,6 +1,6 @@
 // Real children of this host, with real pipes.
-#include "host/qt/CommandText.h"
-#include "host/qt/QtProcesses.h"
+#include "host/qt/system/CommandText.h"
+#include "host/qt/system/QtProcesses.h"
 #include "support/FakeHost.h"
 
 #include <cerrno>

@@ -1,6 +1,6 @@
 // The settings store on disk.
-#include "host/qt/QtInstances.h"
-#include "host/qt/QtSettingsStore.h"
+#include "host/qt/system/QtInstances.h"
+#include "host/qt/system/QtSettingsStore.h"
 #include "support/FakeHost.h"
 
 #include <QCoreApplication>

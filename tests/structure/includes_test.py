@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The floors of src/: a file includes its own floor and lower ones, the toolkit stays in three places, and no two
-modules include each other. A header and its source count as one module. The first argument is the source root."""
+modules and no two rooms include each other. A header and its source count as one module, a folder is a room.
+The first argument is the source root."""
 import re
 import sys
 import unittest
@@ -13,6 +14,10 @@ TOOLKIT = re.compile(r"(^|/)(Q[A-Za-z0-9]+|q[a-z0-9_]+\.h|Qsci/.*)$|^Qt[A-Za-z0-
 
 def module_of(path):
     return path.rsplit(".", 1)[0]
+
+
+def room_of(path):
+    return path.rsplit("/", 1)[0]
 
 
 def height(path):
@@ -49,16 +54,16 @@ def floor_faults(tree):
     return faults
 
 
-def circles(tree):
-    """The groups of modules that include each other, each as its names in order."""
+def circles(tree, unit_of):
+    """The groups of units that include each other, each as its names in order."""
     graph = {}
     for path in tree:
         for _, _, target in includes(tree, path):
-            if target and module_of(target) != module_of(path):
-                graph.setdefault(module_of(path), set()).add(module_of(target))
+            if target and unit_of(target) != unit_of(path):
+                graph.setdefault(unit_of(path), set()).add(unit_of(target))
 
-    def reached(module):
-        seen, waiting = set(), [module]
+    def reached(unit):
+        seen, waiting = set(), [unit]
         while waiting:
             for following in graph.get(waiting.pop(), ()):
                 if following not in seen:
@@ -66,9 +71,9 @@ def circles(tree):
                     waiting.append(following)
         return seen
 
-    reach = {module: reached(module) for module in graph}
-    return {" ".join(sorted(other for other in others if module in reach.get(other, ())))
-            for module, others in reach.items() if module in others}
+    reach = {unit: reached(unit) for unit in graph}
+    return {" ".join(sorted(other for other in others if unit in reach.get(other, ())))
+            for unit, others in reach.items() if unit in others}
 
 
 def read_tree(root):
@@ -86,24 +91,31 @@ class SourceTree(unittest.TestCase):
     def test_no_file_includes_a_higher_floor_or_the_toolkit_out_of_its_place(self):
         self.assertEqual(floor_faults(self.tree), [])
 
-    def test_no_modules_include_each_other(self):
-        self.assertEqual(circles(self.tree), set())
+    def test_no_modules_and_no_rooms_include_each_other(self):
+        self.assertEqual(circles(self.tree, module_of), set())
+        self.assertEqual(circles(self.tree, room_of), set())
+
+    def test_no_room_holds_a_fifth_of_the_lines(self):
+        lines = {}
+        for path, text in self.tree.items():
+            lines[room_of(path)] = lines.get(room_of(path), 0) + text.count("\n")
+        self.assertEqual([room for room in lines if lines[room] * 5 > sum(lines.values())], [])
 
 
 class TheChecks(unittest.TestCase):
     """They find what they are there for."""
 
     CLEAN = {"host/Files.h": "#include <string>\n",
-             "host/qt/QtFiles.h": '#include "host/Files.h"\n#include <QFile>\n',
+             "host/qt/system/QtFiles.h": '#include "host/Files.h"\n#include <QFile>\n',
              "engine/Lexer.h": "",
              "engine/Lexer.cpp": '#include "engine/Lexer.h"\n#include "host/Files.h"\n',
-             "app/main.cpp": '#include "host/qt/QtFiles.h"\n#include <QtWidgets/QLabel>\n'}
+             "app/main.cpp": '#include "host/qt/system/QtFiles.h"\n#include <QtWidgets/QLabel>\n'}
 
     def test_faults_are_found(self):
         self.assertEqual(floor_faults(self.CLEAN), [])
         for path, line in [("host/Files.h", '  #  include "engine/Lexer.h"'),
-                           ("host/qt/QtFiles.h", '#include "engine/Lexer.h"'),
-                           ("engine/Lexer.cpp", '#include "host/qt/QtFiles.h"'),
+                           ("host/qt/system/QtFiles.h", '#include "engine/Lexer.h"'),
+                           ("engine/Lexer.cpp", '#include "host/qt/system/QtFiles.h"'),
                            ("engine/Lexer.cpp", '#include "../tools/x.h"'),
                            ("engine/Lexer.h", "#include <QString>"),
                            ("engine/Lexer.h", "#include <QtCore/QString>"),
@@ -116,12 +128,19 @@ class TheChecks(unittest.TestCase):
     def test_circles_are_found(self):
         tree = {"a/One.h": '#include "a/Two.h"\n', "a/Two.h": '#include "a/Three.h"\n', "a/Three.h": "",
                 "a/Three.cpp": '#include "a/Three.h"\n', "a/Root.h": '#include "a/One.h"\n'}
-        self.assertEqual(circles(tree), set())
+        self.assertEqual(circles(tree, module_of), set())
         tree["a/Three.cpp"] += '#include "a/One.h"\n'  # the headers alone have no circle
         tree["b/X.h"] = '#include "b/Y.h"\n'
         tree["b/Y.cpp"] = '#include "b/X.h"\n#include "a/One.h"\n'
         tree["b/Y.h"] = ""
-        self.assertEqual(circles(tree), {"a/One a/Three a/Two", "b/X b/Y"})
+        self.assertEqual(circles(tree, module_of), {"a/One a/Three a/Two", "b/X b/Y"})
+
+    def test_an_arrow_back_between_rooms_is_found(self):
+        tree = {"a/x/One.h": '#include "a/y/Two.h"\n', "a/y/Two.h": "", "a/x/Other.h": ""}
+        self.assertEqual(circles(tree, room_of), set())
+        tree["a/y/Back.h"] = '#include "a/x/Other.h"\n'
+        self.assertEqual(circles(tree, module_of), set())
+        self.assertEqual(circles(tree, room_of), {"a/x a/y"})
 
 
 if __name__ == "__main__":

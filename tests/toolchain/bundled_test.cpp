@@ -1,7 +1,7 @@
 // The whole way with the bundled compiler: a real child, its real output, the samples.
 #include "documents/Mod_File.h"
 #include "host/Host.h"
-#include "host/qt/QtProcesses.h"
+#include "host/qt/system/QtProcesses.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/Driver.h"
 

@@ -3,7 +3,7 @@
 
 #include "HeadlessDock.h"
 #include "host/Host.h"
-#include "workbench/frmMain.h"
+#include "workbench/frame/frmMain.h"
 
 // Makes the main window fetch its commands from a frame that has none.
 inline void ForgetFrame() {

@@ -13,10 +13,10 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "host/Host.h"
-#include "host/qt/QtDockStudio.h"
+#include "host/qt/frame/QtDockStudio.h"
 #include "support/FakeHost.h"
-#include "workbench/FactoryLayout.h"
-#include "workbench/frmMain.h"
+#include "workbench/frame/FactoryLayout.h"
+#include "workbench/frame/frmMain.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

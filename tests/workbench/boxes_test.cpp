@@ -8,7 +8,7 @@
 #include "engine/ClsProject.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/frmMain.h"
+#include "workbench/frame/frmMain.h"
 
 #include <gtest/gtest.h>
 

@@ -5,12 +5,12 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
-#include "host/qt/Layout.h"
-#include "host/qt/QtCommand.h"
+#include "host/qt/layout/Layout.h"
+#include "host/qt/commands/QtCommand.h"
 #include "support/FakeHost.h"
-#include "workbench/FactoryLayout.h"
-#include "workbench/Mod_MenuCommands.h"
-#include "workbench/frmMain.h"
+#include "workbench/frame/FactoryLayout.h"
+#include "workbench/frame/Mod_MenuCommands.h"
+#include "workbench/frame/frmMain.h"
 
 #include <QKeySequence>
 #include <algorithm>

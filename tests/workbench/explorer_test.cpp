@@ -8,10 +8,10 @@
 #include "documents/Mod_Project.h"
 #include "documents/Options.h"
 #include "host/Host.h"
-#include "workbench/CodeModel.h"
-#include "workbench/frmGotoLine.h"
-#include "workbench/frmMain.h"
-#include "workbench/frmMainList.h"
+#include "workbench/explorer/CodeModel.h"
+#include "workbench/find/frmGotoLine.h"
+#include "workbench/frame/frmMain.h"
+#include "workbench/explorer/frmMainList.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -3,8 +3,8 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "documents/ClsMRU.h"
-#include "workbench/frmFind.h"
-#include "workbench/frmMain.h"
+#include "workbench/find/frmFind.h"
+#include "workbench/frame/frmMain.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -2,9 +2,9 @@
 #include "app/CommandLine.h"
 #include "app/FirstStart.h"
 #include "support/FakeHost.h"
-#include "workbench/ErrorReport.h"
-#include "workbench/frmError.h"
-#include "workbench/frmOutput.h"
+#include "workbench/dialogs/ErrorReport.h"
+#include "workbench/dialogs/frmError.h"
+#include "workbench/output/frmOutput.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -4,10 +4,10 @@
 #include "app/wire_up.h"
 #include "host/ErrorLog.h"
 #include "host/Outside.h"
-#include "host/qt/QtDesktop.h"
-#include "host/qt/QtDialogs.h"
+#include "host/qt/system/QtDesktop.h"
+#include "host/qt/system/QtDialogs.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/frmFind.h"
+#include "workbench/find/frmFind.h"
 
 #include <QApplication>
 #include <QDialog>

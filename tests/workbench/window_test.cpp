@@ -4,7 +4,7 @@
 #include "documents/Mod_File_workspace.h"
 #include "engine/ParserState.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/Mod_MenuCommands.h"
+#include "workbench/frame/Mod_MenuCommands.h"
 
 #include <QApplication>
 #include <QTest>

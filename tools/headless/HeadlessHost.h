@@ -4,11 +4,11 @@
 
 #include "HeadlessDock.h"
 #include "host/Dialogs.h"
-#include "host/qt/QtDesktop.h"
-#include "host/qt/QtEditorView.h"
-#include "host/qt/QtFiles.h"
-#include "host/qt/QtProcesses.h"
-#include "host/qt/QtSettingsStore.h"
+#include "host/qt/system/QtDesktop.h"
+#include "host/qt/view/QtEditorView.h"
+#include "host/qt/system/QtFiles.h"
+#include "host/qt/system/QtProcesses.h"
+#include "host/qt/system/QtSettingsStore.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -4,9 +4,9 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/Host.h"
-#include "host/qt/QtText.h"
+#include "host/qt/system/QtText.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/Mod_MenuCommands.h"
+#include "workbench/frame/Mod_MenuCommands.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>

@@ -1,0 +1,161 @@
+// The notification behind a change is due as soon as the library speaks again or the message that made the
+// change returns; nothing of the program runs in between, so its owner sees the order of the library.
+#include "host/qt/view/ChangeEvents.h"
+
+#include "host/qt/view/NotificationCodes.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+using Base = QsciScintillaBase;
+
+constexpr int BeforeInsert = Base::SC_MOD_BEFOREINSERT;
+constexpr int BeforeChange = Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE;
+constexpr int Change = Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT;
+
+SciDirectFunction libraryFunction = nullptr;
+std::vector<ChangeEvents*> views;
+// The view that owes the notification of a change.
+ChangeEvents* owing = nullptr;
+
+// The text that a message inserts, if it is one that does.
+QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
+    const auto* bytes = reinterpret_cast<const char*>(text);
+    switch (message) {
+    case Base::SCI_REPLACESEL:
+    case Base::SCI_INSERTTEXT: return QByteArray::fromRawData(bytes, static_cast<int>(std::strlen(bytes)));
+    case Base::SCI_ADDTEXT: return QByteArray::fromRawData(bytes, static_cast<int>(length));
+    case Base::SCI_REPLACETARGET:
+        return QByteArray::fromRawData(bytes, static_cast<std::intptr_t>(length) < 0
+                                                  ? static_cast<int>(std::strlen(bytes))
+                                                  : static_cast<int>(length));
+    default: return {};
+    }
+}
+
+} // namespace
+
+ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
+                           std::function<void()> travelled)
+    : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)), travelled_(std::move(travelled)),
+      pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
+    views.push_back(this);
+}
+
+ChangeEvents::~ChangeEvents() {
+    views.erase(std::find(views.begin(), views.end(), this));
+    if (owing == this) owing = nullptr;
+}
+
+SciDirectFunction ChangeEvents::DirectFunction(SciDirectFunction library) {
+    libraryFunction = library;
+    return Direct;
+}
+
+ChangeEvents* ChangeEvents::Of(std::intptr_t pointer) {
+    for (ChangeEvents* events : views)
+        if (events->pointer_ == pointer) return events;
+    return nullptr;
+}
+
+std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
+                                   std::intptr_t lParam) {
+    if (owing) FlushPending();
+    std::intptr_t answer = 0;
+    switch (message) {
+    case Base::SCI_SETMODEVENTMASK:
+        if (ChangeEvents* events = Of(pointer)) {
+            events->mask_ = static_cast<int>(wParam);
+            events->ApplyMask();
+            if (!events->narrowed_) events->unheard_();
+            break;
+        }
+        [[fallthrough]];
+    default: answer = libraryFunction(pointer, message, wParam, lParam); break;
+    case Base::SCI_AUTOCSHOW: {
+        const ChangeEvents* events = Of(pointer);
+        if (events && !events->CaretOnScreen()) message = Base::SCI_AUTOCCANCEL;
+        answer = libraryFunction(pointer, message, wParam, lParam);
+        break;
+    }
+    case Base::SCI_REPLACESEL:
+    case Base::SCI_INSERTTEXT:
+    case Base::SCI_ADDTEXT:
+    case Base::SCI_REPLACETARGET: {
+        ChangeEvents* events = Of(pointer);
+        if (events) events->inserting_ = TextOf(message, wParam, lParam);
+        answer = libraryFunction(pointer, message, wParam, lParam);
+        if (events) events->inserting_.clear();
+        break;
+    }
+    case Base::SCI_PASTE: {
+        answer = libraryFunction(pointer, message, wParam, lParam);
+        if (ChangeEvents* events = Of(pointer)) events->inserting_.clear();
+        break;
+    }
+    }
+    if (owing) FlushPending();
+    if (message == Base::SCI_UNDO || message == Base::SCI_REDO)
+        if (ChangeEvents* events = Of(pointer)) events->travelled_();
+    return answer;
+}
+
+// The library asks the screen under the caret how large a list may be, and ends the program where there is
+// none.
+bool ChangeEvents::CaretOnScreen() const {
+    const auto caret = view_.SendScintilla(Base::SCI_GETCURRENTPOS);
+    const auto x = view_.SendScintilla(Base::SCI_POINTXFROMPOSITION, 0L, caret);
+    const auto y = view_.SendScintilla(Base::SCI_POINTYFROMPOSITION, 0L, caret);
+    const QPoint point(static_cast<int>(x), static_cast<int>(y));
+    return QGuiApplication::screenAt(view_.viewport()->mapToGlobal(point)) &&
+           QGuiApplication::screenAt(view_.mapToGlobal(point));
+}
+
+void ChangeEvents::ApplyMask() {
+    if (mask_ < 0) return;
+    // Bits that tell who made a change would let the narrowed ones through as well.
+    narrowed_ = (mask_ & Change) == Change && (mask_ & BeforeChange) == BeforeChange;
+    const int heard = narrowed_ ? BeforeChange : mask_;
+    // What the history holds beside the text is the view's own matter.
+    view_.SendScintilla(Base::SCI_SETMODEVENTMASK, heard == 0 ? 0 : heard | Base::SC_MOD_CONTAINER);
+}
+
+void ChangeEvents::FlushPending() {
+    ChangeEvents& events = *owing;
+    owing = nullptr;
+    const auto lines = events.view_.SendScintilla(Base::SCI_GETLINECOUNT);
+    events.after_.linesAdded = lines - events.linesBefore_;
+    events.hand_(events.after_);
+}
+
+void ChangeEvents::Take(const SciNotification& notification) {
+    // The text has changed when the save point goes, and nothing else of the view has followed yet.
+    if (owing && notification.code != SavePointLeft) FlushPending();
+    const bool change = notification.code == Modified;
+    if (!change || !(notification.modificationType & BeforeChange)) return hand_(notification);
+    SciNotification before = notification;
+    const bool told = (before.modificationType & BeforeInsert) && before.length == inserting_.size();
+    if (told && !before.text) before.text = inserting_.constData();
+    hand_(before);
+    if (told) inserting_.clear();
+    if (!narrowed_) return;
+    after_ = notification;
+    after_.text = nullptr;
+    after_.modificationType &= ~BeforeChange;
+    after_.modificationType |=
+        notification.modificationType & BeforeInsert ? Base::SC_MOD_INSERTTEXT : Base::SC_MOD_DELETETEXT;
+    linesBefore_ = view_.SendScintilla(Base::SCI_GETLINECOUNT);
+    owing = this;
+}
+
+ChangeEvents::Inserting::Inserting(ChangeEvents& events, QByteArray text) : events_(events) {
+    events_.inserting_ = std::move(text);
+}
+
+ChangeEvents::Inserting::~Inserting() { events_.inserting_.clear(); }

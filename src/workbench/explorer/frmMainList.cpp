@@ -1,0 +1,182 @@
+// The Code Explorer pane: its command bar and its filter.
+#include "workbench/explorer/frmMainList.h"
+
+#include "editor/frmDoc.h"
+#include "engine/ClsProject.h"
+#include "host/ErrorLog.h"
+#include "host/Host.h"
+#include "workbench/parts/SymbolIcons.h"
+#include "workbench/explorer/frmList.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* HelpWindow = "HELP WINDOW";
+constexpr QSize PaneSize(320, 420); // where the arrangement says nothing
+constexpr int Spacing = 2;
+
+// Asks for a pane of a useful width, and hands the focus on to the list on show. As a focus proxy that list
+// would make Tab pass over what stands in front of it.
+class Pane : public QWidget {
+public:
+    QSize sizeHint() const override { return PaneSize; }
+
+protected:
+    void focusInEvent(QFocusEvent*) override { frmMainList::Instance().FocusList(); }
+};
+
+bool HelpIsActive() {
+    const DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
+    return window != nullptr && window->Key() == HelpWindow;
+}
+
+void FocusDocument() {
+    const frmDoc* document = ActiveForm();
+    if (!document) return;
+    // The pane may float, in a window that is the active one.
+    static_cast<QWidget*>(document->View->NativeWidget())->window()->activateWindow();
+    document->View->GrabFocus();
+}
+
+}
+
+frmMainList& frmMainList::Instance() {
+    static frmMainList pane;
+    return pane;
+}
+
+frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new QLineEdit) {
+    auto* kinds = new QHBoxLayout;
+    kinds->setSpacing(Spacing);
+    for (std::size_t i = 0; i < ConstructCount; ++i) {
+        const Construct& construct = Constructs[i];
+        constructs_[i] = AddButton(construct.name, [this, &construct] { ShowConstruct(construct.name); });
+        constructs_[i]->setIcon(SymbolIcon(construct.icon));
+        constructs_[i]->setToolTip(constructs_[i]->accessibleName());
+        kinds->addWidget(constructs_[i]);
+    }
+    kinds->addStretch();
+    file_ = AddButton("File", [this] { SetScope(true); });
+    file_->setText(tr("File"));
+    file_->setToolTip(tr("Only the symbols of the current file"));
+    project_ = AddButton("Project", [this] { SetScope(false); });
+    project_->setText(tr("Project"));
+    project_->setToolTip(tr("The symbols of the whole project"));
+    kinds->addWidget(file_);
+    kinds->addWidget(project_);
+
+    filter_->setPlaceholderText(tr("Filter"));
+    filter_->setAccessibleName(tr("Filter"));
+    filter_->setObjectName("txtFilter");
+    filter_->setClearButtonEnabled(true);
+    for (auto* clear : filter_->findChildren<QToolButton*>())
+        clear->setAccessibleName(tr("Clear the filter"));
+    filter_->installEventFilter(this);
+    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        lists_->SetFilter(text.trimmed().toStdString());
+        PuniLista();
+    });
+    auto* layout = new QVBoxLayout(pane_);
+    layout->setContentsMargins(Spacing, Spacing, Spacing, 0);
+    layout->setSpacing(Spacing);
+    layout->addLayout(kinds);
+    layout->addWidget(filter_);
+    layout->addWidget(lists_, 1);
+    lists_->LeaveList = FocusDocument;
+    CheckButtons();
+}
+
+// The pane's widget belongs to whoever placed it; without a place it goes with the form, unless the toolkit
+// has gone already.
+frmMainList::~frmMainList() {
+    if (pane_ && !pane_->parent() && qApp) delete pane_;
+}
+
+void* frmMainList::NativeWidget() { return static_cast<QWidget*>(pane_.data()); }
+
+QToolButton* frmMainList::AddButton(const char* name, const std::function<void()>& clicked) {
+    auto* button = new QToolButton;
+    button->setObjectName(QString("cmd%1").arg(name));
+    button->setAccessibleName(tr(name));
+    button->setCheckable(true);
+    button->setAutoRaise(true);
+    connect(button, &QToolButton::clicked, this, [this, clicked] {
+        Guarded("DSCommands_Click", "frmMainList", clicked);
+        CheckButtons(); // a button that was refused is not checked
+    });
+    return button;
+}
+
+void frmMainList::CheckButtons() {
+    for (std::size_t i = 0; i < ConstructCount; ++i)
+        constructs_[i]->setChecked(lists_->ShownConstruct() == std::string(Constructs[i].name));
+    file_->setChecked(lists_->ShowOnlyFile);
+    project_->setChecked(!lists_->ShowOnlyFile);
+}
+
+void frmMainList::AllConstructsDirty() {
+    if (!gCurrentProject) return;
+    ClsProject& project = *gCurrentProject;
+    for (bool* dirty : {&project.GlobalsDirty, &project.ConstantsDirty, &project.TypesDirty,
+                        &project.FunctionsDirty, &project.ArraysDirty, &project.LabelsDirty,
+                        &project.FieldsDirty, &project.LocalsDirty, &project.IncludesDirty})
+        *dirty = true;
+}
+
+void frmMainList::PuniLista() {
+    if (lists_) lists_->PuniLista();
+}
+
+void frmMainList::Refresh() {
+    AllConstructsDirty();
+    PuniLista();
+}
+
+void frmMainList::ShowConstruct(const std::string& name) {
+    if (!lists_) return;
+    lists_->SetConstruct(name);
+    CheckButtons();
+    PuniLista();
+}
+
+void frmMainList::FocusList() {
+    if (lists_) lists_->ShownList().setFocus(Qt::OtherFocusReason);
+}
+
+bool frmMainList::ShowOnlyFile() const { return lists_ && lists_->ShowOnlyFile; }
+
+void frmMainList::SetScope(bool onlyFile) {
+    if (HelpIsActive()) return;
+    lists_->ShowOnlyFile = onlyFile;
+    AllConstructsDirty();
+    // A file column says nothing where there is one file.
+    onlyFile ? lists_->HideFileColumn() : lists_->UnHideFileColumn();
+    PuniLista();
+}
+
+bool frmMainList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != filter_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
+    return FilterKey(static_cast<QKeyEvent*>(event)->key());
+}
+
+// Answers whether the key was taken.
+bool frmMainList::FilterKey(int key) {
+    switch (key) {
+    case Qt::Key_Escape: filter_->text().isEmpty() ? FocusDocument() : filter_->clear(); return true;
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+        CodeList& list = lists_->ShownList();
+        if (!list.currentIndex().isValid()) list.setCurrentIndex(list.Rows().index(0, 0));
+        FocusList();
+        return true;
+    }
+    default: return false;
+    }
+}
