@@ -9,15 +9,15 @@
 #include "documents/Mod_Main.h"
 #include "host/Host.h"
 #include "host/Paths.h"
+#include "host/qt/frame/QtDockStudio.h"
 #include "host/qt/system/QtDesktop.h"
 #include "host/qt/system/QtDialogs.h"
-#include "host/qt/frame/QtDockStudio.h"
-#include "host/qt/view/QtEditorView.h"
 #include "host/qt/system/QtFiles.h"
 #include "host/qt/system/QtInstances.h"
 #include "host/qt/system/QtProcesses.h"
 #include "host/qt/system/QtSettingsStore.h"
 #include "host/qt/system/QtText.h"
+#include "host/qt/view/QtEditorView.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -14,14 +14,14 @@
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
-#include "workbench/parts/Shown.h"
-#include "workbench/output/frmCompiling.h"
 #include "workbench/dialogs/frmError.h"
+#include "workbench/dialogs/frmSplash.h"
+#include "workbench/explorer/frmMainList.h"
 #include "workbench/find/frmFind.h"
 #include "workbench/frame/frmMain.h"
-#include "workbench/explorer/frmMainList.h"
+#include "workbench/output/frmCompiling.h"
 #include "workbench/output/frmOutput.h"
-#include "workbench/dialogs/frmSplash.h"
+#include "workbench/parts/Shown.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // The readers of foreign bytes on one session that all inputs share.
 #include "Readers.h"
 
+#include "documents/CloseFiles.h"
 #include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Main.h"
-#include "documents/CloseFiles.h"
 #include "documents/Mod_Project.h"
 #include "documents/Session.h"
 #include "editor/StyleTable.h"

@@ -1,8 +1,8 @@
 // The frame of the main window: document windows, their events in order, and shortcuts.
 #include "host/Failure.h"
-#include "host/qt/view/EditorWidget.h"
 #include "host/qt/frame/QtDockStudio.h"
 #include "host/qt/tabs/TabGroup.h"
+#include "host/qt/view/EditorWidget.h"
 #include "support/FakeHost.h"
 
 #include <QAccessible>

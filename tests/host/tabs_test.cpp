@@ -1,7 +1,7 @@
 // Tabs under the mouse: dragged within a group and between groups, closed, and switched by the wheel.
 #include "host/qt/frame/QtDockStudio.h"
-#include "host/qt/view/QtEditorView.h"
 #include "host/qt/tabs/TabGroup.h"
+#include "host/qt/view/QtEditorView.h"
 #include "support/FakeHost.h"
 
 #include <QApplication>

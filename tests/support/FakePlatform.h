@@ -5,8 +5,8 @@
 #include "host/Desktop.h"
 #include "host/Processes.h"
 #include "host/SettingsStore.h"
-#include "host/qt/view/QtEditorView.h"
 #include "host/qt/system/QtFiles.h"
+#include "host/qt/view/QtEditorView.h"
 
 #include <deque>
 #include <map>

@@ -5,8 +5,8 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
-#include "host/qt/layout/Layout.h"
 #include "host/qt/commands/QtCommand.h"
+#include "host/qt/layout/Layout.h"
 #include "support/FakeHost.h"
 #include "workbench/frame/FactoryLayout.h"
 #include "workbench/frame/Mod_MenuCommands.h"
@@ -101,7 +101,7 @@ TEST(CommandsTest, EveryCommandHasAPlace) {
     const Layout layout = DefaultLayout();
     const auto placed = PlacedCommands(layout);
     const std::set<std::string> unplaced{"Goto Function", "Print", "Print Preview", "Insert Filename",
-                                            "Menu Bar"};
+                                         "Menu Bar"};
     for (const std::string& name : Names)
         EXPECT_NE(std::find(placed.begin(), placed.end(), name) != placed.end(), unplaced.count(name) != 0)
             << name;

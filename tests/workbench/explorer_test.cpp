@@ -9,9 +9,9 @@
 #include "documents/Options.h"
 #include "host/Host.h"
 #include "workbench/explorer/CodeModel.h"
+#include "workbench/explorer/frmMainList.h"
 #include "workbench/find/frmGotoLine.h"
 #include "workbench/frame/frmMain.h"
-#include "workbench/explorer/frmMainList.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -2,11 +2,11 @@
 // states and of every dialog.
 #include "WindowTest.h"
 #include "app/ReadableStyle.h"
-#include "workbench/frame/Mod_MenuCommands.h"
-#include "workbench/output/frmCompiling.h"
 #include "workbench/dialogs/frmError.h"
 #include "workbench/find/frmFind.h"
 #include "workbench/find/frmGotoLine.h"
+#include "workbench/frame/Mod_MenuCommands.h"
+#include "workbench/output/frmCompiling.h"
 
 #include <QAccessible>
 #include <QApplication>

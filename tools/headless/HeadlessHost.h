@@ -5,10 +5,10 @@
 #include "HeadlessDock.h"
 #include "host/Dialogs.h"
 #include "host/qt/system/QtDesktop.h"
-#include "host/qt/view/QtEditorView.h"
 #include "host/qt/system/QtFiles.h"
 #include "host/qt/system/QtProcesses.h"
 #include "host/qt/system/QtSettingsStore.h"
+#include "host/qt/view/QtEditorView.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -5,8 +5,8 @@
 #include "engine/ClsProject.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
-#include "workbench/parts/SymbolIcons.h"
 #include "workbench/explorer/frmList.h"
+#include "workbench/parts/SymbolIcons.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -4,9 +4,9 @@
 #include "editor/frmDoc.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
-#include "workbench/parts/MainWindow.h"
-#include "workbench/find/frmGotoLine.h"
 #include "workbench/explorer/frmMainList.h"
+#include "workbench/find/frmGotoLine.h"
+#include "workbench/parts/MainWindow.h"
 
 namespace Mod_MenuCommands {
 

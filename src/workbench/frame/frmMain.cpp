@@ -19,8 +19,8 @@
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/frame/FactoryLayout.h"
 #include "workbench/explorer/frmMainList.h"
+#include "workbench/frame/FactoryLayout.h"
 #include "workbench/output/frmOutput.h"
 
 namespace {

@@ -19,8 +19,8 @@
 #include "host/ErrorLog.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
-#include "workbench/frame/Mod_MenuCommands.h"
 #include "workbench/explorer/frmMainList.h"
+#include "workbench/frame/Mod_MenuCommands.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What a command is in a tool bar or the status bar when it is more than a button.
 #include "host/qt/commands/CommandWidgets.h"
 
-#include "host/qt/system/QtText.h"
 #include "host/qt/commands/StatusText.h"
+#include "host/qt/system/QtText.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -140,8 +140,7 @@ void BarEditor::DragEntry(const std::string& place, int index, QWidget* bar) {
     data->setData(CommandMime, QByteArray::fromStdString(entry.command));
     auto* drag = new QDrag(bar);
     drag->setMimeData(data);
-    if (command)
-        drag->setPixmap(command->Action()->icon().pixmap(QSize(22, 22), bar->devicePixelRatio()));
+    if (command) drag->setPixmap(command->Action()->icon().pixmap(QSize(22, 22), bar->devicePixelRatio()));
     fromPlace_ = place;
     dropped_ = false;
     const NestedLoop loop;

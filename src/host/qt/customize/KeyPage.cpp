@@ -1,8 +1,8 @@
 // The page on which the keys of one command are changed.
 #include "host/qt/customize/KeyPage.h"
 
-#include "host/qt/system/QtText.h"
 #include "host/qt/commands/ShortcutFilter.h"
+#include "host/qt/system/QtText.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

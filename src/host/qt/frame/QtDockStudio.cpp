@@ -4,9 +4,9 @@
 #include "host/Failure.h"
 #include "host/Paths.h"
 #include "host/qt/customize/CustomizeDialog.h"
+#include "host/qt/frame/StartPage.h"
 #include "host/qt/system/Painting.h"
 #include "host/qt/system/QtText.h"
-#include "host/qt/frame/StartPage.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "host/DockStudio.h"
-#include "host/qt/customize/CustomizeTarget.h"
 #include "host/qt/commands/Menus.h"
 #include "host/qt/commands/QtBar.h"
-#include "host/qt/tabs/QtDocumentArea.h"
-#include "host/qt/panes/QtPane.h"
 #include "host/qt/commands/ShortcutFilter.h"
+#include "host/qt/customize/CustomizeTarget.h"
 #include "host/qt/frame/StudioWindow.h"
+#include "host/qt/panes/QtPane.h"
+#include "host/qt/tabs/QtDocumentArea.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

@@ -1,10 +1,10 @@
 // The arrangement as a whole: loading, saving, and the place of the window.
 #include "host/Failure.h"
-#include "host/qt/system/Painting.h"
 #include "host/qt/frame/QtDockStudio.h"
+#include "host/qt/frame/StartPage.h"
+#include "host/qt/system/Painting.h"
 #include "host/qt/system/QtFiles.h"
 #include "host/qt/system/QtText.h"
-#include "host/qt/frame/StartPage.h"
 
 #include <QMenuBar>
 #include <algorithm>
@@ -105,7 +105,8 @@ void QtDockStudio::ApplyPanes(const std::vector<LayoutPane>& records) {
 }
 
 void QtDockStudio::RestoreSizes() {
-    // A hidden window that will be maximised only remembers the record, and a second one takes its parts away.
+    // A hidden window that will be maximised only remembers the record, and a second one takes its parts
+    // away.
     const bool ready = window_.isVisible() || !window_.isMaximized();
     if (!windowState_.isEmpty() && ready) window_.restoreState(windowState_);
     for (const auto& [side, strip] : paneOwner_.strips) strip->ShowIfNeeded();
@@ -113,8 +114,8 @@ void QtDockStudio::RestoreSizes() {
 }
 
 // The desktop gives the window its size some time after it was asked for, and each change of the size scales
-// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again, once the toolkit
-// is done with that change: in the middle of it, it still looks at what a record replaces.
+// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again, once the
+// toolkit is done with that change: in the middle of it, it still looks at what a record replaces.
 void QtDockStudio::Settle() {
     constexpr int Milliseconds = 1500;
     if (settling_.isValid() && settling_.elapsed() < Milliseconds) settle_.start();

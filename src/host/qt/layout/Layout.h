@@ -26,7 +26,7 @@ struct LayoutCommand {
     std::string icon = {}; // name in the icon theme
     std::string tip = {};
     std::vector<std::string> shortcuts = {};
-    std::string keysFrom = {}; // an older command whose keys it takes over where it is new
+    std::string keysFrom = {};        // an older command whose keys it takes over where it is new
     std::optional<bool> checked = {}; // set for what has a check mark
     bool visible = true;
     int width = 0;              // pixels of a combo or a status pane; 0: by its content
@@ -76,5 +76,6 @@ std::string WriteLayout(const Layout& layout);
 std::vector<std::string> PlacedCommands(const Layout& layout);
 // Adds to a stored arrangement what the factory's has and it does not know: commands, bars and panes that
 // are newer than the file. So an arrangement of an older version of the program keeps working, and what the
-// user took away stays away. What the factory's had a place for and has no longer leaves the stored one, once.
+// user took away stays away. What the factory's had a place for and has no longer leaves the stored one,
+// once.
 void AddWhatIsNew(const Layout& factory, Layout& stored);

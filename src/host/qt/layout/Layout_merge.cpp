@@ -46,8 +46,7 @@ void RemoveWithdrawn(const Layout& factory, Layout& stored) {
     std::set<std::string> withdrawn(stored.offered.begin(), stored.offered.end());
     for (const std::string& name : PlacedCommands(factory)) withdrawn.erase(name);
     const auto remove = [&](LayoutEntries& entries) {
-        std::erase_if(entries,
-                      [&](const LayoutEntry& entry) { return withdrawn.count(entry.command) != 0; });
+        std::erase_if(entries, [&](const LayoutEntry& entry) { return withdrawn.count(entry.command) != 0; });
     };
     for (LayoutCommand& command : stored.commands) remove(command.entries);
     for (LayoutBar& bar : stored.bars) remove(bar.entries);

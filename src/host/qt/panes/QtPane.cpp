@@ -96,9 +96,7 @@ Qt::DockWidgetArea QtPane::Area() const {
     return area == Qt::NoDockWidgetArea ? AreaOf(record_.area) : area;
 }
 
-bool QtPane::Upright() const {
-    return Area() == Qt::LeftDockWidgetArea || Area() == Qt::RightDockWidgetArea;
-}
+bool QtPane::Upright() const { return Area() == Qt::LeftDockWidgetArea || Area() == Qt::RightDockWidgetArea; }
 
 int QtPane::Extent() const {
     if (rolled_) return rolled_->Extent();

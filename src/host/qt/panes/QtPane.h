@@ -3,8 +3,8 @@
 #pragma once
 
 #include "host/DockStudio.h"
-#include "host/qt/panes/EdgeStrip.h"
 #include "host/qt/layout/Layout.h"
+#include "host/qt/panes/EdgeStrip.h"
 #include "host/qt/panes/PaneTitle.h"
 #include "host/qt/panes/RolledPane.h"
 
@@ -18,7 +18,7 @@
 struct PaneOwner {
     std::function<void(const std::string& pane, bool shown)> shown;
     std::function<void(const std::string& pane, bool begins)> dragged;
-    std::function<void()> leave; // gives the focus to the documents
+    std::function<void()> leave;                     // gives the focus to the documents
     std::map<Qt::DockWidgetArea, EdgeStrip*> strips; // one for each side
 };
 

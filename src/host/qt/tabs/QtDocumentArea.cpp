@@ -3,9 +3,9 @@
 
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
+#include "host/qt/system/QtText.h"
 #include "host/qt/tabs/DropMark.h"
 #include "host/qt/tabs/GroupTree.h"
-#include "host/qt/system/QtText.h"
 #include "host/qt/tabs/TabGroup.h"
 
 #include <QApplication>

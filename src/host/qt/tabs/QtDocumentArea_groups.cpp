@@ -1,9 +1,9 @@
 // The document area: how groups of tabs come, go and are kept, and tabs that are dragged between them.
 #include "host/qt/tabs/QtDocumentArea.h"
 
+#include "host/qt/system/QtText.h"
 #include "host/qt/tabs/DropMark.h"
 #include "host/qt/tabs/GroupTree.h"
-#include "host/qt/system/QtText.h"
 #include "host/qt/tabs/TabGroup.h"
 
 #include <QActionGroup>

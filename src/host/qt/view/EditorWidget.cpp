@@ -1,9 +1,9 @@
 // The edit control as this program uses it.
 #include "host/qt/view/EditorWidget.h"
 
+#include "host/qt/system/QtText.h"
 #include "host/qt/view/HighBytes.h"
 #include "host/qt/view/NotificationCodes.h"
-#include "host/qt/system/QtText.h"
 
 #include <QChildEvent>
 #include <QContextMenuEvent>
