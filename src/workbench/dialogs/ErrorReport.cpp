@@ -13,7 +13,7 @@ std::string ErrorReportText(std::string_view mailbox, std::string_view log) {
     line("From: <>");
     line("To: \"" + std::string(mailbox) + "\"");
     line("Subject: Zolto - Error Report");
-    // Makes mail programs open the file as a message that is not sent yet.
+    // Mail programs open the file as an unsent message because of this header.
     line("X-Unsent: 1");
     line("");
     line("If possible, please include a description of the steps required to reproduce this error:");

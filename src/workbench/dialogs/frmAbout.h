@@ -1,5 +1,5 @@
 // The about box.
 #pragma once
 
-// Shows it above the main window and comes back when it was closed.
+// Shows the box above the main window and returns when it is closed.
 void ShowAbout();

@@ -1,5 +1,5 @@
-// The dialog that tells of a failure and offers a report of it. It has no failure path of its own: what
-// goes wrong in it is told in a message.
+// The dialog that reports a failure and offers to send a report. It must not report itself, so its own
+// failures are shown as messages.
 #include "workbench/dialogs/frmError.h"
 
 #include "host/Desktop.h"
@@ -99,7 +99,7 @@ void frmError::SendReport() {
         HandOverErrorReport();
     });
     accept();
-    // Not every system has a mail program that opens a draft.
+    // Not every system has a mail program that opens a draft, so the user also learns the path.
     if (written)
         gHost.dialogs->Show({.text = "The error report is in the file\r\n" + ErrorReportFile(),
                              .icon = MessageIcon::Information});
@@ -107,7 +107,7 @@ void frmError::SendReport() {
 
 namespace {
 
-// A window that opens while another paints would paint into the middle of it.
+// A window opened during another one's paint event would paint into the middle of it.
 bool SomethingPaints() {
     for (const QWidget* widget : QApplication::allWidgets())
         if (widget->testAttribute(Qt::WA_WState_InPaintEvent)) return true;
@@ -115,7 +115,7 @@ bool SomethingPaints() {
 }
 
 void RunDialog() {
-    gHost.desktop->LockWindowUpdate(false); // it stands over a window that paints
+    gHost.desktop->LockWindowUpdate(false); // a locked window below the dialog would show rubbish
     QWidget* parent = QApplication::activeModalWidget();
     frmError dialog(parent ? parent : MainWindow());
     dialog.exec();
@@ -130,7 +130,7 @@ void frmError::ShowModal() {
     waiting = true;
     QTimer::singleShot(0, qApp, [] {
         waiting = false;
-        // The reporter has come back meanwhile, so the flag is held here.
+        // The reporter has returned and cleared its flag, so this call holds it instead.
         if (gInErrorReport) return;
         gInErrorReport = true;
         RunDialog();

@@ -1,4 +1,4 @@
-// The dialog that tells of a failure and offers a report of it.
+// The dialog that reports a failure and offers to send a report.
 #pragma once
 
 #include <QDialog>
@@ -7,8 +7,8 @@ class frmError : public QDialog {
 public:
     explicit frmError(QWidget* parent);
 
-    // Shows the dialog and comes back when it was closed. A failure during painting comes back at once, and
-    // the dialog follows when the painting is done.
+    // Shows the dialog and returns when it is closed. For a failure during painting it returns at once, and
+    // the dialog follows after the painting.
     static void ShowModal();
 
 private:

@@ -1,4 +1,4 @@
-// The splash window. A window that flashes up for a few frames only disturbs, so it waits a moment first.
+// The splash window. It appears late, because a window that is visible for a few frames only disturbs.
 #include "workbench/dialogs/frmSplash.h"
 
 #include "host/Outside.h"

@@ -1,4 +1,4 @@
-// The splash window of a start that takes longer than a blink.
+// The splash window of a slow start.
 #pragma once
 
 #include <QElapsedTimer>
@@ -9,7 +9,7 @@ class QLabel;
 
 class frmSplash : public QFrame {
 public:
-    // Shows the line on the splash window, which appears once the start has taken long enough to be noticed.
+    // Shows the text in the splash window, which appears once the start takes noticeably long.
     static void SetStatus(const std::string& text);
     static void Unload();
 

@@ -1,14 +1,14 @@
-// Painting with texts that are laid out once.
+// Paints from texts that are laid out once.
 #include "workbench/explorer/CodeDelegate.h"
 
 #include <QApplication>
 #include <QPainter>
 
 namespace {
-constexpr int Gap = 4; // pixels, round the icon and in front of the text
+constexpr int Gap = 4; // pixels, around the icon and before the text
 }
 
-// A text that is cut where it is wider than its column.
+// Returns the text, shortened to the width of its column.
 const QStaticText& CodeDelegate::LaidOut(const QString& text, const QStyleOptionViewItem& option,
                                          int width) const {
     if (font_ != option.font) {

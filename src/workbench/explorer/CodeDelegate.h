@@ -26,5 +26,5 @@ private:
     };
     static constexpr int MostTexts = 1000;
     mutable QCache<Key, QStaticText> texts_{MostTexts};
-    mutable QFont font_; // that the texts are laid out with
+    mutable QFont font_; // the font of the laid-out texts
 };

@@ -1,4 +1,4 @@
-// Keys, the current row, and what a list keeps while its rows change.
+// Keyboard, current row, and the view's state while its rows change.
 #include "workbench/explorer/CodeList.h"
 
 #include "workbench/explorer/CodeDelegate.h"
@@ -39,7 +39,7 @@ void CodeList::Show(const std::vector<SymbolPointer>& symbols) {
         const QScopedValueRollback<bool> guard(showing_, true);
         model_.Reconcile(symbols);
     }
-    // Only a reset, which forgets both, leaves something to bring back; and a symbol that was declared anew.
+    // A reset loses the current row, and a symbol declared anew has another record: find the row again.
     if (current && !currentIndex().isValid()) {
         int row = model_.RowOf(current.get());
         if (row < 0) row = model_.RowOfName(current->Ime, current->SciWndData);
@@ -69,7 +69,7 @@ void CodeList::currentChanged(const QModelIndex& current, const QModelIndex& pre
     if (!showing_ && clicked) clicked();
 }
 
-// A current row that goes leaves none behind: its neighbour was not chosen by anyone.
+// When the current row is removed no row becomes current, because nobody has chosen its neighbour.
 void CodeList::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
     const int row = currentIndex().row();
     if (row >= start && row <= end) selectionModel()->clear();

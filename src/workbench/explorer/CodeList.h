@@ -10,18 +10,18 @@ class CodeList : public QTreeView {
 public:
     CodeList(const char* name, const QStringList& headers, const char* icon, LabelParts parts);
 
-    // Tells that another row became the current one, or none.
+    // Called when another row becomes current, or none.
     std::function<void()> clicked;
-    // Tells that the current row was chosen: by a double click or by Enter.
+    // Called when the current row is chosen by a double click or Enter.
     std::function<void()> chosen;
-    // Tells that the user wants out of the list.
+    // Called when the user wants to leave the list (Escape).
     std::function<void()> left;
 
     CodeModel& Rows() { return model_; }
-    // Brings the rows into agreement with the symbols. What is current stays so as long as its symbol is
-    // there, or one of the same name in its place; the view keeps its top row.
+    // Updates the rows from the symbols. The current row stays current while its symbol, or one of the same
+    // name, is listed; the view keeps its top row.
     void Show(const std::vector<SymbolPointer>& symbols);
-    // Null without a current row.
+    // Returns null without a current row.
     SymbolPointer Current() const { return model_.SymbolAt(currentIndex().row()); }
 
 protected:

@@ -1,4 +1,4 @@
-// Reconciling and sorting. A pass costs one look-up for each symbol; labels are made when they are shown.
+// Reconciling and sorting. A pass costs one look-up for each symbol; a label is made when it is shown.
 #include "workbench/explorer/CodeModel.h"
 
 #include "engine/Mod_Lexer.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// More changes than this are told as one.
+// More changes than this are signalled as one reset.
 constexpr std::size_t FewRows = 64;
 
 constexpr int LineDigits = 6;
@@ -19,7 +19,7 @@ constexpr int LineDigits = 6;
 
 std::string SymbolLabel(const Symbol& symbol, LabelParts parts) {
     std::string label = symbol.Ime;
-    // The main program, which no line declares, has no type.
+    // The main program is declared on no line and has no type.
     if (parts.suffix && symbol.Handle != 0) {
         if (symbol.Tip == TipCustom)
             label += "." + symbol.Tajp;
@@ -59,7 +59,7 @@ void CodeModel::Reconcile(const std::vector<SymbolPointer>& symbols) {
     std::vector<SymbolPointer> added;
     for (const SymbolPointer& symbol : symbols) {
         const auto at = rowOf_.find(symbol.get());
-        // A row whose file was renamed, or whose type was spelled anew, goes and comes again.
+        // A row whose file was renamed or whose type was respelled is removed and inserted again.
         if (at == rowOf_.end() || at->second->file != symbol->File || at->second->typeName != symbol->Tajp) {
             added.push_back(symbol);
         } else {
@@ -80,8 +80,8 @@ void CodeModel::Reconcile(const std::vector<SymbolPointer>& symbols) {
     Insert(std::move(rows));
 }
 
-// Gives the rows of symbols that have gone to new symbols that look the same: most edits of a declaring line
-// leave its names as they were, and then nothing on the screen changes.
+// Most edits of a declaring line leave its names alone. New symbols that look like removed ones therefore
+// take over their rows, and nothing on the screen changes.
 void CodeModel::TakeOver(std::vector<SymbolPointer>& added) {
     if (added.empty() || added.size() > FewRows) return;
     std::unordered_multimap<std::string, Row*> gone;
@@ -110,7 +110,7 @@ void CodeModel::Unlist(std::size_t from, std::size_t to) {
     for (std::size_t at = from; at < to; ++at) rowOf_.erase(rows_[at]->symbol.get());
 }
 
-// Takes out the rows that this pass did not meet, from the last to the first.
+// Removes the rows that this pass did not find, from the last to the first.
 void CodeModel::Remove() {
     for (std::size_t end = rows_.size(); end > 0;) {
         if (rows_[end - 1]->pass == pass_) {

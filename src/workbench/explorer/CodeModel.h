@@ -1,5 +1,5 @@
-// The rows of one list of the Code Explorer. They are brought into agreement with a symbol table and never
-// built anew, so a view keeps its place, its selection and what it has painted.
+// The rows of one list of the Code Explorer. Rows are reconciled with a symbol table and never rebuilt, so
+// that a view keeps its scroll position, its selection and what it has painted.
 #pragma once
 
 #include "engine/clsHash.h"
@@ -12,10 +12,10 @@
 #include <unordered_map>
 #include <vector>
 
-// What of a symbol its label tells.
+// Which parts of a symbol its label shows.
 struct LabelParts {
     bool suffix = false;    // the suffix of its value type, or the name of its custom type
-    bool arraySize = false; // of an array inside a variable
+    bool arraySize = false; // the size of an array inside a variable
 };
 std::string SymbolLabel(const Symbol& symbol, LabelParts parts);
 
@@ -25,17 +25,16 @@ public:
 
     CodeModel(const QStringList& headers, const char* icon, LabelParts parts, QObject* parent);
 
-    // Makes the rows those of the symbols, in whatever order these come. Where few of them differ each row
-    // comes and goes by itself; where many do the model is reset. A symbol that was declared anew under its
-    // old name and label takes its row over.
+    // Reconciles the rows with the symbols (in any order). A few differences are signalled row by row, many
+    // as a reset. A symbol declared anew under its old name and label takes over its row.
     void Reconcile(const std::vector<SymbolPointer>& symbols);
-    // Asks for the line (from 0; -1 unknown) of every row. Sorts again where the order is by lines.
+    // Sets the line (from 0; -1 unknown) of every row, and sorts again if the list is sorted by line.
     void SetLines(const std::function<int(const Symbol&)>& lineOf);
 
-    // Null outside the rows.
+    // Returns null for an index outside the rows.
     SymbolPointer SymbolAt(int row) const;
     int RowOf(const Symbol* symbol) const;
-    // The first row with a name of a view; -1 when there is none.
+    // Returns the first row with this name that belongs to the view; -1 if there is none.
     int RowOfName(const std::string& name, std::intptr_t view) const;
     int SortColumn() const { return sortColumn_; }
 
@@ -51,12 +50,12 @@ public:
 
 private:
     struct Row {
-        SymbolPointer symbol; // held, so that its address tells it from every other one
+        SymbolPointer symbol; // kept alive, so that its address identifies it
         std::string sortText; // the label in upper case
-        std::string file;     // as shown: a record's own may change
+        std::string file;     // the file name on show; the symbol's own may change
         std::string typeName;
         int line = -1;
-        unsigned pass = 0; // the pass that last met the symbol
+        unsigned pass = 0; // the last Reconcile that found the symbol
     };
     using RowPointer = std::unique_ptr<Row>;
 

@@ -1,4 +1,4 @@
-// Which project and which file the lists show, and when they are brought up to date.
+// Chooses the project and the file that the lists show, and updates the lists.
 #include "workbench/explorer/frmList.h"
 
 #include "documents/Options.h"
@@ -32,7 +32,7 @@ constexpr int NameColumnPixels = 170;
 constexpr int LinePadding = 16; // pixels
 constexpr int TypingPauseMilliseconds = 250;
 
-// The document of the active window. A view in the background that is being served is not meant.
+// The document of the active window, which is not always the view that is being served.
 const frmDoc* ActiveDocument() {
     const DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
     return window == nullptr ? nullptr : dynamic_cast<frmDoc*>(window->HostedForm());
@@ -132,7 +132,7 @@ void frmList::Fill(Listed& listed, const std::shared_ptr<ClsProject>& project) {
                        UCase(symbol->Ime).find(filter_) == std::string::npos;
             });
         listed.list->Show(symbols);
-        // In file order the lines give the new rows their place; else they can wait for a pause.
+        // New rows of a list in file order need their lines at once; otherwise the lines wait for a pause.
         if (other || listed.list->Rows().SortColumn() == CodeModel::Line) RefreshLines();
         listed.filter = filter_;
         project.get()->*construct.dirty = false;
@@ -143,7 +143,7 @@ void frmList::Fill(Listed& listed, const std::shared_ptr<ClsProject>& project) {
         FillSide();
 }
 
-// In file mode the functions stand as in the file where the user wants that, else by their names.
+// Functions of a single file are listed in file order if the user has chosen that, else by name.
 void frmList::SetFunctionOrder() {
     const bool inFileOrder = Options::gUnsortedFunctions != 0 && ShowOnlyFile;
     if (inFileOrder == inFileOrder_) return;
@@ -155,7 +155,7 @@ frmList::Side* frmList::ShownSide() {
     return construct_ == Functions ? &locals_ : construct_ == Types ? &fields_ : nullptr;
 }
 
-// Shows the locals of the current function, or the fields of the current type.
+// Updates the locals of the current function, or the fields of the current type.
 void frmList::FillSide() {
     Guarded(construct_ == Functions ? "lvFunctions_ItemClick" : "lvTypes_ItemClick", "frmList", [this] {
         Side* side = ShownSide();
@@ -180,7 +180,7 @@ void frmList::RefreshLines() {
 void frmList::SetFileColumn(bool hidden) {
     for (const Listed& listed : lists_) {
         listed.list->setColumnHidden(CodeModel::File, hidden);
-        // Without files the names take the width.
+        // Without a file column the names get the full width.
         listed.list->header()->setSectionResizeMode(CodeModel::Name,
                                                     hidden ? QHeaderView::Stretch : QHeaderView::Interactive);
         if (hidden) continue;

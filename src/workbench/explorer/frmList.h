@@ -1,5 +1,5 @@
-// The lists of the Code Explorer: one for each kind of symbol, with the locals of a function and the fields
-// of a type beside theirs. Only the shown list is kept up to date; another one catches up when it is shown.
+// The lists of the Code Explorer: one for each kind of symbol; the locals of a function and the fields of a
+// type have a list beside it. Only the visible list is kept up to date; a hidden one catches up when shown.
 #pragma once
 
 #include "engine/ClsProject.h"
@@ -14,7 +14,7 @@
 
 class frmDoc;
 
-// One kind of symbol that is listed. Its name is the key of its button.
+// A kind of symbol that has a list. Its name is also the name of its button.
 struct Construct {
     const char* name;
     const char* list;
@@ -30,22 +30,22 @@ class frmList : public QStackedWidget {
 public:
     frmList();
 
-    // Brings the shown list into agreement with its table. Lowers the table's dirty flag. While nobody can
-    // see the lists nothing is done; they catch up when they are shown.
+    // Updates the visible list from its table and lowers the table's dirty flag. Does nothing while the pane
+    // is hidden; the list catches up when the pane is shown.
     void PuniLista();
-    // The file column of the seven lists: of no width, or 4000 twips wide.
+    // Sets the file column of the seven lists to no width, or to 4000 twips.
     void HideFileColumn() { SetFileColumn(true); }
     void UnHideFileColumn() { SetFileColumn(false); }
-    // Chooses the construct that PuniLista shows. An unknown name does nothing.
+    // Selects the construct that PuniLista updates. An unknown name does nothing.
     void SetConstruct(const std::string& name);
     const char* ShownConstruct() const { return Constructs[construct_].name; }
-    // Leaves only names that contain this text (bytes as in the source, without regard to case).
+    // Lists only names that contain this text (bytes as in the source, compared without case).
     void SetFilter(const std::string& text);
     CodeList& ShownList() { return *lists_[construct_].list; }
-    // Asks for the line of every function that is listed. Runs by itself when typing pauses.
+    // Updates the line number of every listed function. Also runs by itself when typing pauses.
     void RefreshLines();
 
-    // Tells that the user wants out of the lists.
+    // Called when the user wants to leave the lists (Escape).
     std::function<void()> LeaveList;
     bool ShowOnlyFile = false; // only the symbols of the active document
     QString LastVisibleControl;
@@ -54,17 +54,17 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    // A list and what it last showed.
+    // A list with the project and the filter that it showed last.
     struct Listed {
         CodeList* list = nullptr;
         std::weak_ptr<ClsProject> project;
         std::string filter;
     };
-    // The list beside another one.
+    // The list of locals or fields beside a main list.
     struct Side {
         CodeList* list = nullptr;
         bool ClsProject::*dirty = nullptr;
-        const Symbol* of = nullptr; // whose names it shows
+        const Symbol* of = nullptr; // the function or type whose names are listed
     };
 
     void Connect(CodeList& list);

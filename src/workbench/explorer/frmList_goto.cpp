@@ -1,4 +1,4 @@
-// From an entry of the Code Explorer to its place in the source.
+// Goes from an entry of the Code Explorer to its place in the source.
 #include "workbench/explorer/frmList.h"
 
 #include "documents/Mod_File.h"
@@ -24,13 +24,13 @@ frmDoc* DocumentOf(const ClsProject& project, const Symbol& symbol) {
     return nullptr;
 }
 
-// The locals of a function, the fields of a type.
+// The locals of a function, or the fields of a type.
 const clsHash& NamesIn(const Symbol& owner) {
     const auto* function = dynamic_cast<const ClsFunkcija*>(&owner);
     return function ? *function->Locals : *static_cast<const ClsType&>(owner).Fields;
 }
 
-// The folder, with its separator, that a path in an Include starts from.
+// The folders, each with its separator, in which the path of an Include is looked up.
 std::vector<std::string> IncludeFolders(const ClsProject& project, const Symbol& include) {
     std::vector<std::string> folders;
     if (const frmDoc* document = DocumentOf(project, include))
@@ -60,8 +60,8 @@ void frmList::GotoItem(const CodeList& list) {
     });
 }
 
-// Opens the file of a symbol that was closed, which declares all of its symbols anew, and finds this one
-// among them. `owner`: the function or type in whose list it stands. Null when there is none any more.
+// Opens the closed file of a symbol, which declares all its symbols anew, and returns the new record of this
+// one. `owner` is the function or type that it is listed under. Returns null if the symbol is gone.
 SymbolPointer frmList::Reopened(const ClsProject& project, const SymbolPointer& symbol,
                                 const SymbolPointer& owner) {
     const clsHash& table = project.*Constructs[construct_].table;
@@ -70,13 +70,13 @@ SymbolPointer frmList::Reopened(const ClsProject& project, const SymbolPointer& 
     if (!OpenFileOf(symbol)) return nullptr;
     const std::intptr_t view = gActiveDoc->SciEdi_WndData;
     if (!owner) return NamesakeOf(view, table, symbol->Ime, before);
-    // The main program is of no file.
+    // The main program belongs to no file.
     const SymbolPointer again =
         owner->Handle == 0 ? owner : NamesakeOf(view, table, owner->Ime, ownersBefore);
     return again ? NamesakeOf(view, NamesIn(*again), symbol->Ime, before) : nullptr;
 }
 
-// Opens the file of a symbol whose document was closed. False when it could not be opened.
+// Opens the closed file of a symbol. Returns false if that fails.
 bool frmList::OpenFileOf(const SymbolPointer& symbol) {
     const auto project = lists_[construct_].project.lock();
     if (project->SingleFile) return false;

@@ -1,4 +1,4 @@
-// The Code Explorer pane: its command bar and its filter.
+// The Code Explorer pane: its buttons and its filter.
 #include "workbench/explorer/frmMainList.h"
 
 #include "editor/frmDoc.h"
@@ -18,11 +18,11 @@
 namespace {
 
 constexpr const char* HelpWindow = "HELP WINDOW";
-constexpr QSize PaneSize(320, 420); // where the arrangement says nothing
+constexpr QSize PaneSize(320, 420); // used if the arrangement has no size for the pane
 constexpr int Spacing = 2;
 
-// Asks for a pane of a useful width, and hands the focus on to the list on show. As a focus proxy that list
-// would make Tab pass over what stands in front of it.
+// Asks for a useful width and passes the focus on to the visible list. A focus proxy would do that too, but
+// then Tab would skip the controls above the list.
 class Pane : public QWidget {
 public:
     QSize sizeHint() const override { return PaneSize; }
@@ -39,7 +39,7 @@ bool HelpIsActive() {
 void FocusDocument() {
     const frmDoc* document = ActiveForm();
     if (!document) return;
-    // The pane may float, in a window that is the active one.
+    // A floating pane is in a window of its own, which is the active one.
     static_cast<QWidget*>(document->View->NativeWidget())->window()->activateWindow();
     document->View->GrabFocus();
 }
@@ -92,8 +92,8 @@ frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new Q
     CheckButtons();
 }
 
-// The pane's widget belongs to whoever placed it; without a place it goes with the form, unless the toolkit
-// has gone already.
+// The pane's widget belongs to its parent. Without a parent the form deletes it, unless the toolkit has
+// already shut down.
 frmMainList::~frmMainList() {
     if (pane_ && !pane_->parent() && qApp) delete pane_;
 }
@@ -108,7 +108,7 @@ QToolButton* frmMainList::AddButton(const char* name, const std::function<void()
     button->setAutoRaise(true);
     connect(button, &QToolButton::clicked, this, [this, clicked] {
         Guarded("DSCommands_Click", "frmMainList", clicked);
-        CheckButtons(); // a button that was refused is not checked
+        CheckButtons(); // the toolkit has checked a button whose click was refused
     });
     return button;
 }
@@ -155,7 +155,7 @@ void frmMainList::SetScope(bool onlyFile) {
     if (HelpIsActive()) return;
     lists_->ShowOnlyFile = onlyFile;
     AllConstructsDirty();
-    // A file column says nothing where there is one file.
+    // A list of one file needs no file column.
     onlyFile ? lists_->HideFileColumn() : lists_->UnHideFileColumn();
     PuniLista();
 }
@@ -165,7 +165,7 @@ bool frmMainList::eventFilter(QObject* watched, QEvent* event) {
     return FilterKey(static_cast<QKeyEvent*>(event)->key());
 }
 
-// Answers whether the key was taken.
+// Returns true if the key was handled.
 bool frmMainList::FilterKey(int key) {
     switch (key) {
     case Qt::Key_Escape: filter_->text().isEmpty() ? FocusDocument() : filter_->clear(); return true;

@@ -15,24 +15,24 @@ class frmList;
 
 class frmMainList : public QObject, public Form {
 public:
-    // The one pane, made on first use.
+    // The only pane of this kind, created on first use.
     static frmMainList& Instance();
     frmMainList();
     ~frmMainList() override;
 
     void* NativeWidget() override;
 
-    // Raises all dirty flags of the current project, so that every list is reconciled when it is shown next.
+    // Raises all dirty flags of the current project, so that each list is updated when it is shown next.
     static void AllConstructsDirty();
-    // Refreshes the shown list.
+    // Updates the visible list.
     void PuniLista();
-    // AllConstructsDirty and PuniLista: for changes that no flag tells of.
+    // AllConstructsDirty followed by PuniLista, for changes that raise no flag.
     void Refresh();
-    // Chooses a construct by its name, as a click on its button does.
+    // Selects a construct by its name, as a click on its button does.
     void ShowConstruct(const std::string& name);
-    // Gives the list that is shown the keyboard focus.
+    // Gives the visible list the keyboard focus.
     void FocusList();
-    // Whether only the active document's symbols are listed.
+    // True if only the symbols of the active document are listed.
     bool ShowOnlyFile() const;
 
 protected:

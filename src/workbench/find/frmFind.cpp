@@ -1,4 +1,4 @@
-// What the buttons of the find dialog do. Its controls are made in frmFind_form.cpp.
+// The actions of the find dialog. Its controls are made in frmFind_form.cpp.
 #include "workbench/find/frmFind.h"
 
 #include "documents/ClsMRU.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int LongestSelection = 300; // characters; a longer one is no text to look for
+constexpr int LongestSelection = 300; // characters; a longer selection is no search text
 
 QPointer<frmFind> instance;
 
@@ -38,7 +38,7 @@ std::string WordAtCaret() {
         Mod_Sci::GetTextRange(Mod_Sci::WordStartPosition(caret, 1), Mod_Sci::WordEndPosition(caret, 1)));
 }
 
-// The selection where it is a text to look for, else the word at the caret.
+// Returns the selection if it can be a search text, else the word at the caret.
 std::string TextAtCaret() {
     if (!DocumentActive()) return {};
     const auto length = Mod_Sci::GetSelectionEnd() - Mod_Sci::GetSelectionStart();
@@ -120,7 +120,7 @@ bool frmFind::Search(bool interactive, bool (FindRun::*search)(const FindOptions
     return found;
 }
 
-// Puts the texts in the boxes first in their lists, which are stored at once.
+// Moves the texts in the boxes to the top of their lists and stores the lists.
 void frmFind::Remember() {
     MRUFind.Add(Text(cboFind));
     MRUFind.Save();

@@ -1,5 +1,4 @@
-// The dialog that finds, replaces and counts. It stays open beside the text, and is hidden rather than
-// closed.
+// The dialog that finds, replaces and counts. It stays open beside the text, and is hidden instead of closed.
 #pragma once
 
 #include "editor/FindRun.h"
@@ -14,15 +13,16 @@
 
 class frmFind : public QDialog {
 public:
-    // The one dialog, made on first use.
+    // The only find dialog, created on first use.
     static frmFind& Instance();
-    // Stores the options and ends the dialog, where there is one.
+    // Stores the options and deletes the dialog, if there is one.
     static void Unload();
 
-    // Fills the dialog from the text round the caret and shows it; `replaceMode`: with what replaces.
+    // Fills the dialog from the text at the caret and shows it. `replaceMode` also shows the replace
+    // controls.
     void StartFind(bool replaceMode);
-    // Select the next or previous hit; without a text to look for they show the dialog. `interactive`: with
-    // questions and messages.
+    // Selects the next or previous hit and returns whether there is one. Without a search text the dialog is
+    // shown. `interactive` allows questions and messages.
     bool FindNext(bool interactive);
     bool FindPrevious(bool interactive);
 

@@ -1,4 +1,4 @@
-// The controls of the find dialog, what they were when it was closed last, and its place on the screen.
+// The controls of the find dialog, its stored options, and its place on the screen.
 #include "workbench/find/frmFind.h"
 
 #include "documents/ClsMRU.h"
@@ -22,7 +22,7 @@ constexpr int TwipsPerPixel = 15;
 constexpr int FieldWidth = 320;
 constexpr int FindEntries = 5;
 constexpr int ReplaceEntries = 10;
-constexpr int Gap = 12; // pixels between the dialog and a hit that it makes way for
+constexpr int Gap = 12; // pixels between the dialog and the hit that it uncovers
 constexpr const char* Section = "FindOptions";
 
 int Stored(const char* key, int byDefault) {
@@ -38,7 +38,7 @@ QComboBox* Field(const char* name, const QString& spoken) {
     box->setEditable(true);
     box->lineEdit()->setAccessibleName(spoken);
     box->setInsertPolicy(QComboBox::NoInsert);
-    box->setCompleter(nullptr); // what is typed is what is looked for
+    box->setCompleter(nullptr); // a completed text would be searched instead of the typed one
     box->setMaxVisibleItems(ReplaceEntries);
     box->setMinimumWidth(FieldWidth);
     return box;
@@ -47,7 +47,7 @@ QComboBox* Field(const char* name, const QString& spoken) {
 QPushButton* Button(const char* name, const QString& caption) {
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
-    // Else the one that was clicked last would take Enter from the one that finds.
+    // An auto-default button would take Enter after a click, and Enter has to find.
     button->setAutoDefault(false);
     return button;
 }
@@ -58,7 +58,7 @@ QCheckBox* Check(const char* name, const QString& caption) {
     return box;
 }
 
-// Where the dialog may stand whole.
+// Returns the place nearest to the given one at which the whole dialog is on the screen.
 QPoint Inside(QPoint place, QSize size, const QRect& screen) {
     place.setX(std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - size.width())));
     place.setY(std::clamp(place.y(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
@@ -70,7 +70,7 @@ QPoint Inside(QPoint place, QSize size, const QRect& screen) {
 frmFind::frmFind(QWidget* parent) : QDialog(parent) {
     setObjectName("frmFind");
     setWindowTitle(tr("Find"));
-    // It has a size of its own and no place among the windows.
+    // The dialog has a fixed size and no minimise or maximise button.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint);
     MakeControls();
@@ -98,7 +98,8 @@ void frmFind::MakeControls() {
     lblStatus = new QLabel;
     lblStatus->setObjectName("lblStatus");
     lblStatus->setTextFormat(Qt::PlainText);
-    lblStatus->setMinimumHeight(lblFind->sizeHint().height()); // the dialog keeps its size without a result
+    lblStatus->setMinimumHeight(
+        lblFind->sizeHint().height()); // without it the dialog would shrink when there is no result
     cmdFind = Button("cmdFind", tr("&Find"));
     cmdFindPrev = Button("cmdFindPrev", tr("Find Previous from cursor"));
     cmdInsertWordUnderCursor = Button("cmdInsertWordUnderCursor", tr("Insert word under cursor"));
@@ -214,14 +215,14 @@ void frmFind::Connect() {
     cboReplace->installEventFilter(this);
 }
 
-// Enter replaces in the field that is there for it, and finds everywhere else.
+// Enter replaces in the replace field, and finds in every other field.
 bool frmFind::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) cmdReplace->setDefault(true);
     if (event->type() == QEvent::FocusOut) cmdFind->setDefault(true);
     return QDialog::eventFilter(watched, event);
 }
 
-// Tab stops at the option that is chosen, and the arrow keys choose among them.
+// Tab stops at the checked option of a group; the arrow keys select another one.
 void frmFind::StopAtChosen(const QButtonGroup& group) {
     for (QAbstractButton* button : group.buttons())
         button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
@@ -281,7 +282,7 @@ void frmFind::hideEvent(QHideEvent* event) {
     QDialog::hideEvent(event);
 }
 
-// Where it was closed last, else in the upper right of the main window.
+// Moves the dialog to its last place, or else to the upper right of the main window.
 void frmFind::Place() {
     const QWidget* main = parentWidget();
     const QScreen* screen = main ? main->screen() : QApplication::primaryScreen();
@@ -297,7 +298,7 @@ void frmFind::Place() {
     move(Inside(place, size(), screen->availableGeometry()));
 }
 
-// A hit under the dialog would have been found for nobody.
+// Moves the dialog if it covers the hit.
 void frmFind::RepositionDialog(std::intptr_t start, std::intptr_t end) {
     if (!isVisible()) return;
     const auto* view = static_cast<QWidget*>(ActiveForm()->NativeWidget());

@@ -1,4 +1,4 @@
-// The dialog that asks for a line number. A number that the document does not have leaves it open.
+// The dialog that asks for a line number. It stays open if the document has no such line.
 #include "workbench/find/frmGotoLine.h"
 
 #include "editor/Mod_SciFun_goto.h"
@@ -41,7 +41,7 @@ void frmGotoLine::cmdOK_Click() {
     Guarded("cmdOK_Click", "frmGotoLine", [this] {
         const long line = std::strtol(txtLine_->text().toUtf8().constData(), nullptr, 10) - 1;
         if (line < 0 || line >= lines_) {
-            // The field says it too: it has the focus, and a reader tells of that one.
+            // The field has the focus, so a screen reader reads the field's description.
             lblWrong_->setText(tr("There is no line \"%1\".").arg(txtLine_->text()));
             lblWrong_->show();
             txtLine_->setAccessibleDescription(lblWrong_->text());

@@ -1,4 +1,4 @@
-// The arrangement of the main window that the program comes with.
+// The default arrangement of the main window.
 #include "workbench/frame/FactoryLayout.h"
 
 #include "host/Dialogs.h"

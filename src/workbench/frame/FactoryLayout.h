@@ -1,9 +1,9 @@
-// The arrangement of the main window that the program comes with.
+// The default arrangement of the main window.
 #pragma once
 
-// The arrangement as it was when the program was built, in the form of a layout file.
+// Returns the arrangement that was built in, as the text of a layout file.
 const char* FactoryLayoutText();
 
-// Loads "Layout.mp" below AppDir; where that is missing or damaged it says so and takes the built-in text, so
-// that there always is a window with menus.
+// Loads "Layout.mp" below AppDir. If the file is missing or damaged, says so and loads the built-in text, so
+// that a window always has menus.
 void LoadFactoryLayout();

@@ -1,4 +1,4 @@
-// Tells the first press of a key held together with Control from the presses that follow.
+// Distinguishes the first press of a key held together with Control from the repeated presses.
 #include "workbench/frame/KeyWatch.h"
 
 #include <QApplication>
@@ -16,7 +16,7 @@ protected:
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::KeyRelease && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Control)
             released = true;
-        // The release may go to another program.
+        // Another program may get the release.
         if (event->type() == QEvent::ApplicationDeactivate) released = true;
         return false;
     }

@@ -1,5 +1,5 @@
-// Tells the first press of a key held together with Control from the presses that follow.
+// Distinguishes the first press of a key held together with Control from the repeated presses.
 #pragma once
 
-// True when Control was let go since the last call; the first call is true.
+// Returns true if Control was released since the last call. The first call returns true.
 bool ControlWasReleased();

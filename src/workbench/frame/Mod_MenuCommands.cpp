@@ -1,4 +1,4 @@
-// The routines behind commands of the main window itself.
+// The routines of commands that concern the main window itself.
 #include "workbench/frame/Mod_MenuCommands.h"
 
 #include "documents/ClsMRU.h"
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int StrictStyle = 16;
 
-// Styles are written for lines that come into view, so the ones on the screen must count as new.
+// Only lines that come into view are coloured, so the visible lines have to be treated as new.
 void RestyleVisible() {
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources) {
@@ -71,7 +71,7 @@ void cboCompilers() {
     Guarded("cboCompilers", "Mod_MenuCommands", [] {
         DockCommand* box = gHost.dock->FindCommand("cboCompilers");
         if (!box || !gActiveCompiler || !gCurrentProject) return;
-        // A project can name one compiler while another stands in for it.
+        // A project can name one compiler while another one is active as its substitute.
         if (EqualNoCase(box->Text(), gCurrentProject->Compiler) &&
             EqualNoCase(box->Text(), gActiveCompiler->Name))
             return;
@@ -83,7 +83,8 @@ void cboCompilers() {
         ClsProject& project = *gCurrentProject;
         if (!project.SingleFile && project.Compiler != compiler->Name) project.Dirty = true;
         project.Compiler = compiler->Name;
-        if (compiler == gActiveCompiler) return; // it stood in for one that is not known here
+        if (compiler == gActiveCompiler)
+            return; // it was active already, as the substitute of an unknown compiler
         gActiveCompiler = compiler;
         for (const auto& source : project.Sources) {
             auto& document = static_cast<frmDoc&>(*source.record);
@@ -109,7 +110,7 @@ void ShowPane(const char* pane) {
 void TogglePane(const char* pane, bool byKey) {
     DockPane* found = gHost.dock->FindPane(pane);
     if (!found) return;
-    // One that slid out goes back when it loses the focus.
+    // A rolled-away pane slides back when it loses the focus.
     if (byKey && found->AutoHidden() && found->HasFocus()) return FocusText();
     if (found->Visible() && !found->AutoHidden() && (!byKey || found->HasFocus()))
         found->Hide();
@@ -139,7 +140,7 @@ void NextFileTab(bool byKey) {
     Guarded("NextFileTab", "Mod_MenuCommands", [byKey] {
         DockStudio& dock = *gHost.dock;
         if (dock.DocumentWindows().size() < 2) return;
-        // While Control stays down, further presses walk on through the group, as the menu always does.
+        // While Control stays down, further presses go on through the group, as the menu command always does.
         if (Options::gTabbingStartsWithPrevious == 0 || !byKey || !ControlWasReleased())
             return dock.NextTab(1);
         RecentTabs& tabs = frmMain::Instance().Tabs();

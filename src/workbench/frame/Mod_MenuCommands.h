@@ -11,52 +11,54 @@ namespace Mod_MenuCommands {
 
 struct Click {
     DockCommand& command;
-    int item; // the entry of a list command, else -1
+    int item; // the clicked entry of a list command, else -1
 };
 
-// One command. A command without a routine is known and does nothing.
+// A command of the program. A command without a routine is known but does nothing.
 struct RoutedCommand {
     std::string_view name;
     void (*run)(const Click& click);
-    bool cancelFirst = false; // ends a completion list and a call tip before it runs
+    bool cancelFirst = false; // closes a completion list and a call tip before the routine runs
 };
 
 // Every command of the program, in routing order.
 const std::vector<RoutedCommand>& Routes();
 
-// Runs the routine of a command. One that needs a document does nothing without it; an unknown name
-// does nothing. Failures go on to the caller.
+// Runs the routine of a command. Does nothing for an unknown name, or if the command needs a document and
+// there is none. Failures propagate to the caller.
 void Route(DockCommand& command, int item);
 
-// Flips strict mode and gives the text the focus.
+// Switches strict mode and focuses the text.
 void ChangeStrictMode();
-// Brings caption, BadStyle and the colours on the screen up to the check mark, which an arrangement may have
+// Updates caption, BadStyle and visible colours from the command's check mark, which an arrangement may have
 // set.
 void FollowStrictMark();
-// Gives the active document the focus; nothing happens without one.
+// Focuses the active document, if there is one.
 void FocusText();
-// Makes the compiler that was picked in the box the active project's one; the old name comes back when
-// its keywords cannot be loaded.
+// Makes the compiler selected in the box the active project's compiler. Restores the old name if the keywords
+// of the new one cannot be loaded.
 void cboCompilers();
-// Makes the text in the box the first of those to choose from. The project that it was typed for has it
-// already, and another one may be the active one by now.
+// Adds the text in the box to the recent command lines. The project already has that text; another project
+// may be active by now.
 void cboCommandLine();
-// Shows a pane that is hidden, and hides one that is shown; by key only one that has the focus.
+// Toggles a pane. By key, a visible pane without the focus gets the focus instead of being hidden.
 void TogglePane(const char* pane, bool byKey);
-// Shows a pane and gives it the focus.
+// Shows and focuses a pane.
 void ShowPane(const char* pane);
 void ToggleStatusBar();
-// Shows the Code Explorer's list of that name and gives it the focus. Asks for a line and goes there.
+// ExploreFocusOn shows and focuses the Code Explorer's list of that name; AskGotoLine asks for a line to go
+// to.
 void ExploreFocusOn(const std::string& word);
 void AskGotoLine();
 void CloseFile();
-// Closes the tab in front, whatever it shows, as its own button does.
+// Closes the active tab, whatever it shows, as the tab's own button does.
 void CloseTab();
-// The next tab of the group; by key the one before with gTabbingStartsWithPrevious.
+// Activates the next tab of the group; by key, and with gTabbingStartsWithPrevious, the previously active
+// tab.
 void NextFileTab(bool byKey);
 void ActivateWindow(int index);
 
-// Layouts 1 to 3: the arrangement in a file and the window's place in the settings store.
+// Layouts 1 to 3: an arrangement in a file, with the window's place in the settings store.
 void SaveAsLayout(int number);
 void SwitchToLayout(int number);
 void ResetLayout();

@@ -1,4 +1,4 @@
-// The commands that lead to a list of the Code Explorer and to a line.
+// The commands that go to a list of the Code Explorer or to a line.
 #include "workbench/frame/Mod_MenuCommands.h"
 
 #include "editor/frmDoc.h"
@@ -15,7 +15,7 @@ void ExploreFocusOn(const std::string& word) {
         frmMainList::Instance().ShowConstruct(word);
         DockPane* pane = gHost.dock->FindPane("CodeExplorer");
         if (!pane) return;
-        // A list that nobody sees must not get the keys.
+        // A hidden list must not receive keys.
         if (!pane->Visible() || pane->AutoHidden()) pane->Show();
         frmMainList::Instance().FocusList();
     });

@@ -1,4 +1,4 @@
-// Layouts: an arrangement in a file below AppDir, and the window's place in a section of the settings store.
+// Layouts: an arrangement in a file below AppDir; the window's place is a section of the settings store.
 #include "workbench/frame/Mod_MenuCommands.h"
 
 #include "documents/RecentFiles.h"
@@ -31,7 +31,7 @@ int Stored(const std::string& section, const char* key, int byDefault) {
     return static_cast<int>(std::lround(std::strtod(text.c_str(), nullptr)));
 }
 
-// Loads an arrangement while nothing is painted, and brings it up to date.
+// Loads an arrangement without painting the steps in between, and adapts it to the present commands.
 void LoadArrangement(const std::function<void()>& load) {
     const StillWindow still;
     load();
@@ -68,7 +68,7 @@ void Mod_MenuCommands::SwitchToLayout(int number) {
                 throw Failure(FailureFileNotFound, path + ": not there");
             LoadArrangement([&] { gHost.dock->LoadLayout(path); });
         } catch (const Failure&) {
-            // Nothing was changed: an arrangement is read whole before anything of it is used.
+            // Nothing has changed yet: an arrangement is read completely before any of it is applied.
             gHost.dialogs->Show({.text = "Layout" + std::to_string(number) +
                                          " is not created yet or is incorrect UI version !",
                                  .icon = MessageIcon::Exclamation});

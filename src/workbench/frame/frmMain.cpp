@@ -51,7 +51,7 @@ void frmMain::Form_Load() {
         try {
             gHost.dock->LoadLayout(AppPath("Layouts\\Layout0.8_0.mp"));
         } catch (const Failure&) {
-            // No arrangement of the user's own, or none that can be read: the factory's stands.
+            // The user has no arrangement, or it cannot be read: the factory's arrangement stays.
         }
         AdditionalUISetup();
         AddDockForms(true);
@@ -120,7 +120,7 @@ void frmMain::AddDockForms(bool addNew) {
     Guarded("AddDockForms", "frmMain", [&] {
         AttachDockForm("Output", "Output", "utilities-terminal", frmOutput::Instance(), addNew);
         AttachDockForm("CodeExplorer", "Code Explorer", "view-list-tree", frmMainList::Instance(), addNew);
-        // A pane that is not there cannot be shown.
+        // The arrangement lacks the pane, so there is nothing to show.
         for (const auto& toggle : PaneToggles)
             if (DockCommand* command = gHost.dock->FindCommand(toggle.command))
                 command->SetVisible(gHost.dock->FindPane(toggle.pane) != nullptr);
@@ -157,7 +157,7 @@ void frmMain::SetNotice(const std::string& text) {
     });
 }
 
-// What stands in the box is what the next run gets, committed or not.
+// The next run gets the text in the box, whether the user committed it or not.
 void frmMain::DS_ComboTextChanged(DockCommand& command) {
     if (command.Name() == "cboCommandLine" && gCurrentProject)
         Mod_Project::SetCommandLine(*gCurrentProject, command.Text());
@@ -176,7 +176,7 @@ void frmMain::DS_ShortcutFiring(DockCommand& command, bool& cancel) {
     cancel = !DocumentActive();
     if (cancel || Mod_Sci::GetFocus()) return;
     cancel = true;
-    // Enter means something in every list and box.
+    // Every list and every box uses Enter itself.
     if (command.Name() != "New Line") gHost.desktop->Beep();
 }
 

@@ -1,5 +1,4 @@
-// The main window: what happens when a command is chosen, a tab comes to the front or closes, and which
-// commands are enabled.
+// The main window: handles commands and tabs, and enables commands.
 #pragma once
 
 #include "editor/EditorCalls.h"
@@ -9,10 +8,10 @@
 
 class frmDoc;
 
-// The key of the help tab, which no handler takes for a document.
+// The key of the help tab, which holds no document.
 inline constexpr const char* HelpWindowKey = "HELP WINDOW";
 
-// The keys of the document windows that were active last; NextFileTab swaps between them.
+// The keys of the last active document windows; NextFileTab swaps between them.
 struct RecentTabs {
     std::string current;
     std::string previous;
@@ -21,33 +20,33 @@ struct RecentTabs {
 
 class frmMain : public DockStudioEvents {
 public:
-    // The one main window, made on first use.
+    // The only main window, created on first use.
     static frmMain& Instance();
 
-    // Builds the window: publishes the instance, loads the arrangement, adds panes, fills the boxes.
+    // Builds the window: publishes the instance, loads the arrangement, adds the panes, fills the boxes.
     void Form_Load();
-    // The document of the active window; null when there is none or the help tab is active.
+    // Returns the document of the active window; null if no window or the help tab is active.
     frmDoc* ActiveDocument();
-    // Enables commands by the active document.
+    // Enables commands according to the active document.
     void UpdateCommandUI();
-    // Enables "Undo" and "Redo" alone, because it runs on every keystroke.
+    // Enables only "Undo" and "Redo", because this runs on every keystroke.
     void UpdateSciCommandUI();
-    // Brings an older arrangement up to the present set of commands, and fetches what is used often.
+    // Adds the commands that an older arrangement lacks, and looks up those that are used often.
     void AdditionalUISetup();
-    // Makes the commands repeat that are held down.
+    // Makes commands repeat while their key is held down.
     void ApplyCommandsAutoRepeat();
-    // Puts the forms into their panes; `addNew` makes panes that the arrangement lacks.
+    // Puts the forms into their panes. `addNew` creates panes that the arrangement lacks.
     void AddDockForms(bool addNew);
-    // Puts the names of all compilers into their box.
+    // Fills the compiler box with the names of all compilers.
     void FillCompilers();
-    // Puts the command lines that were used last into theirs.
+    // Fills the command line box with the recent command lines.
     void PopulateCboCommandLine();
 
     void SetPositionText(const std::string& text);
     void SetFunctionText(const std::string& text);
-    // The tip box: the call or the scope at the caret.
+    // Shows the call or the scope at the caret in the tip box.
     void SetTipText(const TipText& tip);
-    // A word (UTF-8) in its place for a few seconds.
+    // Shows a word (UTF-8) in the tip box for a few seconds.
     void SetNotice(const std::string& text);
     RecentTabs& Tabs() { return tabs_; }
 
@@ -83,5 +82,5 @@ private:
     DockCommand* redo_ = nullptr;
     RecentTabs tabs_;
     TipText tip_;
-    int noticeTimer_ = 0; // runs while a notice stands in the tip box
+    int noticeTimer_ = 0; // runs while the tip box shows a notice
 };

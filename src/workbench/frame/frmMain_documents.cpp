@@ -1,5 +1,4 @@
-// What happens when a document window comes to the front, is clicked, or closes, and when a command is
-// chosen.
+// Handles document windows that are activated, clicked and closed, and commands that are chosen.
 #include "workbench/frame/frmMain.h"
 
 #include "documents/CloseFiles.h"
@@ -33,7 +32,7 @@ frmDoc* DocumentOf(const DocumentWindow& window) { return dynamic_cast<frmDoc*>(
 
 bool SingleFile() { return !gCurrentProject || gCurrentProject->SingleFile; }
 
-// Makes the document's project and its compiler the present ones.
+// Activates the document's project and its compiler.
 void TakeCompilerOf(frmDoc& document, ClsProject& project) {
     if (project.Compiler.empty() && gActiveCompiler) project.Compiler = gActiveCompiler->Name;
     if (!project.Compiler.empty()) Mod_Main::SetActiveCompiler(project.Compiler);
@@ -67,7 +66,7 @@ void frmMain::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
 
 void frmMain::ActivateDocument(frmDoc& document) {
     MakeActive(&document);
-    // What the last document left behind says nothing of this one.
+    // The parser's state of the previous document is meaningless for this one.
     Coloring = false;
     ACForced = false;
     CurrentFunctionName.clear();
@@ -76,7 +75,7 @@ void frmMain::ActivateDocument(frmDoc& document) {
     document.State.mJustActivated = true;
     if (gCurrentProject) {
         TakeCompilerOf(document, *gCurrentProject);
-        // Another file is another set of symbols.
+        // The lists show one file, and that file has changed.
         if (frmMainList::Instance().ShowOnlyFile()) frmMainList::Instance().Refresh();
         SetBox("cboCompilers", gActiveCompiler ? gActiveCompiler->Name : std::string());
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
@@ -109,13 +108,13 @@ void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {
         window.Attach(nullptr);
         if (document) UnloadDocument(document);
         gHost.dock->DropDocumentWindow(window);
-        frmMainList::Instance().PuniLista(); // a project that has gone is forgotten
+        frmMainList::Instance().PuniLista(); // the lists let go of a closed project
         if (!ActiveDocument()) ForgetDocument();
         UpdateCommandUI();
     });
 }
 
-// The status bar and the boxes tell of a document; without one there is nothing to tell.
+// Clears what the status bar and the boxes show of a document.
 void frmMain::ForgetDocument() {
     SetPositionText({});
     SetFunctionText({});

@@ -1,4 +1,4 @@
-// What a stored arrangement needs before this program can use it.
+// Adapts a stored arrangement to this version of the program.
 #include "workbench/frame/frmMain.h"
 
 #include "documents/Options.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-// Adds a command that older arrangements lack. Null when it is there already.
+// Adds a command that older arrangements lack. Returns null if the arrangement already has it.
 DockCommand* AddIfNew(const char* name, const char* caption, const char* category, bool popup = false) {
     try {
         return &gHost.dock->AddCommand(name, caption, category, popup);
@@ -19,7 +19,7 @@ DockCommand* AddIfNew(const char* name, const char* caption, const char* categor
     }
 }
 
-// Directly behind another command of the pop-up; nowhere when that one isn't in it.
+// Inserts a command directly after another one; does nothing if the pop-up lacks the other one.
 void InsertBehind(const char* popup, const char* behind, const char* command) {
     const int index = gHost.dock->IndexInBar(popup, behind);
     if (index >= 0) gHost.dock->InsertIntoBar(popup, command, index + 1, false);
@@ -48,7 +48,7 @@ void AddMissingCommands() {
         InsertBehind("Settings", "Edit HotCodes", "External Tools");
 }
 
-// A command without a routine would be a promise, wherever an arrangement puts it.
+// A visible command without a routine would be a false promise, so it is hidden in every arrangement.
 void HideUnbuiltCommands() {
     for (const auto& route : Mod_MenuCommands::Routes()) {
         DockCommand* command = gHost.dock->FindCommand(std::string(route.name));
@@ -113,13 +113,13 @@ void frmMain::ApplyCommandsAutoRepeat() {
         if (DockCommand* command = gHost.dock->FindCommand(name)) command->SetAutoRepeat(true);
 }
 
-// The help tab shows how far a page is loaded where a document shows the caret's place.
+// The help tab shows the loading progress where a document shows the caret position.
 void frmMain::ShowProgressPane(bool progress) {
     if (progress_) progress_->SetVisible(progress);
     if (position_) position_->SetVisible(!progress);
 }
 
-// The context menu of the text stands in the menu bar for as long as the user can edit it there.
+// While the user customises the menus, the text's context menu is in the menu bar, where it can be edited.
 void frmMain::DS_Customization(bool begins) {
     if (begins) return gHost.dock->InsertIntoBar("MainMenu", "PopupMenu1", -1, false);
     gHost.dock->RemoveFromBar("MainMenu", "PopupMenu1");

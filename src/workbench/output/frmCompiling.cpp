@@ -1,4 +1,4 @@
-// The small window that shows how far a compile has come.
+// The small window that shows the progress of a compilation.
 #include "workbench/output/frmCompiling.h"
 
 #include "host/ErrorLog.h"
@@ -18,7 +18,7 @@ constexpr int Width = 340;
 }
 
 frmCompiling& frmCompiling::Instance() {
-    // The main window owns it.
+    // The main window owns it and may delete it.
     static QPointer<frmCompiling> window;
     if (!window) window = new frmCompiling(MainWindow());
     return *window;
@@ -29,7 +29,7 @@ frmCompiling::frmCompiling(QWidget* parent)
       bar_(new QProgressBar(this)) {
     setWindowTitle(Shown(ProgramName));
     setModal(false);
-    // The keys go on to the editor; the window only tells.
+    // The editor keeps the keyboard; this window only shows progress.
     setAttribute(Qt::WA_ShowWithoutActivating);
     bar_->setRange(0, 100);
     bar_->setTextVisible(false);

@@ -1,4 +1,4 @@
-// The small window that shows how far a compile has come.
+// The small window that shows the progress of a compilation.
 #pragma once
 
 #include <QDialog>
@@ -8,13 +8,13 @@ class QProgressBar;
 
 class frmCompiling : public QDialog {
 public:
-    // The one window, made on first use above the main window.
+    // The only window of this kind, created on first use above the main window.
     static frmCompiling& Instance();
     explicit frmCompiling(QWidget* parent);
 
     // Shows the window with its bar at 0.
     void Open(const QString& label);
-    // The bar from 0 to 100.
+    // Sets the bar, 0 to 100.
     void SetValue(int value);
 
 private:

@@ -1,5 +1,5 @@
 // The Output pane. A program may print faster than a window can show, so lines are collected and shown
-// together, and those that nobody could have read are dropped before they cost anything.
+// together; lines that would be scrolled out at once are dropped first.
 #include "workbench/output/frmOutput.h"
 
 #include "workbench/parts/Shown.h"
@@ -9,12 +9,12 @@
 
 namespace {
 
-// A longer line is shown in pieces, because laying out one line of a megabyte freezes the pane.
+// A longer line is split, because laying out a line of one megabyte freezes the pane.
 constexpr std::size_t LongestPiece = 4000;
 
 constexpr int LinesAtFirst = 8;
 
-// Asks for a low pane where its size was never set.
+// Asks for a low pane if the arrangement has no size for it.
 class OutputText : public QPlainTextEdit {
 public:
     QSize sizeHint() const override { return {400, LinesAtFirst * fontMetrics().lineSpacing()}; }
@@ -41,7 +41,7 @@ frmOutput::frmOutput() : text_(new OutputText) {
     connect(&flush_, &QTimer::timeout, this, &frmOutput::Flush);
 }
 
-// The pane's widget belongs to whoever placed it; without a place it goes with the form.
+// The pane's widget belongs to its parent; without a parent the form deletes it.
 frmOutput::~frmOutput() {
     if (text_ && !text_->parent()) delete text_;
 }

@@ -1,4 +1,4 @@
-// The Output pane: what the compiler and the running program print.
+// The Output pane: shows what the compiler and the running program print.
 #pragma once
 
 #include "host/DockStudio.h"
@@ -11,17 +11,17 @@
 
 class frmOutput : public QObject, public Form {
 public:
-    // The oldest lines go when there are more than this many.
+    // The oldest lines beyond this number are dropped.
     static constexpr int MostLines = 20000;
 
-    // The one pane, made on first use.
+    // The only pane of this kind, created on first use.
     static frmOutput& Instance();
     frmOutput();
     ~frmOutput() override;
 
     void* NativeWidget() override;
     void Clear();
-    // Adds a line. It is shown, with all others of its turn, when the event loop comes round.
+    // Adds a line. All lines of one turn of the event loop are shown together.
     void Append(const std::string& line);
     void ScrollToEnd();
 

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QMainWindow>
 
-// Null before the main window was made.
+// Returns null before the main window exists.
 inline QWidget* MainWindow() {
     for (QWidget* widget : QApplication::topLevelWidgets())
         if (qobject_cast<QMainWindow*>(widget)) return widget;

@@ -1,4 +1,4 @@
-// The one road between bytes and what a form shows.
+// The only conversion from bytes to text on show.
 #pragma once
 
 #include "host/Text.h"
@@ -7,5 +7,5 @@
 #include <string>
 #include <string_view>
 
-// Text for a widget: valid UTF-8 as UTF-8, else Windows-1252.
+// Decodes valid UTF-8 as UTF-8, and anything else as Windows-1252.
 inline QString Shown(std::string_view bytes) { return QString::fromStdString(ToUtf8(bytes)); }

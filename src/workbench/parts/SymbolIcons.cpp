@@ -1,4 +1,4 @@
-// Letter icons. A theme has no two pictures that tell a global from a constant at 16 pixels.
+// Letter icons. No theme has different pictures for a global and a constant at 16 pixels.
 #include "workbench/parts/SymbolIcons.h"
 
 #include <QGuiApplication>
@@ -15,7 +15,7 @@ struct Kind {
     const char* name;
     char letter;
     int hue;       // degrees
-    bool outlined; // what belongs to another symbol
+    bool outlined; // an outline marks what belongs to another symbol
 };
 
 constexpr Kind Kinds[] = {
@@ -34,7 +34,7 @@ class LetterIcon : public QIconEngine {
 public:
     explicit LetterIcon(const Kind& kind) : kind_(kind) {}
 
-    // A list paints dozens of them at once, so each size is drawn once.
+    // A list paints dozens of icons at once, so each size is drawn only once.
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         const qreal scale = painter->device()->devicePixelRatio();
         const int side = std::min(rect.width(), rect.height());

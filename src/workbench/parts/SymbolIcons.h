@@ -1,8 +1,8 @@
-// The icons of the kinds of symbols: a letter on a colour of its own, drawn for every size and scale.
+// The icons of symbol kinds: a letter on a coloured square, drawn for every size and scale.
 #pragma once
 
 #include <QIcon>
 
-// By name: imgFunctions, imgLocals, imgTypes, imgFields, imgGlobals, imgArrays, imgConstants, imgLabels,
-// imgIncludes. An unknown name gives an empty icon.
+// Returns the icon named imgFunctions, imgLocals, imgTypes, imgFields, imgGlobals, imgArrays, imgConstants,
+// imgLabels or imgIncludes; an empty icon for another name.
 QIcon SymbolIcon(const char* name);
