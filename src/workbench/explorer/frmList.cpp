@@ -41,13 +41,18 @@ const frmDoc* ActiveDocument() {
 }
 
 frmList::frmList() {
+    MakeLists();
+    ConnectAll();
+    UnHideFileColumn();
+    ShowControl();
+}
+
+void frmList::MakeLists() {
     for (std::size_t i = 0; i < ConstructCount; ++i) {
         const Construct& construct = Constructs[i];
         QStringList headers{tr("Name"), tr("File")};
         if (i == Functions) headers << tr("Line");
-        auto* list = new CodeList(construct.list, headers, construct.icon, construct.parts);
-        Connect(*list);
-        lists_[i].list = list;
+        lists_[i].list = new CodeList(construct.list, headers, construct.icon, construct.parts);
     }
     locals_ = {new CodeList("lvLocals", {tr("Locals")}, "imgLocals", {true, true}), &ClsProject::LocalsDirty};
     fields_ = {new CodeList("lvFields", {tr("Fields")}, "imgFields", {true}), &ClsProject::FieldsDirty};
@@ -55,19 +60,25 @@ frmList::frmList() {
     QWidget* types = AddSide(Types, fields_, "SplitterTypes");
     for (std::size_t i = 0; i < ConstructCount; ++i)
         addWidget(i == Functions ? functions : i == Types ? types : lists_[i].list);
+    CodeList* withLines = lists_[Functions].list;
+    withLines->setColumnWidth(CodeModel::Line,
+                              withLines->fontMetrics().horizontalAdvance("0000000") + LinePadding);
+}
+
+void frmList::ConnectAll() {
+    for (const Listed& listed : lists_) Connect(*listed.list);
+    for (const std::size_t construct : {Functions, Types})
+        lists_[construct].list->clicked = [this] { FillSide(); };
+    Connect(*locals_.list);
+    Connect(*fields_.list);
     CodeList* includes = lists_[Includes].list;
     includes->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(includes, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         Guarded("lvIncludes_MouseUp", "frmList", [&] { ShowIncludePopup(at); });
     });
-    UnHideFileColumn();
-    CodeList* withLines = lists_[Functions].list;
-    withLines->setColumnWidth(CodeModel::Line,
-                              withLines->fontMetrics().horizontalAdvance("0000000") + LinePadding);
     typingPause_.setSingleShot(true);
     typingPause_.setInterval(TypingPauseMilliseconds);
     connect(&typingPause_, &QTimer::timeout, this, &frmList::RefreshLines);
-    ShowControl();
 }
 
 void frmList::Connect(CodeList& list) {
@@ -81,8 +92,6 @@ QWidget* frmList::AddSide(std::size_t construct, Side& side, const char* name) {
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setObjectName(name);
     splitter->setChildrenCollapsible(false);
-    Connect(*side.list);
-    lists_[construct].list->clicked = [this] { FillSide(); };
     splitter->addWidget(lists_[construct].list);
     splitter->addWidget(side.list);
     splitter->setStretchFactor(0, 3);

@@ -67,6 +67,8 @@ private:
         const Symbol* of = nullptr; // the function or type whose names are listed
     };
 
+    void MakeLists();
+    void ConnectAll();
     void Connect(CodeList& list);
     QWidget* AddSide(std::size_t construct, Side& side, const char* splitter);
     void Fill(Listed& listed, const std::shared_ptr<ClsProject>& project);

@@ -52,25 +52,40 @@ frmMainList& frmMainList::Instance() {
 }
 
 frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new QLineEdit) {
-    auto* kinds = new QHBoxLayout;
-    kinds->setSpacing(Spacing);
+    auto* layout = new QVBoxLayout(pane_);
+    layout->setContentsMargins(Spacing, Spacing, Spacing, 0);
+    layout->setSpacing(Spacing);
+    layout->addLayout(MakeButtons());
+    MakeFilter();
+    layout->addWidget(filter_);
+    layout->addWidget(lists_, 1);
+    lists_->LeaveList = FocusDocument;
+    CheckButtons();
+}
+
+QLayout* frmMainList::MakeButtons() {
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Spacing);
     for (std::size_t i = 0; i < ConstructCount; ++i) {
         const Construct& construct = Constructs[i];
         constructs_[i] = AddButton(construct.name, [this, &construct] { ShowConstruct(construct.name); });
         constructs_[i]->setIcon(SymbolIcon(construct.icon));
         constructs_[i]->setToolTip(constructs_[i]->accessibleName());
-        kinds->addWidget(constructs_[i]);
+        buttons->addWidget(constructs_[i]);
     }
-    kinds->addStretch();
+    buttons->addStretch();
     file_ = AddButton("File", [this] { SetScope(true); });
     file_->setText(tr("File"));
     file_->setToolTip(tr("Only the symbols of the current file"));
     project_ = AddButton("Project", [this] { SetScope(false); });
     project_->setText(tr("Project"));
     project_->setToolTip(tr("The symbols of the whole project"));
-    kinds->addWidget(file_);
-    kinds->addWidget(project_);
+    buttons->addWidget(file_);
+    buttons->addWidget(project_);
+    return buttons;
+}
 
+void frmMainList::MakeFilter() {
     filter_->setPlaceholderText(tr("Filter"));
     filter_->setAccessibleName(tr("Filter"));
     filter_->setObjectName("txtFilter");
@@ -82,14 +97,6 @@ frmMainList::frmMainList() : pane_(new Pane), lists_(new frmList), filter_(new Q
         lists_->SetFilter(text.trimmed().toStdString());
         PuniLista();
     });
-    auto* layout = new QVBoxLayout(pane_);
-    layout->setContentsMargins(Spacing, Spacing, Spacing, 0);
-    layout->setSpacing(Spacing);
-    layout->addLayout(kinds);
-    layout->addWidget(filter_);
-    layout->addWidget(lists_, 1);
-    lists_->LeaveList = FocusDocument;
-    CheckButtons();
 }
 
 // The pane's widget belongs to its parent. Without a parent the form deletes it, unless the toolkit has

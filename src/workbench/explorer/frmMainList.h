@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 
+class QLayout;
 class QLineEdit;
 class QToolButton;
 class frmList;
@@ -39,6 +40,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QLayout* MakeButtons();
+    void MakeFilter();
     QToolButton* AddButton(const char* name, const std::function<void()>& clicked);
     void SetScope(bool onlyFile);
     void CheckButtons();

@@ -5,6 +5,7 @@
 #include "editor/SciOptions.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
@@ -160,9 +161,11 @@ void frmFind::cmdMarkAll_Click() {
     Guarded("cmdMarkAll_Click", "frmFind", [this] {
         if (!DocumentActive() || Text(cboFind).empty()) return;
         Remember();
-        BeginWaitCursor();
-        const int MarkCount = run_.Count(Options());
-        EndWaitCursor();
+        int MarkCount = 0;
+        {
+            const WaitCursor wait;
+            MarkCount = run_.Count(Options());
+        }
         ShowRun();
         lblStatus->setText(tr("%1 found").arg(MarkCount));
         Tell("Zolto - Find & Mark All", MarkCount, " marks were added ");

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -39,6 +40,10 @@ private:
 
     void MakeControls();
     void Arrange();
+    QGridLayout* TextFields();
+    QHBoxLayout* OptionGroups();
+    QVBoxLayout* ButtonColumn();
+    void SetTabStops();
     void Connect();
     QGroupBox* Group(const char* name, const QString& title, QButtonGroup* buttons,
                      const QStringList& captions);
@@ -84,4 +89,5 @@ private:
     QButtonGroup* optStartAt;
     QButtonGroup* optSearchIn;
     QGroupBox* startAt_;
+    QGroupBox* searchIn_;
 };

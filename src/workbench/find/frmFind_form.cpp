@@ -133,7 +133,7 @@ QGroupBox* frmFind::Group(const char* name, const QString& title, QButtonGroup* 
     return group;
 }
 
-void frmFind::Arrange() {
+QGridLayout* frmFind::TextFields() {
     auto* texts = new QGridLayout;
     texts->setHorizontalSpacing(8);
     texts->addWidget(lblFind, 0, 0);
@@ -141,56 +141,60 @@ void frmFind::Arrange() {
     texts->addWidget(lblReplace, 1, 0);
     texts->addWidget(cboReplace, 1, 1);
     texts->setColumnStretch(1, 1);
+    return texts;
+}
 
+QHBoxLayout* frmFind::OptionGroups() {
     auto* match = new QGroupBox(tr("Options"));
     auto* checks = new QVBoxLayout(match);
     checks->setSpacing(4);
     for (QCheckBox* box : {chkMatchCase, chkWholeWord, chkWordStart, chkRegExp}) checks->addWidget(box);
     checks->addStretch();
     startAt_ = Group("optStartAt", tr("Start at"), optStartAt, {tr("&Top"), tr("Cu&rsor")});
-    auto* searchIn = Group("optSearchIn", tr("Search In"), optSearchIn,
-                           {tr("&Current File"), tr("Current &Project"), tr("&All Files"), tr("&Selection")});
+    searchIn_ = Group("optSearchIn", tr("Search In"), optSearchIn,
+                      {tr("&Current File"), tr("Current &Project"), tr("&All Files"), tr("&Selection")});
     auto* options = new QHBoxLayout;
     options->setSpacing(12);
     options->addWidget(match, 1);
     options->addWidget(startAt_);
-    options->addWidget(searchIn);
+    options->addWidget(searchIn_);
+    return options;
+}
 
-    auto* left = new QVBoxLayout;
-    left->setSpacing(10);
-    left->addLayout(texts);
-    left->addLayout(options);
-    left->addStretch();
-    left->addWidget(lblStatus);
-
+QVBoxLayout* frmFind::ButtonColumn() {
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(6);
     for (QPushButton* button :
-         {cmdFind, cmdFindPrev, cmdReplace, cmdReplaceAll, cmdMarkAll, cmdInsertWordUnderCursor, cmdCancel}) {
-        if (button == cmdCancel) buttons->addStretch();
+         {cmdFind, cmdFindPrev, cmdReplace, cmdReplaceAll, cmdMarkAll, cmdInsertWordUnderCursor})
         buttons->addWidget(button);
-    }
+    buttons->addStretch();
+    buttons->addWidget(cmdCancel);
+    return buttons;
+}
 
+void frmFind::Arrange() {
+    auto* left = new QVBoxLayout;
+    left->setSpacing(10);
+    left->addLayout(TextFields());
+    left->addLayout(OptionGroups());
+    left->addStretch();
+    left->addWidget(lblStatus);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(14, 14, 14, 12);
     layout->setSpacing(14);
     layout->addLayout(left, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(ButtonColumn());
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    const QList<QWidget*> order{
-        cboFind,  cboReplace, chkMatchCase, chkWholeWord, chkWordStart,  chkRegExp,  startAt_,
-        searchIn, cmdFind,    cmdFindPrev,  cmdReplace,   cmdReplaceAll, cmdMarkAll, cmdInsertWordUnderCursor,
-        cmdCancel};
-    QWidget* before = nullptr;
-    for (QWidget* widget : order) {
-        const auto inside = widget->findChildren<QRadioButton*>();
-        const QList<QWidget*> stops =
-            inside.isEmpty() ? QList<QWidget*>{widget} : QList<QWidget*>(inside.begin(), inside.end());
-        for (QWidget* stop : stops) {
-            if (before) setTabOrder(before, stop);
-            before = stop;
-        }
-    }
+    SetTabStops();
+}
+
+void frmFind::SetTabStops() {
+    QList<QWidget*> stops{cboFind, cboReplace, chkMatchCase, chkWholeWord, chkWordStart, chkRegExp};
+    for (const QGroupBox* group : {startAt_, searchIn_})
+        for (QRadioButton* option : group->findChildren<QRadioButton*>()) stops << option;
+    stops << cmdFind << cmdFindPrev << cmdReplace << cmdReplaceAll << cmdMarkAll << cmdInsertWordUnderCursor
+          << cmdCancel;
+    for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
 void frmFind::Connect() {
