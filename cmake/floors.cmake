@@ -2,7 +2,8 @@
 # -Wrestrict is off: GCC 12 reports it for every std::string that is put together with operator+.
 function(zolto_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                         -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> -Werror)
+                         -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+                         $<$<BOOL:${ZOLTO_WERROR}>:-Werror>)
 endfunction()
 
 # zolto_floor(name DEPENDS floor...): one static library for the folder src/<name>.

@@ -1,8 +1,10 @@
-// What has to be there before the program can run from a folder of the user's own.
+// Fills the user's program directory from the installed data.
 #pragma once
 
 #include <string>
 
-// Copies what is missing below `appDir` from the installed data folder. A file that is there is never
-// touched. Answers the system's text of the first failure, empty when all went well.
+// Copies what is missing below `appDir` from the folder `installed`, and replaces files that are still as an
+// older version installed them. A file that the user changed is never touched. Records what it copied in the
+// file
+// ".installed" below `appDir`. Returns the system's text of the first failure, empty on success.
 std::string FillAppDir(const std::string& appDir, const std::string& installed);

@@ -68,7 +68,7 @@ void NameApplication() {
 
 void ChooseFolders(const std::string& executable) {
     SetAppDir(ChooseAppDir(executable));
-    const std::string problem = FillAppDir(AppDir(), executable + "/../share/zolto");
+    const std::string problem = FillAppDir(AppDir(), executable + "/" ZOLTO_DATA_FROM_PROGRAM);
     if (!problem.empty())
         gHost.dialogs->Show({.text = "The program's folder could not be filled.\n\n" + problem,
                              .icon = MessageIcon::Exclamation});

@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -81,14 +82,29 @@ TEST(CommandLineTest, ArgumentsBecomeOneTextThatAnyFolderUnderstands) {
     EXPECT_EQ(JoinCommandLine({}, host.folder), "");
 }
 
-TEST(FirstStartTest, OnlyWhatIsMissingIsCopied) {
+TEST(FirstStartTest, AnUpgradeReplacesOnlyWhatTheUserLeftAlone) {
     FakeHost host;
-    host.Put("share/Conf/a.dat", "new");
-    host.Put("share/Styles/x.style", "style");
-    host.Put("home/Conf/a.dat", "the user's own");
-    EXPECT_EQ(FillAppDir(host.Path("home"), host.Path("share")), "");
-    EXPECT_EQ(host.files.Read(host.Path("home/Conf/a.dat")), "the user's own");
-    EXPECT_EQ(host.files.Read(host.Path("home/Styles/x.style")), "style");
+    const auto start = [&] { EXPECT_EQ(FillAppDir(host.Path("home"), host.Path("share")), ""); };
+    const auto read = [&](const char* name) { return host.files.Read(host.Path(name)); };
+    host.Put("share/Conf/own.dat", "1");
+    host.Put("share/Conf/same.dat", "1");
+    host.Put("share/Styles/x y.style", "1");
+    host.Put("home/Conf/own.dat", "the user's own");
+    host.Put("home/Conf/same.dat", "1");
+    start();
+    EXPECT_EQ(read("home/Styles/x y.style"), "1");
+    for (const char* name : {"share/Conf/own.dat", "share/Conf/same.dat", "share/Styles/x y.style"})
+        host.Put(name, "two");
+    start();
+    EXPECT_EQ(read("home/Conf/own.dat"), "the user's own");
+    EXPECT_EQ(read("home/Conf/same.dat"), "two");
+    EXPECT_EQ(read("home/Styles/x y.style"), "two");
+    host.Put("home/Styles/x y.style", "mine");
+    std::filesystem::remove(host.Path("home/Conf/same.dat"));
+    host.Put("share/Styles/x y.style", "three");
+    start();
+    EXPECT_EQ(read("home/Styles/x y.style"), "mine");
+    EXPECT_EQ(read("home/Conf/same.dat"), "two");
     EXPECT_EQ(FillAppDir(host.Path("home"), host.Path("no such folder")), "");
     EXPECT_NE(FillAppDir("/proc/no/such", host.Path("share")), "");
 }

@@ -1,0 +1,20 @@
+# Removes the files of the last "cmake --install", which left their names in MANIFEST, and the folders that are empty
+# afterwards. What users have in their own folders stays.
+if(NOT EXISTS "${MANIFEST}")
+  message(FATAL_ERROR "Nothing was installed from this build folder: ${MANIFEST} is missing")
+endif()
+file(STRINGS "${MANIFEST}" files)
+foreach(file IN LISTS files)
+  file(REMOVE "$ENV{DESTDIR}${file}")
+  get_filename_component(folder "$ENV{DESTDIR}${file}" DIRECTORY)
+  # Only folders named after the program are its own.
+  while(folder MATCHES "/zolto(/|$)")
+    file(GLOB inside "${folder}/*" "${folder}/.*")
+    if(inside)
+      break()
+    endif()
+    file(REMOVE_RECURSE "${folder}")
+    get_filename_component(folder "${folder}" DIRECTORY)
+  endwhile()
+endforeach()
+file(REMOVE "${MANIFEST}")
