@@ -10,7 +10,7 @@
 #include "engine/EngineCalls.h"
 #include "host/Desktop.h"
 #include "host/DockStudio.h"
-#include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
@@ -77,8 +77,8 @@ void WireToolchain() {
 }
 
 void WireUp() {
-    gShowErrorDialog = [] { frmError::ShowModal(); };
-    gCountOpenFiles = [] { return static_cast<int>(gHost.dock->DocumentWindows().size()); };
+    gHostCalls.ShowErrorDialog = [] { frmError::ShowModal(); };
+    gHostCalls.CountOpenFiles = [] { return static_cast<int>(gHost.dock->DocumentWindows().size()); };
     WireEditor();
     WireDocuments();
     WireToolchain();

@@ -111,8 +111,8 @@ bool CloseAsked(const std::shared_ptr<ClsProject>& project) {
     // What could not be closed needs its project.
     if (!Close(project.get(), false) || project->Sources.Count() > 0) return false;
     if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
-    if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
-    if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+    gDocumentCalls.RefreshCodeExplorer();
+    gDocumentCalls.PopulateTreeView();
     return true;
 }
 

@@ -184,7 +184,7 @@ bool OpenMember(const std::shared_ptr<ClsProject>& project, const std::string& p
         return false;
     }
     if (!documentWindow) Mod_Sci::GrabFocus();
-    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    gDocumentCalls.UpdateCommandUI();
     return true;
 }
 

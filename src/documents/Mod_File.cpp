@@ -112,7 +112,7 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     Mod_Sci::EmptyUndoBuffer();
     if (!documentWindow) Mod_Sci::GrabFocus(); // a workspace gives it to one document at its end
     AddRecentFile(path);
-    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    gDocumentCalls.UpdateCommandUI();
     return true;
 }
 
@@ -215,7 +215,7 @@ bool OpenFile(const std::string& wanted, bool documentWindow, bool isSnippet) {
         if (const auto opened = OpenKnown(path, documentWindow)) return *opened;
         if (path.size() > ShortestNamedPath && GetExtension(path) == ".ZPF") {
             Mod_Project::LoadProject(path);
-            if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+            gDocumentCalls.PopulateTreeView();
             return false;
         }
         return !ForeignFile(path) && LoadDocument(path, documentWindow, isSnippet);
@@ -254,7 +254,7 @@ void NewFile() {
         MakeActive(document.get());
         Mod_Sci::EmptyUndoBuffer();
         Mod_Sci::GrabFocus();
-        if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+        gDocumentCalls.UpdateCommandUI();
     });
 }
 

@@ -125,7 +125,7 @@ void RenameMember(ClsProject& project, const std::string& oldName, const std::st
         Mod_Project::DodajFileSorted(file, project);
     }
     project.Dirty = true;
-    if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
+    gDocumentCalls.PopulateTreeView();
 }
 
 // Gives a document that was written under a new name that name everywhere.
@@ -148,8 +148,8 @@ void Rebind(frmDoc& document, const std::string& path) {
     else
         RenameMember(*project, oldName, path);
     UpdateVarFileNames(oldName, document.Filename);
-    if (gDocumentCalls.RefreshCodeExplorer) gDocumentCalls.RefreshCodeExplorer();
-    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    gDocumentCalls.RefreshCodeExplorer();
+    gDocumentCalls.UpdateCommandUI();
 }
 
 // Where the dialog starts: beside the file; a new one of a project in the project's folder.

@@ -156,7 +156,7 @@ void Activate(const Workspace& workspace) {
     MakeActive(window == nullptr ? nullptr : DocumentOf(*window));
     if (window == nullptr) return;
     if (frmDoc* document = ActiveForm()) document->m_oSubclass->OnSetFocus();
-    if (gDocumentCalls.DocumentWindowActivated) gDocumentCalls.DocumentWindowActivated(*window);
+    gDocumentCalls.DocumentWindowActivated(*window);
     const frmDoc* document = ActiveForm();
     const bool known = document == nullptr || std::any_of(workspace.views.begin(), workspace.views.end(),
                                                           [&](const WorkspaceView& view) {
@@ -180,7 +180,7 @@ void Restore(const Workspace& workspace) {
         ShowViews(workspace);
         Activate(workspace);
     }
-    if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+    gDocumentCalls.UpdateCommandUI();
     messages.Show();
 }
 

@@ -47,7 +47,7 @@ bool HandedOver(const std::string& commandLine) {
 }
 
 void Status(const char* text) {
-    if (gDocumentCalls.SplashStatus) gDocumentCalls.SplashStatus(text);
+    gDocumentCalls.SplashStatus(text);
 }
 
 void LoadEditControl() {
@@ -93,12 +93,12 @@ void Start() {
         Status("Loading Style...");
         Mod_File::LoadStyle(OptionsEdit::SciStyleName);
         Status("Loading Editor...");
-        if (gDocumentCalls.CreateMainWindow) gDocumentCalls.CreateMainWindow();
+        gDocumentCalls.CreateMainWindow();
         Status("Starting Editor...");
         gHost.desktop->LockWindowUpdate(true);
-        if (gDocumentCalls.ShowMainWindow) gDocumentCalls.ShowMainWindow();
+        gDocumentCalls.ShowMainWindow();
         gHost.desktop->Pump();
-        const bool strict = gDocumentCalls.StrictModeChecked && gDocumentCalls.StrictModeChecked();
+        const bool strict = gDocumentCalls.StrictModeChecked();
         BadStyle = strict ? StrictBadStyle : 0;
     });
 }

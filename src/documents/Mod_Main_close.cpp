@@ -12,6 +12,7 @@
 #include "host/Desktop.h"
 #include "host/DockStudio.h"
 #include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Outside.h"
@@ -120,7 +121,7 @@ void QueryUnload(bool& cancel) {
         const bool wasFound = HideHandle();
         cancel = !Mod_File::AskForAll() || !NothingCame();
         if (!cancel) {
-            if (gDocumentCalls.UnloadFind) gDocumentCalls.UnloadFind();
+            gDocumentCalls.UnloadFind();
             Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
             cancel = !Mod_File::CloseDocuments();
         }
@@ -138,13 +139,13 @@ void QueryUnload(bool& cancel) {
 void SaveSession() {
     if (life != Life::Runs) return;
     // Nobody may be there to close a report, and who ends the session doesn't wait.
-    const auto report = std::exchange(gShowErrorDialog, nullptr);
+    const auto report = std::exchange(gHostCalls.ShowErrorDialog, nullptr);
     Mod_File::SaveWorkSpace(Mod_File::LastWorkspace());
     // As on closing it: a project is saved without being asked for.
     for (const auto& entry : gProjects)
         if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
     Guarded("SaveSession", "Mod_Main", SaveLists);
-    gShowErrorDialog = report;
+    gHostCalls.ShowErrorDialog = report;
 }
 
 void EndNow() {

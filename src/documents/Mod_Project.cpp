@@ -232,8 +232,8 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         if (!fromWorkspace) ShowMainFile(*project);
         if (project->Sources.Count() == 0) BackToActive();
         Mod_File::AddRecentProject(path);
-        if (gDocumentCalls.PopulateTreeView) gDocumentCalls.PopulateTreeView();
-        if (gDocumentCalls.UpdateCommandUI) gDocumentCalls.UpdateCommandUI();
+        gDocumentCalls.PopulateTreeView();
+        gDocumentCalls.UpdateCommandUI();
         if (SciWndData != 0 && !fromWorkspace) Mod_Sci::GrabFocus();
         return true;
     });

@@ -23,7 +23,7 @@ constexpr unsigned char FirstHighByte = 0x80;
 bool IsHigh(char c) { return static_cast<unsigned char>(c) >= FirstHighByte; }
 
 void Tell(const std::string& text) {
-    if (gEditorCalls.SetNotice) gEditorCalls.SetNotice(text);
+    gEditorCalls.SetNotice(text);
 }
 
 // The active view's selection, which may be a rectangle.

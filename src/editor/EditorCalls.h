@@ -1,7 +1,8 @@
 // What the editing surface may ask of the floors above it. Empty by default.
 #pragma once
 
-#include <functional>
+#include "host/Request.h"
+
 #include <string>
 #include <vector>
 
@@ -16,16 +17,16 @@ struct TipText {
 };
 
 struct EditorCalls {
-    std::function<void(const std::string& text)> SetPositionText; // status pane "L: 1 C: 1"
-    std::function<void(const std::string& text)> SetFunctionText; // status pane of the current function
-    std::function<void(const TipText& tip)> SetTipText;           // the tip box
-    std::function<void(const std::string& text)> SetNotice;       // a word (UTF-8) there for a few seconds
-    std::function<void()> OpenBrowser;                            // makes the help window where there is none
+    Request<void(const std::string& text)> SetPositionText; // status pane "L: 1 C: 1"
+    Request<void(const std::string& text)> SetFunctionText; // status pane of the current function
+    Request<void(const TipText& tip)> SetTipText;           // the tip box
+    Request<void(const std::string& text)> SetNotice;       // a word (UTF-8) there for a few seconds
+    Request<void()> OpenBrowser;                            // makes the help window where there is none
     // The help page of a word; false when no page has it.
-    std::function<bool(const std::string& word)> ShowBrowserHelp;
+    Request<bool(const std::string& word)> ShowBrowserHelp;
     // Opens a closed member of the active project by its name and makes it active; false when it could not.
-    std::function<bool(const std::string& name)> OpenMember;
-    std::function<void()> UpdateSciCommandUI;                                // "Undo" and "Redo" enable
-    std::function<void(const std::vector<std::string>& paths)> FilesDropped; // on a view
+    Request<bool(const std::string& name)> OpenMember;
+    Request<void()> UpdateSciCommandUI;                                // "Undo" and "Redo" enable
+    Request<void(const std::vector<std::string>& paths)> FilesDropped; // on a view
 };
 extern EditorCalls gEditorCalls; // written by the wiring of the application alone

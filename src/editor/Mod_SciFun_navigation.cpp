@@ -57,7 +57,7 @@ const frmDoc* DocumentOf(const Symbol& symbol) {
 SymbolPointer Reopened(const clsHash& table, const SymbolPointer& symbol) {
     const auto project = gCurrentProject; // owns the table
     const int before = NamesakesBefore(table, *symbol);
-    if (!gEditorCalls.OpenMember || !gEditorCalls.OpenMember(symbol->File)) return nullptr;
+    if (!gEditorCalls.OpenMember(symbol->File)) return nullptr;
     return NamesakeOf(SciWndData, table, symbol->Ime, before);
 }
 

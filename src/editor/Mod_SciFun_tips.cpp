@@ -33,7 +33,7 @@ TipText shownTip;
 void Write(TipText tip) {
     if (tip == shownTip) return;
     shownTip = std::move(tip);
-    if (gEditorCalls.SetTipText) gEditorCalls.SetTipText(shownTip);
+    gEditorCalls.SetTipText(shownTip);
 }
 
 std::string Whole(const TipText& tip) { return tip.left + tip.hot + tip.right; }
@@ -187,11 +187,11 @@ void KeywordHelp() {
     if (!DocumentActive()) return;
     Guarded("KeywordHelp", "Mod_SciFun", [] {
         gLastDocumentID = gActiveDoc->m_strDocumentWindowID;
-        if (gEditorCalls.OpenBrowser) gEditorCalls.OpenBrowser();
+        gEditorCalls.OpenBrowser();
         const auto pos = Mod_Sci::GetCurrentPos();
         const std::string word =
             Mod_Sci::GetTextRange(Mod_Sci::WordStartPosition(pos, 1), Mod_Sci::WordEndPosition(pos, 1));
-        if (!gEditorCalls.ShowBrowserHelp || !gEditorCalls.ShowBrowserHelp(word)) gHost.desktop->Beep();
+        if (!gEditorCalls.ShowBrowserHelp(word)) gHost.desktop->Beep();
     });
 }
 

@@ -177,7 +177,7 @@ void cSubclass::OnKillFocus() {
 }
 
 void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
-    if (gEditorCalls.FilesDropped) gEditorCalls.FilesDropped(paths);
+    gEditorCalls.FilesDropped(paths);
 }
 
 bool cSubclass::OnBeyondCodePage(const std::string& character) {
@@ -224,7 +224,7 @@ void cSubclass::StyleNeeded() {
     }
     if (!gSymbolsChanged) return;
     gSymbolsChanged = false;
-    if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+    gEngineCalls.PuniLista();
     if (gCurrentProject && !gCurrentProject->SingleFile) SiblingPass();
 }
 
@@ -247,7 +247,7 @@ void cSubclass::SiblingPass() {
 void cSubclass::Painted() {
     if (State().mJustActivated) {
         State().mJustActivated = false;
-        if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+        gEngineCalls.PuniLista();
     }
     // So that scrolling always asks for styles: what is styled already is told by the lines shown.
     Mod_Sci::StartStyling(1, 255);

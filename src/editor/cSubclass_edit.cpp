@@ -408,7 +408,7 @@ void cSubclass::UpdateUi() {
     }
     if (!background_) Mod_SciFun::ShowHelp(Mod_Sci::GetCurrentPos(), line);
     if (OptionsEdit::HighlightMatchedBraces) HighlightBraces(Mod_Sci::GetCurrentPos());
-    if (!background_ && gEditorCalls.UpdateSciCommandUI) gEditorCalls.UpdateSciCommandUI();
+    if (!background_) gEditorCalls.UpdateSciCommandUI();
 }
 
 void cSubclass::ParseWaiting() {

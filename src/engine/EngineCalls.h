@@ -1,22 +1,23 @@
 // What the engine may ask of the floors above it. Empty by default: the engine works without an answer.
 #pragma once
 
-#include <functional>
+#include "host/Request.h"
+
 #include <string>
 
 struct ClsType;
 
 struct EngineCalls {
     // Asks for a completion list at the caret: of names, of type names, of labels, of a type's fields.
-    std::function<void()> Autocomplete;
-    std::function<void()> AutocompleteType;
-    std::function<void()> AutocompleteLabel;
-    std::function<void(const ClsType& type, const std::string& typed)> AutocompleteBackSlash;
+    Request<void()> Autocomplete;
+    Request<void()> AutocompleteType;
+    Request<void()> AutocompleteLabel;
+    Request<void(const ClsType& type, const std::string& typed)> AutocompleteBackSlash;
     // Tells that the lists of the Code Explorer no longer agree with the tables.
-    std::function<void()> PuniLista;
+    Request<void()> PuniLista;
     // Tells that the active document has changed without a change of its text.
-    std::function<void()> DocumentChanged;
+    Request<void()> DocumentChanged;
     // Begins and ends the wait cursor, on the screen and in the active view.
-    std::function<void(bool on)> WaitCursor;
+    Request<void(bool on)> WaitCursor;
 };
 extern EngineCalls gEngineCalls; // written by the wiring of the application alone

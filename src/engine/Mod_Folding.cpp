@@ -112,7 +112,7 @@ void ToggleFold(int line) {
         const auto parent = Mod_Sci::GetFoldParent(caretLine);
         if (parent >= 0) Mod_Sci::GotoPos(Mod_Sci::PositionFromLine(parent));
     }
-    if (OptionsEdit::FileDirtyOnBookmarks && gEngineCalls.DocumentChanged) gEngineCalls.DocumentChanged();
+    if (OptionsEdit::FileDirtyOnBookmarks) gEngineCalls.DocumentChanged();
 }
 
 } // namespace Mod_Folding

@@ -32,7 +32,7 @@ public:
 
 private:
     static void Show(bool on) {
-        if (gEngineCalls.WaitCursor) gEngineCalls.WaitCursor(on);
+        gEngineCalls.WaitCursor(on);
     }
 };
 
@@ -232,7 +232,7 @@ void UnParseFile() {
         CurrentTypeName.clear();
         const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
         for (int line = 0; line <= last; ++line) UnparseLine(line, true);
-        if (gEngineCalls.PuniLista) gEngineCalls.PuniLista();
+        gEngineCalls.PuniLista();
     });
 }
 

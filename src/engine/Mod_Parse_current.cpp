@@ -17,15 +17,11 @@ namespace Mod_Parse {
 namespace {
 
 using Word = ClsBBFunkcija::Word;
-using Request = std::function<void()>;
+using ListRequest = Request<void()>;
 
 constexpr int StopScopeKnown = 12923;
 
 const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
-
-void Offer(const Request& list) {
-    if (list) list();
-}
 
 bool NoWordAtCaret() {
     const auto caret = Mod_Sci::GetCurrentPos();
@@ -87,7 +83,7 @@ private:
         const bool behindName = dot > 1 && At(dot - 1).Kind == TOK_IDENT;
         if ((behindName && AskedAt(lineStart_, At(dot).StartPos + 1)) ||
             (dot < count_ && MayOffer(lineStart_, TokenEnd(At(dot + 1)))))
-            Offer(gEngineCalls.AutocompleteType);
+            gEngineCalls.AutocompleteType();
     }
 
     void Suffix() {
@@ -130,7 +126,7 @@ private:
             const auto length = static_cast<std::intptr_t>(At(index_).Text.size()) + 1;
             return Style(lineStart_, At(1), length, STYLE_Text);
         }
-        if (MayOffer(lineStart_, At(index_).EndPos)) Offer(gEngineCalls.Autocomplete);
+        if (MayOffer(lineStart_, At(index_).EndPos)) gEngineCalls.Autocomplete();
         if (index_ == count_ || !IsAfterName[At(index_ + 1).Kind] || !Touches(At(index_), At(index_ + 1)))
             return Whole(STYLE_Text);
         if (At(index_ + 1).Kind == '.') OfferTypesBehind(index_ + 1);
@@ -168,16 +164,16 @@ private:
     }
 
     // The name of a type or a label behind its keyword.
-    void Behind(clsHash& table, int style, const Request& list) {
+    void Behind(clsHash& table, int style, const ListRequest& list) {
         TakeName(table, style, At(index_).EndPos + 1, list);
     }
 
     // `asked`: the column at which a list opens before a letter is typed.
-    void TakeName(clsHash& table, int style, int asked, const Request& list) {
-        if (AskedAt(lineStart_, asked)) return Offer(list);
+    void TakeName(clsHash& table, int style, int asked, const ListRequest& list) {
+        if (AskedAt(lineStart_, asked)) return list();
         if (!NextIsName()) return;
         if (!table.ExistsHash(At(index_ + 1).Text)) {
-            if (MayOffer(lineStart_, At(index_ + 1).EndPos)) Offer(list);
+            if (MayOffer(lineStart_, At(index_ + 1).EndPos)) list();
             return;
         }
         const std::string spelling = FoundItem->Ime;

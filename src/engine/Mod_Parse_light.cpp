@@ -275,7 +275,7 @@ void ColorTokenLight(int& index, int count, int lineStart) {
         return;
     if (!ColoringCurrentLine) return ColorBad(index, count, lineStart);
     Style(lineStart, token, static_cast<std::intptr_t>(token.Text.size()), STYLE_Text);
-    if (MayOffer(lineStart, token.EndPos) && gEngineCalls.Autocomplete) gEngineCalls.Autocomplete();
+    if (MayOffer(lineStart, token.EndPos)) gEngineCalls.Autocomplete();
 }
 
 void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) {

@@ -126,12 +126,11 @@ private:
     }
 
     static void OfferTypes(bool asked) {
-        if (asked && gEngineCalls.AutocompleteType) gEngineCalls.AutocompleteType();
+        if (asked) gEngineCalls.AutocompleteType();
     }
 
     void OfferFields(const ClsType& type, const std::string& typed, int column) {
-        if (AskedAt(lineStart_, column) && gEngineCalls.AutocompleteBackSlash)
-            gEngineCalls.AutocompleteBackSlash(type, typed);
+        if (AskedAt(lineStart_, column)) gEngineCalls.AutocompleteBackSlash(type, typed);
     }
 
     Symbol* record_;

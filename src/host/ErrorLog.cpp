@@ -6,6 +6,7 @@
 #include "host/Failure.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/HostCalls.h"
 #include "host/Paths.h"
 
 #include <exception>
@@ -13,8 +14,7 @@
 ErrorFields gLastError;
 bool gInErrorReport = false;
 bool gErrorDialogShown = false;
-std::function<void()> gShowErrorDialog;
-std::function<int()> gCountOpenFiles;
+HostCalls gHostCalls;
 
 namespace {
 
@@ -37,7 +37,7 @@ std::string Entry() {
     line("OS Info                   :",
          desktop ? desktop->OsName() + "   Version:" + desktop->OsVersion() + " Build:" + desktop->OsBuild()
                  : "Unknown   Version: Build:");
-    line("Files opened              :", std::to_string(gCountOpenFiles ? gCountOpenFiles() : 0));
+    line("Files opened              :", std::to_string(gHostCalls.CountOpenFiles()));
     line("**************************************************************", "");
     return text;
 }
@@ -66,11 +66,11 @@ void Report() {
         if (gHost.files) gHost.files->Append(AppDir() + "/error.log", Entry());
     } catch (...) {
     }
-    if (gInErrorReport || !gShowErrorDialog) return;
+    if (gInErrorReport || !gHostCalls.ShowErrorDialog) return;
     gErrorDialogShown = true;
     gInErrorReport = true;
     try {
-        gShowErrorDialog();
+        gHostCalls.ShowErrorDialog();
     } catch (...) {
     }
     gInErrorReport = false;

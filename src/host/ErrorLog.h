@@ -2,7 +2,6 @@
 // shown once; the operation that failed is abandoned and everything else goes on.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,12 +21,6 @@ extern bool gInErrorReport;
 
 // True once the dialog was shown in this run.
 extern bool gErrorDialogShown;
-
-// Asked to show the error dialog and to come back when it was closed. Empty shows nothing.
-extern std::function<void()> gShowErrorDialog;
-
-// Answers how many document windows are open, for the log. Empty counts none.
-extern std::function<int()> gCountOpenFiles;
 
 // Reports the failure that is being handled, so it is called from a catch block; anything that is not
 // a Failure is reported with number 0 and its own text. Never throws. Writes gLastError.

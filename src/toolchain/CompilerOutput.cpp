@@ -28,7 +28,7 @@ constexpr int Step = 21;
 constexpr int LastStep = 78;
 
 void Append(const std::string& line) {
-    if (gToolchainCalls.AppendOutput) gToolchainCalls.AppendOutput(line);
+    gToolchainCalls.AppendOutput(line);
 }
 
 struct ErrorLine {
@@ -109,7 +109,7 @@ void Report(const ErrorLine& error, const std::string& file) {
     const std::string place = "Line: " + error.fields[1] + ", Column: " + error.fields[2];
     if (!file.empty()) Append(file);
     Append("Compile Error In " + place + " -->  " + message);
-    if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
+    gToolchainCalls.ScrollOutputToEnd();
     gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ", MessageIcon::Critical,
                          gActiveCompiler->Name + " Compiling Error"});
 }
@@ -121,7 +121,7 @@ public:
         : shell_(shell), job_(std::move(job)), compiling_(job_.compiles) {
         if (!compiling_) return;
         shown = this;
-        if (gToolchainCalls.ShowCompiling) gToolchainCalls.ShowCompiling(label);
+        gToolchainCalls.ShowCompiling(label);
         SetValue(0);
     }
     // A document that is closed takes its child along, and what tells of it.
@@ -153,7 +153,7 @@ public:
             Options::gLastCreatedExe = job_.target;
             gHost.settings->Save("Options", "gLastCreatedExe", Options::gLastCreatedExe);
         }
-        if (gToolchainCalls.ScrollOutputToEnd) gToolchainCalls.ScrollOutputToEnd();
+        gToolchainCalls.ScrollOutputToEnd();
     }
 
     static void StopShown() {
@@ -163,13 +163,13 @@ public:
 private:
     void SetValue(int value) {
         value_ = value;
-        if (shown == this && gToolchainCalls.SetCompilingValue) gToolchainCalls.SetCompilingValue(value);
+        if (shown == this) gToolchainCalls.SetCompilingValue(value);
     }
     void EndCompile() {
         compiling_ = false;
         if (shown != this) return; // another document's compile has the window
         shown = nullptr;
-        if (gToolchainCalls.CloseCompiling) gToolchainCalls.CloseCompiling();
+        gToolchainCalls.CloseCompiling();
     }
 
     inline static Listener* shown = nullptr; // the one that the progress window tells of

@@ -118,7 +118,7 @@ std::string Command(Job job, bool debug, const std::string& compiler, const std:
 }
 
 void Append(const std::string& line) {
-    if (gToolchainCalls.AppendOutput) gToolchainCalls.AppendOutput(line);
+    gToolchainCalls.AppendOutput(line);
 }
 
 void TellProblem(const std::string& text) {
@@ -153,7 +153,7 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
 }
 
 void Notice(const std::string& text) {
-    if (gEditorCalls.SetNotice) gEditorCalls.SetNotice(text);
+    gEditorCalls.SetNotice(text);
 }
 
 // A document runs one child at a time. True, after a word in the status bar, while one runs.
@@ -179,7 +179,7 @@ bool StartJob(Job job, std::string path, bool debug) {
     if (!FindCompiler(compiler)) return false;
 
     const std::string command = Command(job, debug, compiler, target, path);
-    if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
+    gToolchainCalls.ClearOutput();
     if (job == Job::Run && gActiveCompiler->RealConsole && RunInTerminal({command, ""})) return false;
     frmDoc& document = *ActiveForm();
     StartChild(
@@ -226,7 +226,7 @@ void RunLastCreated() {
     // A program finds its pictures and sounds beside itself.
     const ProcessStart start{Quoted(Options::gLastCreatedExe), GetFolder(Options::gLastCreatedExe)};
     if (!gHost.processes->HasTerminal() && DocumentActive() && Busy(*ActiveForm())) return;
-    if (gToolchainCalls.ClearOutput) gToolchainCalls.ClearOutput();
+    gToolchainCalls.ClearOutput();
     if (RunInTerminal(start)) return;
     if (DocumentActive())
         StartChild(*ActiveForm(), {Job::Run, Options::gLastCreatedExe, {}, {}, false}, start);

@@ -1,5 +1,6 @@
 // Paths and bytes: the conversions that everything else relies on.
 #include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Failure.h"
 #include "host/Paths.h"
 #include "host/Text.h"
@@ -44,16 +45,16 @@ TEST(ErrorLogTest, AnEntryHasItsTwelveLinesAndTheDialogComesOnceAtATime) {
     FakeHost host;
     host.ExpectErrorLog();
     int dialogs = 0;
-    gShowErrorDialog = [&] {
+    gHostCalls.ShowErrorDialog = [&] {
         ++dialogs;
         EXPECT_TRUE(gInErrorReport);
         // Another failure while the dialog is up is logged and shows nothing.
         Guarded("Inner", "Module", [] { throw Failure(5, "inner"); });
     };
-    gCountOpenFiles = [] { return 3; };
+    gHostCalls.CountOpenFiles = [] { return 3; };
     const int answer =
         Guarded("OpenFile", "Mod_File", 7, []() -> int { throw Failure(75, "No access", "Disk"); });
-    gShowErrorDialog = nullptr;
+    gHostCalls.ShowErrorDialog = nullptr;
     EXPECT_EQ(answer, 7);
     EXPECT_EQ(dialogs, 1);
     EXPECT_FALSE(gInErrorReport);

@@ -2,6 +2,7 @@
 #include "support/FakeHost.h"
 
 #include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Host.h"
 #include "host/Outside.h"
 #include "host/Paths.h"
@@ -17,8 +18,8 @@ FakeHost::FakeHost() : oldAppDir_(AppDir()) {
     folder = mkdtemp(name.data());
     SetAppDir(folder);
     gHost = {&dialogs, &files, &settings, &processes, &desktop, &instances, &views, &dock};
-    gShowErrorDialog = nullptr;
-    gCountOpenFiles = nullptr;
+    gHostCalls.ShowErrorDialog = nullptr;
+    gHostCalls.CountOpenFiles = nullptr;
     gErrorDialogShown = false;
     dock.showsForms = true;
 }

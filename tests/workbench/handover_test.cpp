@@ -2,7 +2,7 @@
 // file, its own tab and its own tables.
 #include "WindowTest.h"
 #include "app/wire_up.h"
-#include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Outside.h"
 #include "host/qt/system/QtDesktop.h"
 #include "host/qt/system/QtDialogs.h"
@@ -46,7 +46,7 @@ struct HandoverTest : WindowTest {
         look.stop();
         frmFind::Unload();
         Options::gBackupEnabled = 0;
-        gShowErrorDialog = nullptr;
+        gHostCalls.ShowErrorDialog = nullptr;
         ForgetOutside();
         gHost.dialogs = &host.dialogs;
         gHost.desktop = &host.desktop;

@@ -11,6 +11,7 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "host/ErrorLog.h"
+#include "host/HostCalls.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/Text.h"
@@ -58,7 +59,7 @@ HeadlessHost::HeadlessHost(const std::string& appDir) : application_(OffscreenAr
     SetAppDir(appDir);
     gHost = {&dialogs_, &files_, settings_.get(), &processes_, &desktop_, nullptr, &views_, &dock};
     dock.SetEvents(&events_);
-    gShowErrorDialog = [] {
+    gHostCalls.ShowErrorDialog = [] {
         std::fprintf(stderr, "failure: %s %s: %d %s\n", gLastError.fileName.c_str(),
                      gLastError.methodName.c_str(), gLastError.number, gLastError.description.c_str());
     };

@@ -60,7 +60,7 @@ void frmMain::Form_Load() {
         FillCompilers();
         MRUCommandLine.Load();
         PopulateCboCommandLine();
-        if (Options::gOpenBrowserAtStartup != 0 && gDocumentCalls.OpenBrowser) {
+        if (Options::gOpenBrowserAtStartup != 0) {
             gDocumentCalls.OpenBrowser("");
             if (Options::gDefaultHelpPage.size() > 4) gDocumentCalls.OpenBrowser(Options::gDefaultHelpPage);
         }
