@@ -52,7 +52,7 @@ public:
     }
     ~OpenText() {
         if (DocumentWindow* window = gHost.dock->FindDocumentWindow(path_)) {
-            static_cast<frmDoc*>(window->HostedForm())->SetDirty(false);
+            DocumentIn(window)->SetDirty(false);
             window->SetVisible(false);
         }
         std::filesystem::remove(path_);
@@ -127,7 +127,7 @@ void FindInTheLastFile(benchmark::State& state) {
     bool found = true;
     for (auto _ : state) {
         gHost.dock->DocumentWindows().front()->Activate();
-        MakeActive(static_cast<frmDoc*>(gHost.dock->DocumentWindows().front()->HostedForm()));
+        MakeActive(DocumentIn(gHost.dock->DocumentWindows().front()));
         FindRun run;
         state.SetIterationTime(Seconds([&] {
             found = run.FindNext(options, true) && found;

@@ -19,8 +19,6 @@ namespace Mod_File {
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
-
 bool answered = false; // the questions about what is closing now have been answered
 
 class Answered {
@@ -31,10 +29,6 @@ public:
     Answered& operator=(const Answered&) = delete;
 };
 
-frmDoc* DocumentOf(const DocumentWindow& window) {
-    return window.Key() == HelpWindow ? nullptr : dynamic_cast<frmDoc*>(window.HostedForm());
-}
-
 bool Belongs(const frmDoc& document, const ClsProject* project) {
     return project == nullptr || project->Sources.Exist_Item(&document);
 }
@@ -43,7 +37,7 @@ bool Belongs(const frmDoc& document, const ClsProject* project) {
 std::vector<long> Serials(const ClsProject* project) {
     std::vector<long> serials;
     for (const DocumentWindow* window : gHost.dock->DocumentWindows())
-        if (const frmDoc* document = DocumentOf(*window); document != nullptr && Belongs(*document, project))
+        if (const frmDoc* document = DocumentIn(window); document != nullptr && Belongs(*document, project))
             serials.push_back(document->Serial);
     return serials;
 }
@@ -124,7 +118,7 @@ bool CloseDocuments() { return Close(nullptr, false); }
 
 void DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
     if (answered) return;
-    if (const frmDoc* document = DocumentOf(window); document != nullptr && !Ask(document->Serial))
+    if (const frmDoc* document = DocumentIn(window); document != nullptr && !Ask(document->Serial))
         cancel = true;
 }
 

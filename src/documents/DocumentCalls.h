@@ -8,6 +8,9 @@
 class DocumentWindow;
 class Form;
 
+// The key of the document window that shows the help.
+inline constexpr const char* HelpWindowKey = "HELP WINDOW";
+
 struct DocumentCalls {
     Request<void()> PopulateTreeView;    // the project tree shows gProjects anew
     Request<void()> UpdateCommandUI;     // commands enable by the active document

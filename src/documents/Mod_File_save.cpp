@@ -23,7 +23,6 @@ namespace Mod_File {
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr int FailureSaveWithoutDocument = 99020;
 constexpr int FailureSaveAsWithoutDocument = 93320;
 
@@ -211,9 +210,8 @@ bool SaveAllFiles() {
         if (gActiveDoc == nullptr) return true;
         std::vector<long> serials;
         for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
-            if (window->Key() == HelpWindow || window->HostedForm() == nullptr) continue;
-            const auto* document = static_cast<frmDoc*>(window->HostedForm());
-            if (!document->NewFile) serials.push_back(document->Serial);
+            const frmDoc* document = DocumentIn(window);
+            if (document != nullptr && !document->NewFile) serials.push_back(document->Serial);
         }
         SaveDirty(serials);
         return true;
@@ -225,8 +223,7 @@ bool SaveProjectFiles() {
         const auto project = gCurrentProject;
         if (!project) return true;
         std::vector<long> serials;
-        for (const auto& source : project->Sources)
-            serials.push_back(static_cast<const frmDoc&>(*source.record).Serial);
+        for (const auto& source : project->Sources) serials.push_back(FormOf(*source.record).Serial);
         SaveDirty(serials);
         return true;
     });

@@ -25,7 +25,6 @@ namespace Mod_File {
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr const char* Filter = "Workspaces (*.zws)|*.zws|All Files|*.*";
 constexpr const char* KnownVersion = "1";
 
@@ -46,10 +45,6 @@ public:
     LoadingScope& operator=(const LoadingScope&) = delete;
 };
 
-frmDoc* DocumentOf(const DocumentWindow& window) {
-    return window.Key() == HelpWindow ? nullptr : static_cast<frmDoc*>(window.HostedForm());
-}
-
 WorkspaceView ViewOf(const frmDoc& document) {
     const auto ask = [&](unsigned message, std::intptr_t w = 0) {
         return static_cast<long>(Mod_Sci::SendTo(document.SciEdi_WndData, message, w));
@@ -67,8 +62,7 @@ Workspace Present() {
         if (project.FullPath.starts_with("{")) continue;
         workspace.entries.push_back({project.FullPath, project.SingleFile});
         for (const auto& source : project.Sources)
-            if (!source.record->NewFile)
-                workspace.views.push_back(ViewOf(static_cast<const frmDoc&>(*source.record)));
+            if (!source.record->NewFile) workspace.views.push_back(ViewOf(FormOf(*source.record)));
     }
     return workspace;
 }
@@ -84,7 +78,7 @@ bool Write(const std::string& path) {
 
 // The text of an arrangement makes windows anew, so the help window's form waits outside meanwhile.
 void TakeHelpAside() {
-    DocumentWindow* help = gHost.dock->FindDocumentWindow(HelpWindow);
+    DocumentWindow* help = gHost.dock->FindDocumentWindow(HelpWindowKey);
     if (help == nullptr) return;
     help->Attach(nullptr);
     gHost.dock->DropDocumentWindow(*help);
@@ -115,7 +109,7 @@ void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
 void CleanUp() {
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
         Form* form = window->HostedForm();
-        if (form == nullptr && window->Key() == HelpWindow && gDocumentCalls.HelpForm) {
+        if (form == nullptr && window->Key() == HelpWindowKey && gDocumentCalls.HelpForm) {
             form = gDocumentCalls.HelpForm();
             window->Attach(form);
         }
@@ -139,8 +133,8 @@ void ShowView(frmDoc& document, const WorkspaceView& view) {
 
 void ShowViews(const Workspace& workspace) {
     for (const WorkspaceView& view : workspace.views)
-        if (const DocumentWindow* window = gHost.dock->FindDocumentWindow(view.path))
-            if (frmDoc* document = DocumentOf(*window)) ShowView(*document, view);
+        if (frmDoc* document = DocumentIn(gHost.dock->FindDocumentWindow(view.path)))
+            ShowView(*document, view);
 }
 
 // The window in front is so without having told of it, or it told before it had a document.
@@ -153,7 +147,7 @@ void Activate(const Workspace& workspace) {
         (front == windows.end() ? windows.front() : *front)->Activate();
         window = gHost.dock->ActiveDocumentWindow();
     }
-    MakeActive(window == nullptr ? nullptr : DocumentOf(*window));
+    MakeActive(DocumentIn(window));
     if (window == nullptr) return;
     if (frmDoc* document = ActiveForm()) document->m_oSubclass->OnSetFocus();
     gDocumentCalls.DocumentWindowActivated(*window);

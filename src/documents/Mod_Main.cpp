@@ -46,9 +46,7 @@ bool HandedOver(const std::string& commandLine) {
     return false; // two windows are better than a file that does not open
 }
 
-void Status(const char* text) {
-    gDocumentCalls.SplashStatus(text);
-}
+void Status(const char* text) { gDocumentCalls.SplashStatus(text); }
 
 void LoadEditControl() {
     if (gHost.views->Create() != nullptr) return;

@@ -12,9 +12,9 @@
 #include "host/Desktop.h"
 #include "host/DockStudio.h"
 #include "host/ErrorLog.h"
-#include "host/HostCalls.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/HostCalls.h"
 #include "host/Outside.h"
 #include "host/SettingsStore.h"
 
@@ -165,7 +165,7 @@ void TakeDown() {
     for (const auto& entry : gProjects) {
         projects.push_back(entry.record);
         for (const auto& source : entry.record->Sources)
-            static_cast<frmDoc&>(*source.record).View->SetEvents(nullptr); // the focus will wander
+            FormOf(*source.record).View->SetEvents(nullptr); // the focus will wander
     }
     MakeActive(nullptr);
     gProjects.RemoveAll();

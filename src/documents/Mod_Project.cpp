@@ -115,9 +115,8 @@ public:
         }
     }
     ~PipelineRest() {
-        DocumentWindow* window = window_.empty() ? nullptr : gHost.dock->FindDocumentWindow(window_);
-        if (window != nullptr && window->HostedForm() != nullptr)
-            static_cast<frmDoc*>(window->HostedForm())->SubClass();
+        if (window_.empty()) return;
+        if (frmDoc* document = DocumentIn(gHost.dock->FindDocumentWindow(window_))) document->SubClass();
     }
     PipelineRest(const PipelineRest&) = delete;
     PipelineRest& operator=(const PipelineRest&) = delete;

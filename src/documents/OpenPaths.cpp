@@ -36,7 +36,7 @@ frmDoc* DocumentOfPath(const std::string& path) {
     const Place place(path);
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources)
-            if (place.Is(source.record->FullFilename)) return static_cast<frmDoc*>(source.record.get());
+            if (place.Is(source.record->FullFilename)) return &FormOf(*source.record);
     return nullptr;
 }
 

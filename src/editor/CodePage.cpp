@@ -22,9 +22,7 @@ constexpr unsigned char FirstHighByte = 0x80;
 
 bool IsHigh(char c) { return static_cast<unsigned char>(c) >= FirstHighByte; }
 
-void Tell(const std::string& text) {
-    gEditorCalls.SetNotice(text);
-}
+void Tell(const std::string& text) { gEditorCalls.SetNotice(text); }
 
 // The active view's selection, which may be a rectangle.
 class Selection {

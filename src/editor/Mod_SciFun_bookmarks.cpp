@@ -19,11 +19,11 @@ namespace {
 
 constexpr std::intptr_t Bookmarks = Mod_Parse::MaskOf(Mod_Parse::MarkerBookmark);
 
-// The documents in the order of their windows, the active one first. The help tab is none.
+// The documents in the order of their windows, the active one first.
 std::vector<frmDoc*> DocumentsFromActive() {
     std::vector<frmDoc*> documents;
     for (const DocumentWindow* window : gHost.dock->DocumentWindows())
-        if (auto* document = dynamic_cast<frmDoc*>(window->HostedForm())) documents.push_back(document);
+        if (frmDoc* document = DocumentIn(window)) documents.push_back(document);
     const auto active = std::find(documents.begin(), documents.end(), ActiveForm());
     std::rotate(documents.begin(), active, documents.end());
     return documents;

@@ -47,8 +47,7 @@ SymbolPointer Declaration(clsHash& table, const std::string& word) {
 
 const frmDoc* DocumentOf(const Symbol& symbol) {
     for (const auto& source : gCurrentProject->Sources)
-        if (source.record->SciEdi_WndData == symbol.SciWndData)
-            return static_cast<const frmDoc*>(source.record.get());
+        if (source.record->SciEdi_WndData == symbol.SciWndData) return &FormOf(*source.record);
     return nullptr;
 }
 

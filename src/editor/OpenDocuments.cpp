@@ -10,8 +10,7 @@
 std::vector<frmDoc*> DocumentsFrom(bool ofProject) {
     std::vector<frmDoc*> documents;
     for (const DocumentWindow* window : gHost.dock->DocumentWindows()) {
-        // The help tab is a window without a document.
-        auto* document = dynamic_cast<frmDoc*>(window->HostedForm());
+        frmDoc* document = DocumentIn(window);
         if (document == nullptr) continue;
         if (ofProject && !(gCurrentProject && gCurrentProject->Sources.Exist_Item(document))) continue;
         documents.push_back(document);

@@ -32,7 +32,10 @@ struct Place {
     int Stamp = 0; // 0: empty
     std::intptr_t Offset = 0;
 
-    frmDoc* Open() const { return static_cast<frmDoc*>(Document.lock().get()); }
+    frmDoc* Open() const {
+        const auto record = Document.lock();
+        return record ? &FormOf(*record) : nullptr;
+    }
     bool InActive() const { return gActiveDoc != nullptr && Open() == gActiveDoc; }
 };
 

@@ -176,9 +176,7 @@ void cSubclass::OnKillFocus() {
     Mod_Sci::SendTo(view, SCI_SETSELBACK, 1, StyleTable::OtherColor[StyleTable::SlotSelection]);
 }
 
-void cSubclass::OnDropFiles(const std::vector<std::string>& paths) {
-    gEditorCalls.FilesDropped(paths);
-}
+void cSubclass::OnDropFiles(const std::vector<std::string>& paths) { gEditorCalls.FilesDropped(paths); }
 
 bool cSubclass::OnBeyondCodePage(const std::string& character) {
     return Guarded("OnBeyondCodePage", "cSubclass", false,
@@ -232,15 +230,15 @@ void cSubclass::StyleNeeded() {
 void cSubclass::SiblingPass() {
     const auto project = gCurrentProject;
     for (const auto& source : project->Sources) {
-        auto* sibling = static_cast<frmDoc*>(source.record.get());
-        if (sibling == &mFrmDoc || gHost.dock == nullptr) continue;
-        const DocumentWindow* window = gHost.dock->FindDocumentWindow(sibling->m_strDocumentWindowID);
+        frmDoc& sibling = FormOf(*source.record);
+        if (&sibling == &mFrmDoc || gHost.dock == nullptr) continue;
+        const DocumentWindow* window = gHost.dock->FindDocumentWindow(sibling.m_strDocumentWindowID);
         if (window == nullptr || !window->InFront()) continue;
-        sibling->State.mOldStartLine = -100;
+        sibling.State.mOldStartLine = -100;
         SciNotification restyle;
         restyle.code = SCN_STYLENEEDED;
         restyle.inPaint = true;
-        sibling->m_oSubclass->OnNotify(restyle);
+        sibling.m_oSubclass->OnNotify(restyle);
     }
 }
 

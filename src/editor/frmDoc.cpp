@@ -65,13 +65,16 @@ void frmDoc::RefreshCaption() {
         window->SetCaption(Caption());
 }
 
-frmDoc* ActiveForm() { return static_cast<frmDoc*>(gActiveDoc); }
+frmDoc* DocumentIn(const DocumentWindow& window) { return dynamic_cast<frmDoc*>(window.HostedForm()); }
+
+frmDoc* DocumentIn(const DocumentWindow* window) { return window ? DocumentIn(*window) : nullptr; }
+
+frmDoc* ActiveForm() { return gActiveDoc ? &FormOf(*gActiveDoc) : nullptr; }
 
 frmDoc* DocumentOfSerial(long serial) {
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources)
-            if (auto* document = static_cast<frmDoc*>(source.record.get()); document->Serial == serial)
-                return document;
+            if (frmDoc& document = FormOf(*source.record); document.Serial == serial) return &document;
     return nullptr;
 }
 

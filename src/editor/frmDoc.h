@@ -46,6 +46,15 @@ private:
     void RefreshCaption();
 };
 
+// The form of a project's document. The engine knows the record alone, and every record is a form's.
+inline frmDoc& FormOf(DocumentRecord& record) { return static_cast<frmDoc&>(record); }
+inline const frmDoc& FormOf(const DocumentRecord& record) { return static_cast<const frmDoc&>(record); }
+
+// The document that a window shows; null where the window is empty or shows something else, such as the help.
+frmDoc* DocumentIn(const DocumentWindow& window);
+// The same for a window that was looked for; null where it was not found.
+frmDoc* DocumentIn(const DocumentWindow* window);
+
 // The active document as the form that it is; null when there is none.
 frmDoc* ActiveForm();
 

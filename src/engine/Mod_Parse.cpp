@@ -31,9 +31,7 @@ public:
     WaitCursor& operator=(const WaitCursor&) = delete;
 
 private:
-    static void Show(bool on) {
-        gEngineCalls.WaitCursor(on);
-    }
+    static void Show(bool on) { gEngineCalls.WaitCursor(on); }
 };
 
 bool IsComment(const Token& token) {

@@ -9,15 +9,15 @@
 template <class Signature>
 class Request;
 
-// Empty until the wiring assigns a function. Calling an empty request does nothing and returns a default value.
+// Empty until the wiring assigns a function. Calling an empty request does nothing and returns a default
+// value.
 template <class Result, class... Arguments>
 class Request<Result(Arguments...)> {
 public:
     Request() = default;
 
     template <class Function>
-        requires(!std::same_as<std::remove_cvref_t<Function>, Request>)
-    Request& operator=(Function&& function) {
+    requires(!std::same_as<std::remove_cvref_t<Function>, Request>) Request& operator=(Function&& function) {
         function_ = std::forward<Function>(function);
         return *this;
     }

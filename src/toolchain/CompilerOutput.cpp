@@ -27,9 +27,7 @@ namespace {
 constexpr int Step = 21;
 constexpr int LastStep = 78;
 
-void Append(const std::string& line) {
-    gToolchainCalls.AppendOutput(line);
-}
+void Append(const std::string& line) { gToolchainCalls.AppendOutput(line); }
 
 struct ErrorLine {
     std::string file;
@@ -72,10 +70,6 @@ std::string OnDisk(const ErrorLine& error, const CompilerJob& job) {
     return gHost.files->Kind(found) == PathKind::File ? found : std::string();
 }
 
-frmDoc* FormIn(DocumentWindow* window) {
-    return window == nullptr ? nullptr : dynamic_cast<frmDoc*>(window->HostedForm());
-}
-
 // Brings the document of an error to the front. Null when there is none and the user named none either.
 frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
     DocumentWindow* window = gHost.dock->FindDocumentWindow(error.file);
@@ -85,7 +79,7 @@ frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
         window = gHost.dock->FindDocumentWindow(job.document);
     else if (const frmDoc* open = window == nullptr ? Mod_File::DocumentOfPath(path) : nullptr)
         window = gHost.dock->FindDocumentWindow(open->m_strDocumentWindowID);
-    if (frmDoc* document = FormIn(window)) {
+    if (frmDoc* document = DocumentIn(window)) {
         if (document == gActiveDoc) return document;
         window->Activate();
         MakeActive(document);

@@ -117,9 +117,7 @@ std::string Command(Job job, bool debug, const std::string& compiler, const std:
     return CollapseBlanks(command);
 }
 
-void Append(const std::string& line) {
-    gToolchainCalls.AppendOutput(line);
-}
+void Append(const std::string& line) { gToolchainCalls.AppendOutput(line); }
 
 void TellProblem(const std::string& text) {
     Append(text);
@@ -152,9 +150,7 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
     TellProblem(problem);
 }
 
-void Notice(const std::string& text) {
-    gEditorCalls.SetNotice(text);
-}
+void Notice(const std::string& text) { gEditorCalls.SetNotice(text); }
 
 // A document runs one child at a time. True, after a word in the status bar, while one runs.
 bool Busy(const frmDoc& document) {

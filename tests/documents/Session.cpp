@@ -86,11 +86,11 @@ std::string Session::LastMessage() const {
 }
 
 void Session::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
-    if (!creating && window.HostedForm()) MakeActive(static_cast<frmDoc*>(window.HostedForm()));
+    if (frmDoc* document = DocumentIn(window); document && !creating) MakeActive(document);
 }
 
 void Session::DS_DocumentWindowDeactivate(DocumentWindow& window) {
-    if (window.HostedForm()) static_cast<frmDoc*>(window.HostedForm())->m_oSubclass->DeactivateCheck();
+    if (frmDoc* document = DocumentIn(window)) document->m_oSubclass->DeactivateCheck();
 }
 
 void Session::DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
@@ -98,7 +98,7 @@ void Session::DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
 }
 
 void Session::DS_DocumentWindowHidden(DocumentWindow& window) {
-    auto* document = static_cast<frmDoc*>(window.HostedForm());
+    frmDoc* document = DocumentIn(window);
     window.Attach(nullptr);
     if (document) UnloadDocument(document);
     host.dock.DropDocumentWindow(window);

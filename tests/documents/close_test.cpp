@@ -50,6 +50,20 @@ TEST_F(CloseTest, ADirtyFileIsAskedFor) {
     EXPECT_EQ(SciWndData, 0);
 }
 
+TEST_F(CloseTest, AHelpTabIsNeitherSavedNorClosedWithTheDocuments) {
+    struct Page : Form {
+        void* NativeWidget() override { return nullptr; }
+    } page;
+    session.host.dock.showsForms = false;
+    const DocumentWindow& help = session.host.dock.AddDocumentWindow("", "Help", &page);
+    const std::string path = Dirty("a.bb").FullFilename;
+    EXPECT_EQ(DocumentIn(help), nullptr);
+    EXPECT_TRUE(Mod_File::SaveAllFiles());
+    EXPECT_EQ(session.Bytes(path), "; new old\r\n");
+    EXPECT_TRUE(Mod_File::CloseAllFiles());
+    EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{help.Key()});
+}
+
 TEST_F(CloseTest, NoThrowsTheChangesAwayAndAFailedSaveKeepsTheWindow) {
     const std::string path = Dirty("a.bb").FullFilename;
     session.host.files.writesFail = true;

@@ -179,7 +179,7 @@ TEST_F(OpenTest, AnUndoGroupEndsWithItsDocument) {
     const frmDoc& first = *ActiveForm();
     SciNotification update;
     update.code = SCN_UPDATEUI; // the other view is shown beside this one, and has something to tell
-    static_cast<frmDoc*>(gProjects.Item(1)->Sources.Item(0).get())->m_oSubclass->OnNotify(update);
+    FormOf(*gProjects.Item(1)->Sources.Item(0)).m_oSubclass->OnNotify(update);
     EXPECT_TRUE(gUndoGroupOpen);
     session.host.desktop.Pump();
     EXPECT_FALSE(gUndoGroupOpen);

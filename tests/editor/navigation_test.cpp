@@ -155,7 +155,7 @@ TEST_F(NavigationTest, APlaceOfAClosedDocumentIsPassedOverAndItsMarkersAreNobody
     Work(120);
     frmDoc& back = Open("Function f()\r\nEnd Function\r\n");
     Close(back);
-    MakeActive(static_cast<frmDoc*>(gProjects.Item(0)->Sources.Item(0).get()));
+    MakeActive(&FormOf(*gProjects.Item(0)->Sources.Item(0)));
     for (int step = 0; step < 3; ++step) GotoPreviousPosition();
     EXPECT_EQ(Line(), 20);
     GotoNextPosition();

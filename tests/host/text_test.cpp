@@ -1,7 +1,7 @@
 // Paths and bytes: the conversions that everything else relies on.
 #include "host/ErrorLog.h"
-#include "host/HostCalls.h"
 #include "host/Failure.h"
+#include "host/HostCalls.h"
 #include "host/Paths.h"
 #include "host/Text.h"
 #include "support/FakeHost.h"

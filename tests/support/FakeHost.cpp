@@ -2,8 +2,8 @@
 #include "support/FakeHost.h"
 
 #include "host/ErrorLog.h"
-#include "host/HostCalls.h"
 #include "host/Host.h"
+#include "host/HostCalls.h"
 #include "host/Outside.h"
 #include "host/Paths.h"
 

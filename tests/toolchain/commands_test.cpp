@@ -233,8 +233,7 @@ TEST_F(CommandsTest, TheProgressWindowFollowsTheCompileThatItTellsOf) {
     processes.WillStart({.ends = false});
     CheckForErrors(ActiveForm()->FullFilename);
     session.host.dock.FindDocumentWindow(first)->Activate();
-    MakeActive(gProjects.Find(first) ? static_cast<frmDoc*>(gProjects.Find(first)->Sources.Item(0).get())
-                                     : nullptr);
+    MakeActive(gProjects.Find(first) ? &FormOf(*gProjects.Find(first)->Sources.Item(0)) : nullptr);
     CompilerOutput::StopShown(); // the second one's, although the first is in front
     EXPECT_TRUE(ActiveForm()->ShellClass->Running());
     EXPECT_EQ(processes.killed, 1);

@@ -256,7 +256,7 @@ TEST_F(ExplorerTest, FileScopeShowsTheActiveFileAlone) {
     Button("Project").click();
     EXPECT_EQ(Rows("lvGlobals"), (Texts{"a%|a.bb", "b%|b.bb"}));
     // The scope belongs to documents; the help tab has none.
-    host.dock.AddDocumentWindow("HELP WINDOW", "Help", nullptr).SetVisible(true);
+    host.dock.AddDocumentWindow(HelpWindowKey, "Help", nullptr).SetVisible(true);
     Button("File").click();
     EXPECT_FALSE(Button("File").isChecked());
     EXPECT_EQ(Rows("lvGlobals"), (Texts{"a%|a.bb", "b%|b.bb"}));
@@ -442,7 +442,7 @@ TEST_F(ExplorerTest, DeclarationsAndPlacesLeadThroughAllFiles) {
 
 TEST_F(ExplorerTest, BookmarksLeadThroughAllFilesPastTheHelpTab) {
     OpenProject("a\r\na\r\na\r\n", "b\r\nb\r\nb\r\n");
-    host.dock.AddDocumentWindow("HELP WINDOW", "Help", nullptr);
+    host.dock.AddDocumentWindow(HelpWindowKey, "Help", nullptr);
     Mod_Sci::MarkerAdd(1, Mod_Parse::MarkerBookmark);
     Front("b.bb");
     for (const int line : {0, 2}) Mod_Sci::MarkerAdd(line, Mod_Parse::MarkerBookmark);

@@ -92,7 +92,7 @@ protected:
         for (const auto& entry : gProjects)
             for (const auto& source : entry.record->Sources) {
                 project->Sources.Add(source.record, source.key);
-                documents.push_back(static_cast<frmDoc*>(source.record.get()));
+                documents.push_back(&FormOf(*source.record));
             }
         gProjects.Add(project, "joined");
         for (frmDoc* document : documents) {

@@ -2,6 +2,7 @@
 // file, its own tab and its own tables.
 #include "WindowTest.h"
 #include "app/wire_up.h"
+#include "host/ErrorLog.h"
 #include "host/HostCalls.h"
 #include "host/Outside.h"
 #include "host/qt/system/QtDesktop.h"
@@ -89,7 +90,7 @@ struct HandoverTest : WindowTest {
                 EXPECT_EQ(source.key, source.record->FullFilename);
                 const DocumentWindow* tab = dock->FindDocumentWindow(source.key);
                 ASSERT_NE(tab, nullptr) << source.key;
-                EXPECT_EQ(tab->HostedForm(), static_cast<frmDoc*>(source.record.get()));
+                EXPECT_EQ(tab->HostedForm(), &FormOf(*source.record));
             }
             std::set<std::string> globals, expected;
             for (const SymbolPointer& symbol : project.record->Globals.Items()) globals.insert(symbol->Ime);
@@ -105,7 +106,7 @@ struct HandoverTest : WindowTest {
         EXPECT_EQ(gCurrentProject, gProjects.Find(ActiveForm()->PrjFullPath));
     }
     static std::string TextOf(const ClsProject& project) {
-        frmDoc& document = static_cast<frmDoc&>(*project.Sources.Item(0));
+        frmDoc& document = FormOf(*project.Sources.Item(0));
         const ActiveSwap swap(document);
         document.m_oSubclass->DeactivateCheck();
         return Mod_Sci::GetText();

@@ -134,9 +134,7 @@ TEST_F(WindowTest, TheTabsMenuHoldsWhatFitsTheDocument) {
 TEST_F(WindowTest, NextTabBeginsWithTheTabBefore) {
     for (const char* name : {"a.bb", "b.bb", "c.bb"})
         ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, "Print 1\r\n")));
-    const auto active = [&] {
-        return static_cast<frmDoc*>(dock->ActiveDocumentWindow()->HostedForm())->Filename;
-    };
+    const auto active = [&] { return DocumentIn(dock->ActiveDocumentWindow())->Filename; };
     const auto release = [&] { QTest::keyRelease(&dock->Window(), Qt::Key_Control); };
     const auto press = [&] {
         QTest::keyPress(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);

@@ -11,8 +11,8 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "host/ErrorLog.h"
-#include "host/HostCalls.h"
 #include "host/Host.h"
+#include "host/HostCalls.h"
 #include "host/Paths.h"
 #include "host/Text.h"
 
@@ -44,11 +44,11 @@ MessageAnswer QuietDialogs::Show(const Message& message) {
 }
 
 void DocumentEvents::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
-    if (!creating && window.HostedForm()) MakeActive(static_cast<frmDoc*>(window.HostedForm()));
+    if (frmDoc* document = DocumentIn(window); document && !creating) MakeActive(document);
 }
 
 void DocumentEvents::DS_DocumentWindowHidden(DocumentWindow& window) {
-    auto* document = static_cast<frmDoc*>(window.HostedForm());
+    frmDoc* document = DocumentIn(window);
     window.Attach(nullptr);
     if (document) UnloadDocument(document);
     gHost.dock->DropDocumentWindow(window);

@@ -21,9 +21,9 @@ void ForEachDocument(const std::shared_ptr<ClsProject>& project, const std::func
     if (!project) return; // the last document was closed
     frmDoc* const before = ActiveForm();
     for (const auto& source : project->Sources) {
-        auto* document = static_cast<frmDoc*>(source.record.get());
-        MakeActive(document);
-        visit(*document);
+        frmDoc& document = FormOf(*source.record);
+        MakeActive(&document);
+        visit(document);
     }
     MakeActive(before);
 }

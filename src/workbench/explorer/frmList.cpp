@@ -33,10 +33,7 @@ constexpr int LinePadding = 16; // pixels
 constexpr int TypingPauseMilliseconds = 250;
 
 // The document of the active window, which is not always the view that is being served.
-const frmDoc* ActiveDocument() {
-    const DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
-    return window == nullptr ? nullptr : dynamic_cast<frmDoc*>(window->HostedForm());
-}
+const frmDoc* ActiveDocument() { return DocumentIn(gHost.dock->ActiveDocumentWindow()); }
 
 }
 

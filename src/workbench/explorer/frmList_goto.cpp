@@ -19,8 +19,7 @@ namespace {
 
 frmDoc* DocumentOf(const ClsProject& project, const Symbol& symbol) {
     for (const auto& source : project.Sources)
-        if (source.record->SciEdi_WndData == symbol.SciWndData)
-            return static_cast<frmDoc*>(source.record.get());
+        if (source.record->SciEdi_WndData == symbol.SciWndData) return &FormOf(*source.record);
     return nullptr;
 }
 

@@ -1,6 +1,7 @@
 // The Code Explorer pane: its buttons and its filter.
 #include "workbench/explorer/frmMainList.h"
 
+#include "documents/DocumentCalls.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "host/ErrorLog.h"
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr const char* HelpWindow = "HELP WINDOW";
 constexpr QSize PaneSize(320, 420); // used if the arrangement has no size for the pane
 constexpr int Spacing = 2;
 
@@ -33,7 +33,7 @@ protected:
 
 bool HelpIsActive() {
     const DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
-    return window != nullptr && window->Key() == HelpWindow;
+    return window != nullptr && window->Key() == HelpWindowKey;
 }
 
 void FocusDocument() {

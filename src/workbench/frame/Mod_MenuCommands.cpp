@@ -24,9 +24,9 @@ constexpr int StrictStyle = 16;
 void RestyleVisible() {
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources) {
-            auto* document = static_cast<frmDoc*>(source.record.get());
-            document->State.mOldStartLine = -100;
-            document->Redraw();
+            frmDoc& document = FormOf(*source.record);
+            document.State.mOldStartLine = -100;
+            document.Redraw();
         }
 }
 
@@ -87,7 +87,7 @@ void cboCompilers() {
             return; // it was active already, as the substitute of an unknown compiler
         gActiveCompiler = compiler;
         for (const auto& source : project.Sources) {
-            auto& document = static_cast<frmDoc&>(*source.record);
+            frmDoc& document = FormOf(*source.record);
             if (!project.SingleFile) document.CompilerUsed = compiler->Name;
             document.m_oSubclass->ParseAnew();
         }

@@ -78,11 +78,7 @@ void frmMain::PopulateCboCommandLine() {
     if (DockCommand* box = gHost.dock->FindCommand("cboCommandLine")) box->SetItems(MRUCommandLine.Items());
 }
 
-frmDoc* frmMain::ActiveDocument() {
-    DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
-    if (!window || window->Key() == HelpWindowKey) return nullptr;
-    return dynamic_cast<frmDoc*>(window->HostedForm());
-}
+frmDoc* frmMain::ActiveDocument() { return DocumentIn(gHost.dock->ActiveDocumentWindow()); }
 
 void frmMain::UpdateCommandUI() {
     gHost.dock->SuspendRepaint(true);

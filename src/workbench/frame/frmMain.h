@@ -8,9 +8,6 @@
 
 class frmDoc;
 
-// The key of the help tab, which holds no document.
-inline constexpr const char* HelpWindowKey = "HELP WINDOW";
-
 // The keys of the last active document windows; NextFileTab swaps between them.
 struct RecentTabs {
     std::string current;

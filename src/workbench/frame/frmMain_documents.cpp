@@ -3,6 +3,7 @@
 
 #include "documents/CloseFiles.h"
 #include "documents/CompilerRegistry.h"
+#include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
 #include "documents/Options.h"
@@ -27,8 +28,6 @@ constexpr int InsideDocument = 1;
 constexpr int OnTab = 3;
 
 bool IsHelp(const DocumentWindow& window) { return window.Key() == HelpWindowKey; }
-
-frmDoc* DocumentOf(const DocumentWindow& window) { return dynamic_cast<frmDoc*>(window.HostedForm()); }
 
 bool SingleFile() { return !gCurrentProject || gCurrentProject->SingleFile; }
 
@@ -55,7 +54,7 @@ void frmMain::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
             ShowProgressPane(true);
             MakeActive(nullptr);
             UpdateCommandUI();
-        } else if (frmDoc* document = DocumentOf(window)) {
+        } else if (frmDoc* document = DocumentIn(window)) {
             ActivateDocument(*document);
         }
         if (tabs_.current == window.Key()) return;
@@ -93,7 +92,7 @@ void frmMain::ActivateDocument(frmDoc& document) {
 
 void frmMain::DS_DocumentWindowDeactivate(DocumentWindow& window) {
     Guarded("DS_DocumentWindowDeactivate", "frmMain", [&] {
-        frmDoc* document = IsHelp(window) ? nullptr : DocumentOf(window);
+        frmDoc* document = DocumentIn(window);
         if (document && document->m_oSubclass) document->m_oSubclass->DeactivateCheck();
     });
 }
@@ -104,7 +103,7 @@ void frmMain::DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
 
 void frmMain::DS_DocumentWindowHidden(DocumentWindow& window) {
     Guarded("DS_DocumentWindowHidden", "frmMain", [&] {
-        frmDoc* document = DocumentOf(window);
+        frmDoc* document = DocumentIn(window);
         window.Attach(nullptr);
         if (document) UnloadDocument(document);
         gHost.dock->DropDocumentWindow(window);
