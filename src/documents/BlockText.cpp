@@ -1,19 +1,12 @@
 // The form of project and workspace files.
 #include "documents/BlockText.h"
 
-#include "host/Paths.h"
-
-#include <algorithm>
+#include "host/Text.h"
 
 std::vector<std::string> BlockLines(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t end = std::min(text.find('\n', from), text.size());
-        std::string line = text.substr(from, end - from);
+    std::vector<std::string> lines = Split(text, '\n');
+    for (std::string& line : lines)
         if (line.ends_with('\r')) line.pop_back();
-        lines.push_back(std::move(line));
-        from = end + 1;
-    }
     return lines;
 }
 

@@ -5,7 +5,7 @@
 #include "host/Dialogs.h"
 #include "host/Failure.h"
 #include "host/Host.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <algorithm>
 

@@ -8,7 +8,9 @@
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Paths.h"
 #include "host/SettingsStore.h"
+#include "host/Text.h"
 
 #include <cstdlib>
 #include <set>

@@ -15,6 +15,7 @@
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Paths.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
 

@@ -21,6 +21,7 @@
 #include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Outside.h"
+#include "host/Paths.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
@@ -177,16 +178,6 @@ std::string AskForFile() {
     return {};
 }
 
-std::vector<std::string> SplitAtBlanks(const std::string& text) {
-    std::vector<std::string> parts;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t blank = std::min(text.find(' ', from), text.size());
-        parts.push_back(text.substr(from, blank - from));
-        from = blank + 1;
-    }
-    return parts;
-}
-
 std::string WithoutQuotes(std::string token) {
     if (token.starts_with('"')) token.erase(0, 1);
     if (token.ends_with('"')) token.pop_back();
@@ -260,7 +251,7 @@ void NewFile() {
 
 void OpenFilesFromCommand(const std::string& commandLine) {
     Guarded("OpenFilesFromCommand", "Mod_File", [&] {
-        std::vector<std::string> tokens = SplitAtBlanks(commandLine);
+        std::vector<std::string> tokens = Split(commandLine, ' ');
         long line = 0;
         const auto open = [&](const std::string& path) {
             if (path.empty() || gHost.desktop->ShortPath(path).empty()) return false;

@@ -10,6 +10,7 @@
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

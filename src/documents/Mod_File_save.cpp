@@ -17,6 +17,8 @@
 #include "host/Files.h"
 #include "host/Guards.h"
 #include "host/Host.h"
+#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 namespace Mod_File {

@@ -10,6 +10,7 @@
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
+#include "host/Text.h"
 
 namespace Mod_File {
 

@@ -16,6 +16,7 @@
 #include "host/Host.h"
 #include "host/HostCalls.h"
 #include "host/Outside.h"
+#include "host/Paths.h"
 #include "host/SettingsStore.h"
 
 #include <cmath>

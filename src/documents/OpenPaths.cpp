@@ -6,6 +6,7 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
+#include "host/Text.h"
 
 namespace Mod_File {
 

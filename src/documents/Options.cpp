@@ -7,6 +7,7 @@
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
+#include "host/Text.h"
 
 #include <charconv>
 

@@ -4,7 +4,7 @@
 
 #include "engine/Keywords.h"
 #include "engine/Mod_Lexer.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <string>

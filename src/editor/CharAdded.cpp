@@ -8,7 +8,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

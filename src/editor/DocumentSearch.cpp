@@ -1,7 +1,6 @@
 // Searching one document through its view's target.
 #include "editor/DocumentSearch.h"
 
-#include "host/Paths.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
 

@@ -13,7 +13,7 @@
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 namespace Mod_SciFun {

@@ -11,7 +11,7 @@
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

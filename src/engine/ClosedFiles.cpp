@@ -4,7 +4,7 @@
 
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 namespace {
 

@@ -7,6 +7,8 @@
 #include "host/ErrorLog.h"
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Paths.h"
+#include "host/Text.h"
 
 CollectionTools<ClsCompiler> gCompilers;
 std::shared_ptr<ClsCompiler> gActiveCompiler;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <algorithm>
 #include <memory>

@@ -5,7 +5,7 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/Symbols.h"
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "engine/Keywords.h"
 
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 
 #include "engine/Keywords.h"
 #include "engine/Mod_Parse_walk.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <cstring>
 

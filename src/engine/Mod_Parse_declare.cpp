@@ -8,7 +8,7 @@
 #include "engine/ParserState.h"
 #include "engine/ScopeMoves.h"
 #include "engine/SymbolLine.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 namespace Mod_Parse {

@@ -3,7 +3,7 @@
 
 #include "engine/ClsCompiler.h"
 #include "engine/ParserState.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 namespace Mod_Parse {
 

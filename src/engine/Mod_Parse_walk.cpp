@@ -7,7 +7,7 @@
 #include "engine/EngineCalls.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

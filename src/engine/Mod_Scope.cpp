@@ -9,6 +9,7 @@
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "host/ErrorLog.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

@@ -7,7 +7,7 @@
 #include "engine/Mod_Parse.h"
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <algorithm>

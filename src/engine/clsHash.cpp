@@ -5,7 +5,7 @@
 #include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <algorithm>
 

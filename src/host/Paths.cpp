@@ -3,6 +3,7 @@
 
 #include "host/Files.h"
 #include "host/Host.h"
+#include "host/Text.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -16,9 +17,6 @@ std::string Environment(const char* name) {
     const char* value = std::getenv(name);
     return value ? value : "";
 }
-
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 std::string WithoutEndSeparator(std::string path) {
     while (path.size() > 1 && path.back() == '/') path.pop_back();
@@ -90,27 +88,4 @@ std::string GetExtension(std::string_view path) {
 std::string GetBaseName(std::string_view path) {
     const std::string name = GetFileName(path);
     return name.substr(0, name.find_last_of('.'));
-}
-
-bool EqualNoCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
-}
-
-std::string UCase(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), Upper);
-    return result;
-}
-
-std::string LCase(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), Lower);
-    return result;
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }

@@ -39,13 +39,3 @@ std::string GetExtension(std::string_view path);
 
 // The name without its folder and without its extension.
 std::string GetBaseName(std::string_view path);
-
-// Two texts are equal but for the case of A to Z.
-bool EqualNoCase(std::string_view a, std::string_view b);
-
-// A to Z for a to z, all other bytes as they are.
-std::string UCase(std::string_view text);
-std::string LCase(std::string_view text);
-
-// The text without blanks and tabs at both ends.
-std::string_view TrimBlanks(std::string_view text);

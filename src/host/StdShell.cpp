@@ -122,7 +122,7 @@ void StdShell::Poll(ChildPipe pipe, std::string& partial, const LineEvent& event
     std::string bytes;
     if (!error && count > 0) error = child_->Read(pipe, count, bytes);
     if (error) return Report(error);
-    if (!bytes.empty()) Split(bytes, partial, event);
+    if (!bytes.empty()) DeliverLines(bytes, partial, event);
 }
 
 // A program's last line often has no line end behind it.
@@ -144,7 +144,7 @@ void StdShell::FeedInput() {
 
 void StdShell::Report(const SystemError& error) { Raise(Error, error.text, error.number); }
 
-void StdShell::Split(const std::string& data, std::string& partial, const LineEvent& event) {
+void StdShell::DeliverLines(const std::string& data, std::string& partial, const LineEvent& event) {
     const auto alive = alive_;
     const LineEvent deliver = event;
     const auto raise = [&](std::string line) {

@@ -51,7 +51,7 @@ private:
     static void DeliverRest(std::string& partial, const LineEvent& event);
     void FeedInput();
     void Report(const SystemError& error);
-    void Split(const std::string& data, std::string& partial, const LineEvent& event);
+    void DeliverLines(const std::string& data, std::string& partial, const LineEvent& event);
 
     // Becomes false when this object ends; event handlers may end it.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);

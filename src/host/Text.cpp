@@ -1,5 +1,5 @@
-// Bytes of unknown origin as UTF-8. Sources are older than UTF-8, so what is no valid UTF-8 is taken for
-// the Western code page that their editors wrote.
+// Text as bytes. Sources may be older than UTF-8, so bytes that are not valid UTF-8 are read as the Western
+// code page that the editors of their time wrote.
 #include "host/Text.h"
 
 #include <algorithm>
@@ -14,6 +14,9 @@ constexpr std::array<char16_t, 32> HighControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 struct Character {
     std::uint32_t code;
@@ -50,6 +53,39 @@ void Append(std::string& text, char16_t code) {
     }
 }
 
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
+}
+
+std::string UCase(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), Upper);
+    return result;
+}
+
+std::string LCase(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), Lower);
+    return result;
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == text.npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::vector<std::string> Split(std::string_view text, char separator) {
+    std::vector<std::string> pieces;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, from), text.size());
+        pieces.emplace_back(text.substr(from, end - from));
+        from = end + 1;
+    }
+    return pieces;
 }
 
 bool IsUtf8(std::string_view bytes) {

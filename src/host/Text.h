@@ -1,8 +1,22 @@
-// Bytes of unknown origin as UTF-8, for whoever shows them.
+// Text as bytes: letter case, blanks and separators, and the two encodings that a text may be in.
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+// Whether two texts differ in the case of A to Z at most.
+bool EqualNoCase(std::string_view a, std::string_view b);
+
+// The text with a to z in upper case, or A to Z in lower case. All other bytes stay as they are.
+std::string UCase(std::string_view text);
+std::string LCase(std::string_view text);
+
+// The text without the blanks and tabs at its ends.
+std::string_view TrimBlanks(std::string_view text);
+
+// The pieces between separators, empty ones included: one more than there are separators.
+std::vector<std::string> Split(std::string_view text, char separator);
 
 // Whether the bytes are well-formed UTF-8: no overlong forms, no surrogates.
 bool IsUtf8(std::string_view bytes);

@@ -13,7 +13,9 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Outside.h"
+#include "host/Paths.h"
 #include "host/SettingsStore.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
 
@@ -48,13 +50,9 @@ std::optional<ErrorLine> Read(const std::string& line) {
     if (line.empty() || line[0] != '"' || second == std::string::npos) return std::nullopt;
     ErrorLine error;
     error.file = line.substr(1, second - 1);
-    std::size_t from = second + 1;
-    for (std::string& field : error.fields) {
-        if (from > line.size()) break;
-        const std::size_t end = std::min(line.find(':', from), line.size());
-        field = line.substr(from, end - from);
-        from = end + 1;
-    }
+    std::vector<std::string> fields = Split(std::string_view(line).substr(second + 1), ':');
+    fields.resize(error.fields.size());
+    std::move(fields.begin(), fields.end(), error.fields.begin());
     const auto row = Number(error.fields[1]), column = Number(error.fields[2]);
     if (!row || !column) return std::nullopt;
     error.row = *row;

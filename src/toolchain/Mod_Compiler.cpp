@@ -15,6 +15,7 @@
 #include "host/Files.h"
 #include "host/Guards.h"
 #include "host/Host.h"
+#include "host/Paths.h"
 #include "host/Processes.h"
 #include "toolchain/CompilerOutput.h"
 #include "toolchain/ToolchainCalls.h"

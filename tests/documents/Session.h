@@ -3,7 +3,6 @@
 #pragma once
 
 #include "editor/frmDoc.h"
-#include "host/Paths.h"
 #include "support/FakeHost.h"
 
 #include <string>

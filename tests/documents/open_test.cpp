@@ -4,6 +4,7 @@
 #include "documents/Session.h"
 #include "engine/ClsProject.h"
 #include "host/Host.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <filesystem>

@@ -3,6 +3,7 @@
 #include "documents/Session.h"
 #include "editor/EditorCalls.h"
 #include "engine/OptionsEdit.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <QAbstractScrollArea>

@@ -9,6 +9,7 @@
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "host/Host.h"
+#include "host/Text.h"
 
 #include <gtest/gtest.h>
 

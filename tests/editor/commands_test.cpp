@@ -3,7 +3,7 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/Mod_SciFun_edit.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 namespace {
 

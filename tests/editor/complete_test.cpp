@@ -2,7 +2,6 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/Mod_SciFun_complete.h"
-#include "host/Paths.h"
 
 #include <QApplication>
 #include <QKeyEvent>

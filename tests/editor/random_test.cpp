@@ -9,7 +9,7 @@
 
 #include "editor/FindRun.h"
 #include "editor/Mod_SciFun_edit.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <QCoreApplication>
 #include <Qsci/qsciscintillabase.h>

@@ -12,6 +12,7 @@
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
 #include "host/Host.h"
+#include "host/Text.h"
 #include "toolchain/Mod_Compiler.h"
 #include "toolchain/ToolchainCalls.h"
 

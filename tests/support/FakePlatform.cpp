@@ -3,7 +3,7 @@
 
 #include "host/Failure.h"
 #include "host/Outside.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -4,7 +4,6 @@
 #include "engine/ParserState.h"
 #include "host/Files.h"
 #include "host/Host.h"
-#include "host/Paths.h"
 #include "host/qt/commands/QtCommand.h"
 #include "host/qt/layout/Layout.h"
 #include "support/FakeHost.h"

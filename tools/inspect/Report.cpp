@@ -6,7 +6,7 @@
 #include "engine/ClsProject.h"
 #include "engine/Mod_Parse.h"
 #include "engine/ParserState.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 
 #include <QCryptographicHash>

@@ -2,7 +2,7 @@
 #include "workbench/explorer/CodeModel.h"
 
 #include "engine/Mod_Lexer.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "workbench/parts/Shown.h"
 #include "workbench/parts/SymbolIcons.h"
 

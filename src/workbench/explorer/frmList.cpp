@@ -6,7 +6,8 @@
 #include "engine/SymbolLine.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
-#include "host/Paths.h"
+#include "host/Text.h"
+#include "host/Twips.h"
 
 #include <QHeaderView>
 #include <QSplitter>
@@ -26,7 +27,6 @@ namespace {
 
 enum : std::size_t { Functions = 0, Types = 2, Includes = 6 };
 
-constexpr int TwipsPerPixel = 15;
 constexpr int FileColumnTwips = 4000;
 constexpr int NameColumnPixels = 170;
 constexpr int LinePadding = 16; // pixels

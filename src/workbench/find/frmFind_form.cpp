@@ -4,6 +4,7 @@
 #include "documents/ClsMRU.h"
 #include "host/Host.h"
 #include "host/SettingsStore.h"
+#include "host/Twips.h"
 #include "sci/Mod_Sci.h"
 
 #include <QApplication>
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int FieldWidth = 320;
 constexpr int FindEntries = 5;
 constexpr int ReplaceEntries = 10;

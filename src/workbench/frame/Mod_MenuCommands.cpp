@@ -10,6 +10,7 @@
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
+#include "host/Text.h"
 #include "sci/Mod_Sci.h"
 #include "workbench/frame/KeyWatch.h"
 #include "workbench/frame/frmMain.h"

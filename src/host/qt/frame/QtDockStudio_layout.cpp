@@ -1,5 +1,6 @@
 // The arrangement as a whole: loading, saving, and the place of the window.
 #include "host/Failure.h"
+#include "host/Twips.h"
 #include "host/qt/frame/QtDockStudio.h"
 #include "host/qt/frame/StartPage.h"
 #include "host/qt/system/Painting.h"
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 enum : int { Normal = 0, Minimised = 1, Maximised = 2 };
 
 }

@@ -49,7 +49,7 @@ QString NameOf(const std::pair<const char*, Kind> (&names)[Count], Kind kind) {
     return {};
 }
 
-QString Shown(const std::string& text) { return QString::fromStdString(text); }
+QString FromUtf8(const std::string& text) { return QString::fromStdString(text); }
 
 // "-" in front of a name begins a group.
 LayoutEntries ReadEntries(const QJsonValue& value) {
@@ -71,7 +71,7 @@ QJsonArray EntriesToJson(const LayoutEntries& entries) {
     QJsonArray array;
     for (const LayoutEntry& entry : entries) {
         if (entry.beginGroup) array.append("-");
-        array.append(Shown(entry.command));
+        array.append(FromUtf8(entry.command));
     }
     return array;
 }
@@ -84,7 +84,7 @@ std::vector<std::string> ReadTexts(const QJsonValue& value) {
 
 QJsonArray TextsToJson(const std::vector<std::string>& texts) {
     QJsonArray array;
-    for (const std::string& text : texts) array.append(Shown(text));
+    for (const std::string& text : texts) array.append(FromUtf8(text));
     return array;
 }
 
@@ -107,13 +107,13 @@ LayoutCommand ReadCommand(const QJsonObject& object) {
 }
 
 QJsonObject CommandToJson(const LayoutCommand& command) {
-    QJsonObject object{{"name", Shown(command.name)}, {"caption", Shown(command.caption)}};
+    QJsonObject object{{"name", FromUtf8(command.name)}, {"caption", FromUtf8(command.caption)}};
     if (command.kind != CommandKind::Item) object["kind"] = NameOf(KindNames, command.kind);
-    if (!command.category.empty()) object["category"] = Shown(command.category);
-    if (!command.icon.empty()) object["icon"] = Shown(command.icon);
-    if (!command.tip.empty()) object["tip"] = Shown(command.tip);
+    if (!command.category.empty()) object["category"] = FromUtf8(command.category);
+    if (!command.icon.empty()) object["icon"] = FromUtf8(command.icon);
+    if (!command.tip.empty()) object["tip"] = FromUtf8(command.tip);
     if (!command.shortcuts.empty()) object["shortcuts"] = TextsToJson(command.shortcuts);
-    if (!command.keysFrom.empty()) object["keysFrom"] = Shown(command.keysFrom);
+    if (!command.keysFrom.empty()) object["keysFrom"] = FromUtf8(command.keysFrom);
     if (command.checked) object["checked"] = *command.checked;
     if (!command.visible) object["visible"] = false;
     if (command.width != 0) object["width"] = command.width;
@@ -148,14 +148,15 @@ LayoutPane ReadPane(const QJsonObject& object) {
 void Check(const Layout& layout) {
     QSet<QString> names;
     const auto once = [](QSet<QString>& seen, const std::string& name, const char* what) {
-        if (seen.contains(Shown(name))) Refuse(QString(what) + " \"" + Shown(name) + "\" stands there twice");
-        seen.insert(Shown(name));
+        if (seen.contains(FromUtf8(name)))
+            Refuse(QString(what) + " \"" + FromUtf8(name) + "\" stands there twice");
+        seen.insert(FromUtf8(name));
     };
     for (const LayoutCommand& command : layout.commands) once(names, command.name, "command");
     const auto known = [&](const LayoutEntries& entries) {
         for (const LayoutEntry& entry : entries)
-            if (!names.contains(Shown(entry.command)))
-                Refuse("unknown command \"" + Shown(entry.command) + '"');
+            if (!names.contains(FromUtf8(entry.command)))
+                Refuse("unknown command \"" + FromUtf8(entry.command) + '"');
     };
     for (const LayoutCommand& command : layout.commands) known(command.entries);
     QSet<QString> bars, panes;
@@ -196,18 +197,18 @@ std::string WriteLayout(const Layout& layout) {
     QJsonArray commands, bars, panes;
     for (const LayoutCommand& command : layout.commands) commands.append(CommandToJson(command));
     for (const LayoutBar& bar : layout.bars)
-        bars.append(QJsonObject{{"name", Shown(bar.name)},
+        bars.append(QJsonObject{{"name", FromUtf8(bar.name)},
                                 {"kind", NameOf(BarNames, bar.kind)},
-                                {"caption", Shown(bar.caption)},
+                                {"caption", FromUtf8(bar.caption)},
                                 {"visible", bar.visible},
                                 {"entries", EntriesToJson(bar.entries)}});
     for (const LayoutPane& pane : layout.panes)
-        panes.append(QJsonObject{{"name", Shown(pane.name)},
-                                 {"caption", Shown(pane.caption)},
-                                 {"icon", Shown(pane.icon)},
-                                 {"area", Shown(pane.area)},
+        panes.append(QJsonObject{{"name", FromUtf8(pane.name)},
+                                 {"caption", FromUtf8(pane.caption)},
+                                 {"icon", FromUtf8(pane.icon)},
+                                 {"area", FromUtf8(pane.area)},
                                  {"visible", pane.visible},
-                                 {"tabbedWith", Shown(pane.tabbedWith)},
+                                 {"tabbedWith", FromUtf8(pane.tabbedWith)},
                                  {"autoHidden", pane.autoHidden},
                                  {"extent", pane.extent}});
     const QJsonObject root{{"format", Format},
@@ -218,6 +219,6 @@ std::string WriteLayout(const Layout& layout) {
                            {"start", TextsToJson(layout.start)},
                            {"offered", TextsToJson(layout.offered)},
                            {"documents", DocumentsToJson(layout.documents)},
-                           {"windowState", Shown(layout.windowState)}};
+                           {"windowState", FromUtf8(layout.windowState)}};
     return QJsonDocument(root).toJson(QJsonDocument::Indented).toStdString();
 }

@@ -2,6 +2,7 @@
 #include "host/qt/system/QtDesktop.h"
 
 #include "host/Outside.h"
+#include "host/Twips.h"
 #include "host/qt/system/Painting.h"
 #include "host/qt/system/QtText.h"
 
@@ -18,8 +19,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int TwipsPerPixel = 15;
 
 QMainWindow* MainWindow() {
     for (QWidget* widget : QApplication::topLevelWidgets())

@@ -2,7 +2,7 @@
 #include "host/qt/system/QtFiles.h"
 
 #include "host/Failure.h"
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "host/qt/system/FileHandle.h"
 #include "host/qt/system/QtText.h"
 #include "host/qt/system/SafeWrite.h"

@@ -2,7 +2,7 @@
 // because the library below would write a new one over it.
 #include "host/qt/system/QtSettingsStore.h"
 
-#include "host/Paths.h"
+#include "host/Text.h"
 #include "host/qt/system/OrphanedLock.h"
 #include "host/qt/system/QtText.h"
 

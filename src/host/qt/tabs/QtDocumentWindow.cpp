@@ -1,7 +1,6 @@
 // One document window: a page in a group of tabs that hosts a form.
 #include "host/qt/tabs/QtDocumentWindow.h"
 
-#include "host/Paths.h"
 #include "host/qt/system/QtText.h"
 #include "host/qt/tabs/TabGroup.h"
 
