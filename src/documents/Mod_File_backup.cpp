@@ -18,9 +18,6 @@ namespace Mod_File {
 
 namespace {
 
-constexpr int Stamped = 1;  // gBackupType
-constexpr int InFolder = 1; // gBackupStoreType
-
 std::string StoreFolder() { return CollapseSeparators(Options::gBackupStoreFolder + "/"); }
 
 // One level only: where the folder above is missing, a disk may not be there, and the copies would lie hidden
@@ -86,12 +83,12 @@ void Rotate(const std::string& stem) {
 
 void BackupFile(const std::string& path) {
     Guarded("BackupFile", "Mod_File", [&] {
-        const bool inFolder = Options::gBackupStoreType == InFolder;
+        const bool inFolder = Options::gBackupStoreType == Options::BackupInFolder;
         const std::string name = GetFileName(path);
         const std::string folder = inFolder ? StoreFolder() : std::string();
         // Read first: a file that cannot be read costs no older copy its place.
         const std::string bytes = gHost.files->Read(path);
-        const bool stamped = Options::gBackupType == Stamped;
+        const bool stamped = Options::gBackupType == Options::BackupStamped;
         if (!stamped) Rotate((inFolder ? folder + name : path) + ".bak");
         if (inFolder) MakeStoreFolder(folder);
         // Without a folder in front the copy goes to the folder that the program runs in.

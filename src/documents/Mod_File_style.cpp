@@ -1,6 +1,7 @@
 // Colour styles on disk: little-endian, no padding, one array after the other.
 #include "documents/Mod_File.h"
 
+#include "documents/OptionTable.h"
 #include "editor/StyleTable.h"
 #include "engine/OptionsEdit.h"
 #include "host/Dialogs.h"
@@ -9,7 +10,6 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/Paths.h"
-#include "host/SettingsStore.h"
 #include "host/Text.h"
 
 namespace Mod_File {
@@ -108,7 +108,7 @@ std::string LoadStyle(const std::string& name) {
                  MessageIcon::Exclamation);
             if (EqualNoCase(loaded, OptionsEdit::SciStyleName)) {
                 OptionsEdit::SciStyleName = "Default";
-                gHost.settings->Save("OptionsEdit", "SciStyleName", "Default");
+                WriteOption(OptionOf(OptionsEdit::SciStyleName));
             }
             loaded = "Default";
             if (gHost.files->Kind(StylePath(loaded)) != PathKind::File) {

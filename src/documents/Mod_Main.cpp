@@ -5,6 +5,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
+#include "documents/OptionTable.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/Mod_Lexer.h"
@@ -25,8 +26,6 @@ namespace {
 
 constexpr int WaitRounds = 31; // for a first instance that has not published its handle yet
 constexpr const char* BringForward = "Aktiviraj";
-constexpr int StartUpLastWorkspace = 1;
-constexpr int StartUpNewFile = 2;
 constexpr int StrictBadStyle = 16;
 
 int lastWindowState = 0; // the last state of the main window that was not minimised
@@ -64,9 +63,9 @@ bool Main(const std::string& commandLine) {
         // Painting stays frozen until the first document is there: an empty window is painted for nothing.
         if (!commandLine.empty())
             Mod_File::OpenFilesFromCommand(commandLine);
-        else if (Options::gStartUp == StartUpLastWorkspace)
+        else if (Options::gStartUp == Options::StartRestoresWorkspace)
             Mod_File::LoadWorkSpace(Mod_File::LastWorkspace());
-        else if (Options::gStartUp == StartUpNewFile)
+        else if (Options::gStartUp == Options::StartOpensNewFile)
             Mod_File::NewFile();
         gHost.desktop->LockWindowUpdate(false);
         return true;

@@ -21,8 +21,6 @@ namespace {
 
 using Mod_Parse::ColoringScope;
 
-constexpr int LikeLineAbove = 1; // AutoIndentType
-
 std::uint8_t CharAt(std::intptr_t position) {
     return static_cast<std::uint8_t>(Mod_Sci::GetCharAt(position));
 }
@@ -132,7 +130,7 @@ void CharAdded(int ch) {
         return;
     }
     if (EndsLine(ch)) {
-        if (OptionsEdit::AutoIndentType == LikeLineAbove) LikeAbove();
+        if (OptionsEdit::AutoIndentType == OptionsEdit::IndentLikeLineAbove) LikeAbove();
     } else if (ch == ' ') {
         state.mShowCallTip = true;
         state.mSpaceTyped = true;

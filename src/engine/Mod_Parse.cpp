@@ -129,7 +129,8 @@ void LineParser::Identifier() {
         opens_ += keyword->word == Word::Select ? 2 : 1;
         if (RememberScopeKeyword) opened_.push_back(keyword->Ime);
     }
-    if (OptionsEdit::AutoIndentType == 2 && keyword->IsEndScope) EndScope(keyword->word);
+    if (OptionsEdit::AutoIndentType == OptionsEdit::IndentByScope && keyword->IsEndScope)
+        EndScope(keyword->word);
 
     if (NextIsName()) {
         Dispatch(keyword->word);
@@ -179,7 +180,8 @@ void LineParser::EndScope(Word word) {
 }
 
 void LineParser::Indent() {
-    if (OptionsEdit::AutoIndentType != 2 || gActiveDoc->State.mLastOperationUndoRedo) return;
+    if (OptionsEdit::AutoIndentType != OptionsEdit::IndentByScope || gActiveDoc->State.mLastOperationUndoRedo)
+        return;
     IndentLevel = std::max(1, IndentLevel - closes_);
     if (!startsWithComment_) {
         const int target = (IndentLevel - 1) * OptionsEdit::TabValue;

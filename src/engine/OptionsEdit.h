@@ -1,21 +1,20 @@
-// The settings of section OptionsEdit, one global a key.
+// The options of section OptionsEdit. OptionsEdit.def has their defaults, ranges and meanings.
 #pragma once
 
 #include <string>
 
 namespace OptionsEdit {
 
-// All written by Options::GetEditOptions and by the preferences alone.
-extern int HighlightCurrentLine, AutoIndentType, AutoIndentOnLoad, EmptyUndo, FixVariableCase,
-    ReplaceVarPlusPlus, HighlightMatchedBraces, ShowIndentGuides, ShowWhiteSpaces, InsertSpacesForTabs,
-    ShowCurrentFunction, ShowLineNumbers, ShowFoldMargin, ShowMarkerMargin, TabValue, CursorPeriod,
-    CursorWidth, WordWrap, WordWrapFlags, WordWrapFlagLocation, WordWrapStartIndent, Hmargin, Vmargin,
-    HmarginStrict, GotoPositionsAtTop, ACshowOnlyLonger, ACshowWhenNoMore, ACstartAfter, ACRowsHeight,
-    PopupCallTips, BreakpointsAsBackground, CBrowserMarkAsNew, CBrowserRememberOnGotoDefinition,
-    BookMarksSingleFileBased, SaveBookmarks, SaveFoldingState, SaveCompilerCommandLine, FileDirtyOnBookmarks,
-    EachHelpInNewTab, IFNoHelpFound, HomeGoesToFirst, CheckForMissingBracesOnFunctions, KeepLineEnds;
-extern int ACshowAuto, ACcompleteOnlyOne, ACEnterAccepts, ACIncKeywords, ACIncVars, ACIncConstants,
-    ACIncFunctions, ACCloseListOnDelete, ACCloseListOnNoMatch, ACCloseListOnMatch, ACTypesLabelsEnable;
-extern std::string ACFillUpChars, ACStopChars, SciStyleName;
+// Codes of AutoIndentType.
+enum : int { IndentNone = 0, IndentLikeLineAbove = 1, IndentByScope = 2 };
+// Bits of WordWrapFlags and WordWrapFlagLocation.
+enum : int { WrapMarkAtEnd = 1, WrapMarkAtBegin = 2 };
+// Codes of IFNoHelpFound.
+enum : int { NoHelpPage = 0, HelpIndex = 1, HelpCommandIndex = 2 };
+
+// Written by the functions of documents/OptionTable.h and by the preferences alone.
+#define NUMBER(name, byDefault, range, unit, meaning) extern int name;
+#define TEXT(name, byDefault, meaning) extern std::string name;
+#include "engine/OptionsEdit.def"
 
 } // namespace OptionsEdit

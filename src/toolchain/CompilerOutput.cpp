@@ -4,6 +4,7 @@
 
 #include "documents/Mod_File.h"
 #include "documents/OpenPaths.h"
+#include "documents/OptionTable.h"
 #include "documents/Options.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
@@ -14,7 +15,6 @@
 #include "host/Host.h"
 #include "host/Outside.h"
 #include "host/Paths.h"
-#include "host/SettingsStore.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
 #include "toolchain/ToolchainCalls.h"
@@ -143,7 +143,7 @@ public:
         EndCompile();
         if (job_.kind == CompilerJob::Kind::Build && exitCode == 0) {
             Options::gLastCreatedExe = job_.target;
-            gHost.settings->Save("Options", "gLastCreatedExe", Options::gLastCreatedExe);
+            WriteOption(OptionOf(Options::gLastCreatedExe));
         }
         gToolchainCalls.ScrollOutputToEnd();
     }

@@ -166,7 +166,7 @@ bool StartJob(Job job, std::string path, bool debug) {
     gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
     if (!(gCurrentProject->SingleFile ? SingleFileToCompile(job, path) : ProjectFileToCompile(path)))
         return false;
-    if (Options::gOnCompileSave == 0) Mod_File::SaveAllFiles();
+    if (Options::gOnCompileSave == Options::CompileSavesAll) Mod_File::SaveAllFiles();
     std::string target;
     if (job == Job::Build) {
         target = AskForTarget(path);

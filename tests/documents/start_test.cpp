@@ -3,6 +3,7 @@
 #include "documents/DocumentCalls.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
+#include "documents/OptionTable.h"
 #include "documents/Options.h"
 #include "documents/Session.h"
 #include "engine/ClsCompiler.h"
@@ -11,6 +12,7 @@
 #include "host/Host.h"
 #include "host/Text.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -194,29 +196,37 @@ TEST_F(CompilersTest, ACompilerThatCannotServeGivesWayToTheDefaultAndIsToldOfOnc
 }
 
 struct SettingsTest : StartTest {
-    ~SettingsTest() override {
-        Options::gRecentFiles = 10;
-        OptionsEdit::TabValue = 4;
-        OptionsEdit::CursorWidth = 3;
-        OptionsEdit::ACcompleteOnlyOne = 0;
-    }
+    ~SettingsTest() override { std::ranges::for_each(AllOptions(), ResetOption); }
 };
 
 TEST_F(SettingsTest, AnEmptyStoreGivesTheDefaults) {
     Options::GetOptions();
     Options::GetEditOptions();
-    EXPECT_EQ(Options::gRecentFiles, 10);
     EXPECT_EQ(Options::gStartUp, 3);
-    EXPECT_EQ(Options::gDefNewName, "New");
-    EXPECT_EQ(Options::gOnCompileSave, 1);
-    EXPECT_EQ(Options::gBackupBakIncrement, 2);
-    EXPECT_EQ(OptionsEdit::AutoIndentType, 2);
+    EXPECT_EQ(Options::gBackupStoreFolder, session.host.Path("Backup"));
     EXPECT_EQ(OptionsEdit::CursorPeriod, 500);
-    EXPECT_EQ(OptionsEdit::Hmargin, 80);
-    EXPECT_EQ(OptionsEdit::ACFillUpChars, "(");
     EXPECT_EQ(OptionsEdit::ACStopChars, "/\\,.~`!@#$%^&*)-_=+{}[]:;?<>|\"");
-    EXPECT_EQ(OptionsEdit::IFNoHelpFound, 2);
     EXPECT_TRUE(session.host.settings.values.empty());
+}
+
+TEST_F(SettingsTest, EveryOptionComesBackAsItWasWrittenAndIsReset) {
+    for (const Option& option : AllOptions()) {
+        if (option.number) *option.number = 0;
+        if (option.text) *option.text = "?";
+        WriteOption(option);
+        ResetOption(option);
+        ReadOption(option);
+        EXPECT_EQ(option.number ? *option.number : 0, 0) << option.key;
+        EXPECT_EQ(option.text ? *option.text : "?", "?") << option.key;
+        ResetOption(option);
+        EXPECT_EQ(option.number ? *option.number : 0, option.defaultNumber) << option.key;
+        EXPECT_NE(option.text ? *option.text : "", "?") << option.key;
+    }
+    EXPECT_EQ(FindOption("tabVALUE")->number, &OptionsEdit::TabValue);
+    EXPECT_EQ(FindOption("TabValues"), nullptr);
+    EXPECT_EQ(&OptionOf(OptionsEdit::TabValue), FindOption("TabValue"));
+    EXPECT_FALSE(FindOption("WordWrapFlags")->range.Holds(4));
+    EXPECT_FALSE(FindOption("gRecentFiles")->range.Holds(4));
 }
 
 TEST_F(SettingsTest, KeysAreFoundInAnyCaseAndRangesAreNotChecked) {

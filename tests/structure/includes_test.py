@@ -77,7 +77,7 @@ def circles(tree, unit_of):
 
 
 def read_tree(root):
-    files = [path for ending in ("*.h", "*.cpp") for path in root.rglob(ending)]
+    files = [path for ending in ("*.h", "*.cpp", "*.def") for path in root.rglob(ending)]
     return {path.relative_to(root).as_posix(): path.read_text(errors="replace") for path in files}
 
 
