@@ -15,6 +15,7 @@
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Files.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "sci/Mod_Sci.h"
@@ -33,16 +34,13 @@ bool loading = false;
 // Nothing is painted, and nobody saves a workspace, while windows come and go.
 class LoadingScope {
 public:
-    LoadingScope() {
-        loading = true;
-        gHost.dock->SuspendRepaint(true);
-    }
-    ~LoadingScope() {
-        gHost.dock->SuspendRepaint(false);
-        loading = false;
-    }
+    LoadingScope() { loading = true; }
+    ~LoadingScope() { loading = false; }
     LoadingScope(const LoadingScope&) = delete;
     LoadingScope& operator=(const LoadingScope&) = delete;
+
+private:
+    const StillFrame still_;
 };
 
 WorkspaceView ViewOf(const frmDoc& document) {

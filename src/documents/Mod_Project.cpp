@@ -133,6 +133,54 @@ void BackToActive() {
     if (gCurrentProject) Mod_Main::SetActiveCompiler(gCurrentProject->Compiler);
 }
 
+// Empty when the user cancelled.
+std::string AskForProject() {
+    const auto chosen =
+        gHost.dialogs->OpenFiles({"Open File", "Zolto project files (*.zpf)|*.zpf", {}, {}, false});
+    return chosen.empty() ? std::string() : chosen[0];
+}
+
+// Whether an open project may be loaded again. Its changes are saved for that.
+bool MayBeReplaced(ClsProject& project) {
+    if (project.Sources.Count() > 0) {
+        Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
+        return false;
+    }
+    return !project.Dirty || SaveProject(project);
+}
+
+// The project of a file with its compiler set as the active one. Null, after a message, when the file is not
+// a project or one of the members is open otherwise.
+std::shared_ptr<ClsProject> ReadProject(const std::string& path) {
+    auto project = std::make_shared<ClsProject>();
+    if (!BuildProjectFromFile(path, *project)) {
+        Mod_File::TellLoadFailure({"Not a valid project file !", MessageIcon::Critical});
+        return nullptr;
+    }
+    if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
+        Mod_File::TellLoadFailure(
+            {"Some of the files in this project are already opened in Zolto as single file "
+             "or as part of another project:\r\n" +
+                 open + "\r\nSorry, in this release you can't have same file opened multiple times",
+             MessageIcon::Exclamation, "Project loading aborted..."});
+        return nullptr;
+    }
+    if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
+    Mod_Main::SetActiveCompiler(project->Compiler);
+    return project;
+}
+
+// Adds a project to gProjects and opens its members.
+void OpenRead(const std::shared_ptr<ClsProject>& project, bool fromWorkspace) {
+    gProjects.Add(project, project->FullPath);
+    {
+        const PipelineRest rest;
+        OpenMembers(project, fromWorkspace);
+    }
+    if (!fromWorkspace) ShowMainFile(*project);
+    if (project->Sources.Count() == 0) BackToActive();
+}
+
 template <class Collection, class Record>
 int SortedPlace(const Collection& collection, const Record& record) {
     const std::string name = UCase(record.Name);
@@ -195,43 +243,15 @@ bool BuildProjectFromFile(const std::string& path, ClsProject& project) {
 
 bool LoadProject(const std::string& wanted, bool fromWorkspace) {
     return Guarded("LoadProject", "Mod_File", false, [&] {
-        std::string path = wanted;
-        if (path.empty()) {
-            const auto chosen =
-                gHost.dialogs->OpenFiles({"Open File", "Zolto project files (*.zpf)|*.zpf", {}, {}, false});
-            if (chosen.empty()) return false;
-            path = chosen[0];
-        }
+        const std::string path = wanted.empty() ? AskForProject() : wanted;
+        if (path.empty()) return false;
+        // A project without an open document is read anew: its files may have come back since.
         const auto present = Mod_File::ProjectOfPath(path);
-        if (present && present->Sources.Count() > 0) {
-            Mod_File::TellLoadFailure({"Project is already loaded", MessageIcon::Exclamation});
-            return false;
-        }
-        // One that has no document left is read anew: its tabs were closed, or its files have come back.
-        if (present && present->Dirty && !SaveProject(*present)) return false;
-        auto project = std::make_shared<ClsProject>();
-        if (!BuildProjectFromFile(path, *project)) {
-            Mod_File::TellLoadFailure({"Not a valid project file !", MessageIcon::Critical});
-            return false;
-        }
-        if (const std::string open = AlreadyOpenMember(*project); !open.empty()) {
-            Mod_File::TellLoadFailure(
-                {"Some of the files in this project are already opened in Zolto as single file "
-                 "or as part of another project:\r\n" +
-                     open + "\r\nSorry, in this release you can't have same file opened multiple times",
-                 MessageIcon::Exclamation, "Project loading aborted..."});
-            return false;
-        }
-        if (project->Compiler.empty()) project->Compiler = DefaultCompiler;
-        Mod_Main::SetActiveCompiler(project->Compiler);
+        if (present && !MayBeReplaced(*present)) return false;
+        const auto project = ReadProject(path);
+        if (!project) return false;
         if (present) gProjects.RemoveKey(present->FullPath);
-        gProjects.Add(project, project->FullPath);
-        {
-            const PipelineRest rest;
-            OpenMembers(project, fromWorkspace);
-        }
-        if (!fromWorkspace) ShowMainFile(*project);
-        if (project->Sources.Count() == 0) BackToActive();
+        OpenRead(project, fromWorkspace);
         Mod_File::AddRecentProject(path);
         gDocumentCalls.PopulateTreeView();
         gDocumentCalls.UpdateCommandUI();

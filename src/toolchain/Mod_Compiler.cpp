@@ -17,8 +17,11 @@
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/Processes.h"
+#include "toolchain/CompileCommand.h"
 #include "toolchain/CompilerOutput.h"
 #include "toolchain/ToolchainCalls.h"
+
+#include <optional>
 
 ToolchainCalls gToolchainCalls;
 
@@ -27,6 +30,8 @@ namespace Mod_Compiler {
 std::string gLastCompiledFile;
 
 namespace {
+
+constexpr int FailureObjectNotSet = 91;
 
 long lastCompiled = 0; // the serial number of the document behind gLastCompiledFile
 
@@ -94,29 +99,7 @@ std::string AskForTarget(const std::string& path) {
     return gHost.dialogs->SaveFile(question);
 }
 
-// Every run of two blanks becomes one, in one pass from the left.
-std::string CollapseBlanks(const std::string& command) {
-    std::string collapsed;
-    for (std::size_t i = 0; i < command.size(); ++i) {
-        collapsed += command[i];
-        if (command[i] == ' ' && i + 1 < command.size() && command[i + 1] == ' ') ++i;
-    }
-    return collapsed;
-}
-
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
-
-std::string Command(Job job, bool debug, const std::string& compiler, const std::string& target,
-                    const std::string& path) {
-    std::string command = Quoted(compiler) + " ";
-    if (job == Job::Run && debug) command += " -d ";
-    if (job == Job::Check) command += " -c ";
-    if (job == Job::Build) command += " -o " + Quoted(target) + " ";
-    command += Quoted(path);
-    if (job == Job::Run && !gCurrentProject->CommandLine.empty())
-        command += " " + gCurrentProject->CommandLine;
-    return CollapseBlanks(command);
-}
 
 void Append(const std::string& line) { gToolchainCalls.AppendOutput(line); }
 
@@ -160,50 +143,67 @@ bool Busy(const frmDoc& document) {
     return true;
 }
 
-bool StartJob(Job job, std::string path, bool debug) {
-    if (!DocumentActive() || !gCurrentProject || Busy(*ActiveForm())) return false;
-    if (!gActiveCompiler) throw Failure(91, "No compiler is active");
-    gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
-    if (!(gCurrentProject->SingleFile ? SingleFileToCompile(job, path) : ProjectFileToCompile(path)))
-        return false;
-    if (Options::gOnCompileSave == Options::CompileSavesAll) Mod_File::SaveAllFiles();
-    std::string target;
-    if (job == Job::Build) {
-        target = AskForTarget(path);
-        if (target.empty()) return false;
-    }
-    std::string compiler;
-    if (!FindCompiler(compiler)) return false;
+struct JobFiles {
+    std::string source, target, compiler;
+};
 
-    const std::string command = Command(job, debug, compiler, target, path);
+// Saves what the job needs on disk, and asks for what is missing. Nothing if the user cancelled, if a file
+// could not be saved, or if the compiler is not there.
+std::optional<JobFiles> Prepare(Job job, const std::string& path) {
+    JobFiles files{path, {}, {}};
+    if (!(gCurrentProject->SingleFile ? SingleFileToCompile(job, files.source)
+                                      : ProjectFileToCompile(files.source)))
+        return std::nullopt;
+    if (Options::gOnCompileSave == Options::CompileSavesAll) Mod_File::SaveAllFiles();
+    if (job == Job::Build && (files.target = AskForTarget(files.source)).empty()) return std::nullopt;
+    if (!FindCompiler(files.compiler)) return std::nullopt;
+    return files;
+}
+
+void StartJob(Job job, const std::string& path, bool debug) {
+    if (!DocumentActive() || !gCurrentProject || Busy(*ActiveForm())) return;
+    if (!gActiveCompiler) throw Failure(FailureObjectNotSet, "No compiler is active");
+    gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
+    const auto files = Prepare(job, path);
+    if (!files) return;
+    const CompileCommand command{job,           debug,         files->compiler,
+                                 files->source, files->target, gCurrentProject->CommandLine};
+    const ProcessStart start{command.Text(), ""};
     gToolchainCalls.ClearOutput();
-    if (job == Job::Run && gActiveCompiler->RealConsole && RunInTerminal({command, ""})) return false;
+    if (job == Job::Run && gActiveCompiler->RealConsole && RunInTerminal(start)) return;
     frmDoc& document = *ActiveForm();
-    StartChild(
-        document,
-        {job, path, gCurrentProject->SingleFile ? document.m_strDocumentWindowID : std::string(), target},
-        {command, ""});
+    const std::string window = gCurrentProject->SingleFile ? document.m_strDocumentWindowID : std::string();
+    StartChild(document, {job, files->source, window, files->target}, start);
+}
+
+// Starts a job as the routine of that name. Always false: the result comes later, as output.
+bool Start(const char* routine, Job job, const std::string& path, bool debug = false) {
+    Guarded(routine, "Mod_Compiler", [&] { StartJob(job, path, debug); });
     return false;
+}
+
+constexpr long long SmallestKeywordFile = 3000; // bytes; a smaller one holds an error message
+
+// Has the compiler write the file. False when what it wrote is not a list of keywords.
+bool WriteKeywordFile(const std::string& compiler, const std::string& target) {
+    constexpr int MostMilliseconds = 10000;
+    if (gHost.files->Kind(target) == PathKind::None) Mod_File::CreateEmptyFile(target);
+    const WaitCursor wait;
+    gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
+    return gHost.files->Size(target) >= SmallestKeywordFile;
 }
 
 } // namespace
 
 bool Compile(const std::string& path, bool debug) {
-    return Guarded("Compile", "Mod_Compiler", false, [&] {
-        gLastCompiledFile = path;
-        lastCompiled = DocumentActive() ? ActiveForm()->Serial : 0;
-        return StartJob(Job::Run, path, debug);
-    });
+    gLastCompiledFile = path;
+    lastCompiled = DocumentActive() ? ActiveForm()->Serial : 0;
+    return Start("Compile", Job::Run, path, debug);
 }
 
-bool CheckForErrors(const std::string& path) {
-    return Guarded("CheckForErrors", "Mod_Compiler", false,
-                   [&] { return StartJob(Job::Check, path, false); });
-}
+bool CheckForErrors(const std::string& path) { return Start("CheckForErrors", Job::Check, path); }
 
-bool CreateExe(const std::string& path) {
-    return Guarded("CreateExe", "Mod_Compiler", false, [&] { return StartJob(Job::Build, path, false); });
-}
+bool CreateExe(const std::string& path) { return Start("CreateExe", Job::Build, path); }
 
 void CompileLast() {
     if (gHost.dock == nullptr) return;
@@ -249,15 +249,8 @@ void RefreshDefinitions(const std::string& compilerName, const std::string& comp
                  MessageIcon::None, "Error"});
             return;
         }
-        constexpr int MostMilliseconds = 10000;
-        constexpr long long SmallestKeywordFile = 3000;
         const std::string target = AppPath("Conf\\" + compilerName + ".lng");
-        if (gHost.files->Kind(target) == PathKind::None) Mod_File::CreateEmptyFile(target);
-        {
-            const WaitCursor wait;
-            gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
-        }
-        if (gHost.files->Size(target) >= SmallestKeywordFile) {
+        if (WriteKeywordFile(compiler, target)) {
             gCompilers.Item(compilerName)->LoadKeywords();
             gHost.dialogs->Show(
                 {"Keyword definitions for this compiler successfully created !", MessageIcon::Information});

@@ -7,6 +7,7 @@
 #include "editor/OpenDocuments.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
+#include "toolchain/CompileCommand.h"
 #include "toolchain/Driver.h"
 
 namespace {
@@ -17,13 +18,22 @@ struct CommandsTest : Driver {
     std::string Message() { return dialogs.messages.back().text; }
 };
 
-TEST_F(CommandsTest, EachJobHasItsCommand) {
+TEST(CompileCommandTest, EachJobHasItsOptions) {
+    using enum CompilerJob::Kind;
+    const auto text = [](CompilerJob::Kind kind, bool debug, const std::string& arguments = {}) {
+        return CompileCommand{kind, debug, "/b c", "/s.bb", "/t.exe", arguments}.Text();
+    };
+    EXPECT_EQ(text(Run, false), "\"/b c\" \"/s.bb\"");
+    EXPECT_EQ(text(Run, true, "-n  3 \"two   words\""), "\"/b c\" -d \"/s.bb\" -n 3 \"two  words\"");
+    EXPECT_EQ(text(Check, true, "-n"), "\"/b c\" -c \"/s.bb\"");
+    EXPECT_EQ(text(Build, true, "-n"), "\"/b c\" -o \"/t.exe\" \"/s.bb\"");
+}
+
+TEST_F(CommandsTest, EachJobStartsTheCompiler) {
     const std::string path = session.Open("a.bb", "a=1\r\n").FullFilename;
     const std::string start = Quoted(compiler) + " ";
-    EXPECT_EQ(Command([&] { Compile(path, false); }), start + Quoted(path));
-    EXPECT_EQ(Command([&] { Compile(path, true); }), start + "-d " + Quoted(path));
-    gCurrentProject->CommandLine = "-level  3 \"two   words\"";
-    EXPECT_EQ(Command([&] { Compile(path, false); }), start + Quoted(path) + " -level 3 \"two  words\"");
+    gCurrentProject->CommandLine = "-level";
+    EXPECT_EQ(Command([&] { Compile(path, true); }), start + "-d " + Quoted(path) + " -level");
     EXPECT_EQ(Command([&] { CheckForErrors(path); }), start + "-c " + Quoted(path));
     dialogs.WillSave("/tmp/game.exe");
     EXPECT_EQ(Command([&] { CreateExe(path); }), start + "-o \"/tmp/game.exe\" " + Quoted(path));
@@ -31,13 +41,12 @@ TEST_F(CommandsTest, EachJobHasItsCommand) {
     EXPECT_EQ(dialogs.questions.back().filter, "Executables (*.exe)|*.exe");
     EXPECT_EQ(dialogs.questions.back().fileName, session.host.Path("a.exe"));
     EXPECT_EQ(processes.environment["BLITZPATH"], session.host.Path("Compilers/ZoltoBasic"));
-    EXPECT_EQ(labels, (std::vector<std::string>{"Compiling program...", "Compiling program...",
-                                                "Compiling program...", "Checking for errors...",
+    EXPECT_EQ(labels, (std::vector<std::string>{"Compiling program...", "Checking for errors...",
                                                 "Creating executable..."}));
-    EXPECT_EQ(cleared, 5);
+    EXPECT_EQ(cleared, 3);
     dialogs.WillSave("");
     CreateExe(path);
-    EXPECT_EQ(processes.started.size(), 5u);
+    EXPECT_EQ(processes.started.size(), 3u);
 }
 
 TEST_F(CommandsTest, ADirtyFileIsSavedFirstAndAFailedSaveStopsTheJob) {

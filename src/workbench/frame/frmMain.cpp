@@ -15,6 +15,7 @@
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
+#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"
@@ -81,7 +82,7 @@ void frmMain::PopulateCboCommandLine() {
 frmDoc* frmMain::ActiveDocument() { return DocumentIn(gHost.dock->ActiveDocumentWindow()); }
 
 void frmMain::UpdateCommandUI() {
-    gHost.dock->SuspendRepaint(true);
+    const StillFrame still;
     Guarded("UpdateCommandUI", "frmMain", [this] {
         const bool have = DocumentActive() && ActiveDocument();
         const auto enable = [](const char* name, bool enabled) {
@@ -101,7 +102,6 @@ void frmMain::UpdateCommandUI() {
         enable("Close File", single);
         enable("Close Project", !single);
     });
-    gHost.dock->SuspendRepaint(false);
 }
 
 void frmMain::UpdateSciCommandUI() {
