@@ -3,6 +3,7 @@
 #include "Floor.h"
 #include "Keys.h"
 #include "Source.h"
+#include "editor/Mod_SciFun_complete.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/Mod_Parse.h"
@@ -120,10 +121,10 @@ void CompletionList(benchmark::State& state, const char* word, bool asked) {
     for (auto _ : state) {
         Mod_Sci::AutoCCancel();
         const double seconds = Seconds([&] {
-            ACForced = true;
-            ACExplicitList = ACExplicitNow = asked;
+            if (asked) return Mod_SciFun::ShowAutocomplete();
+            AllowCompletion(true);
             Mod_Parse::ColorCurrentLine(0, false);
-            ACForced = ACExplicitNow = false;
+            AllowCompletion(false);
         });
         if (!Mod_Sci::AutoCActive()) return state.SkipWithError("no list opened");
         worst = std::max(worst, seconds);

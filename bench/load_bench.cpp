@@ -18,8 +18,7 @@ namespace {
 constexpr int ScreenLines = 60;
 
 void ColourScreen(int first) {
-    CurrentFunctionName.clear();
-    CurrentTypeName.clear();
+    ForgetScope();
     for (int line = first; line < first + ScreenLines; ++line) Mod_Parse::ColorLineLight(line, true);
 }
 

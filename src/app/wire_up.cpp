@@ -26,7 +26,6 @@
 namespace {
 
 void WireEditor() {
-    gEngineCalls.WaitCursor = [](bool on) { on ? BeginWaitCursor() : EndWaitCursor(); };
     gEngineCalls.PuniLista = [] { frmMainList::Instance().PuniLista(); };
     gEngineCalls.Autocomplete = Mod_SciFun::Autocomplete;
     gEngineCalls.AutocompleteType = Mod_SciFun::AutocompleteType;

@@ -6,6 +6,7 @@
 #include "documents/LoadMessages.h"
 #include "documents/Mod_File_params.h"
 #include "documents/OpenPaths.h"
+#include "editor/Guards.h"
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
@@ -74,26 +75,17 @@ void BindWindow(frmDoc& document, bool documentWindow) {
 }
 
 void ParseUnheard(frmDoc& document, const std::function<void()>& parse) {
-    Mod_Sci::SetModEventMask(0);
-    Mod_Sci::SetUndoCollection(0);
-    parse();
-    CheckFileParameters();
-    Mod_Sci::SetUndoCollection(1);
-    Mod_Sci::SetModEventMask(EventMask);
+    {
+        const Unheard unheard;
+        const Unrecorded unrecorded;
+        parse();
+        CheckFileParameters();
+    }
     Mod_Sci::SetSavePoint();
     document.SubClass();
 }
 
 namespace {
-
-void ParseMember(ClsProject& project) {
-    CurrentFunctionName = MainProgram;
-    CurrentLocals = project.MainFunLocals;
-    CurrentTypeName.clear();
-    FoldLevel = 0;
-    IndentLevel = 0;
-    Mod_Parse::ParseAllLines();
-}
 
 // A window that shows nobody's text goes.
 void LeaveWindow(frmDoc& document) {
@@ -129,10 +121,9 @@ void PutBack(const std::shared_ptr<frmDoc>& document, const std::shared_ptr<ClsP
     Mod_Main::SetActiveCompiler(project->Compiler);
     if (!document->SingleFile) {
         // Its symbols count as those of a closed file. The text and its undo history stay.
-        Mod_Sci::SetModEventMask(0);
+        const Unheard unheard;
         Mod_Sci::MarkerDeleteAll(-1);
-        ParseMember(*project);
-        Mod_Sci::SetModEventMask(EventMask);
+        Mod_Parse::ParseOwn(*project);
     }
     document->SubClass();
     BindWindow(*document, false);
@@ -166,7 +157,7 @@ bool OpenProjectsFile(const std::shared_ptr<ClsProject>& project, const std::str
             MakeActive(document.get());
             Mod_Main::SetActiveCompiler(project->Compiler);
             document->Initialise(GetFileName(path));
-            ParseUnheard(*document, [&] { ParseMember(*project); });
+            ParseUnheard(*document, [&] { Mod_Parse::ParseOwn(*project); });
             BindWindow(*document, documentWindow);
         } catch (...) {
             GiveUp(*document, before);

@@ -216,7 +216,7 @@ void CheckFileParameters() {
         const std::string text = gActiveDoc->MayHaveParameters ? Mod_Sci::GetText() : std::string();
         const std::vector<Block> blocks = FindBlocks(text);
         if (blocks.empty()) {
-            Coloring = false;
+            EndColoring();
             return;
         }
         const ColoringScope own;

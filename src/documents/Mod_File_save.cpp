@@ -12,6 +12,7 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsProject.h"
 #include "engine/OptionsEdit.h"
+#include "engine/WaitCursor.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
@@ -53,14 +54,13 @@ std::string BytesOf(frmDoc& document, bool withBlock) {
 
 // Writes the text of a document, whichever is the active one, with a block behind it or without.
 bool WriteDocument(frmDoc& document, const std::string& path, bool withBlock) {
-    BeginWaitCursor();
     bool written = true;
     try {
+        const WaitCursor wait;
         gHost.files->Write(path, BytesOf(document, withBlock));
     } catch (const Failure&) {
         written = false;
     }
-    EndWaitCursor();
     if (!written)
         Critical("Could not save " + path +
                      "\r\nThe file may be in use by another process or disk is write protected",

@@ -26,7 +26,6 @@ namespace {
 
 constexpr int WaitRounds = 31; // for a first instance that has not published its handle yet
 constexpr const char* BringForward = "Aktiviraj";
-constexpr int StrictBadStyle = 16;
 
 int lastWindowState = 0; // the last state of the main window that was not minimised
 
@@ -95,8 +94,7 @@ void Start() {
         gHost.desktop->LockWindowUpdate(true);
         gDocumentCalls.ShowMainWindow();
         gHost.desktop->Pump();
-        const bool strict = gDocumentCalls.StrictModeChecked();
-        BadStyle = strict ? StrictBadStyle : 0;
+        SetStrict(gDocumentCalls.StrictModeChecked());
     });
 }
 

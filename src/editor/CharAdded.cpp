@@ -19,8 +19,6 @@
 
 namespace {
 
-using Mod_Parse::ColoringScope;
-
 std::uint8_t CharAt(std::intptr_t position) {
     return static_cast<std::uint8_t>(Mod_Sci::GetCharAt(position));
 }
@@ -95,10 +93,10 @@ void LikeAbove() {
 // opens here.
 void StyleTyped() {
     const bool forced = ACForced;
-    ACForced = false;
+    AllowCompletion(false);
     const auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
     Mod_Parse::ColorCurrentLine(static_cast<int>(line), false);
-    ACForced = forced;
+    AllowCompletion(forced);
 }
 
 // Turns "name++" into "name=name+1". `pos`: the second sign.
@@ -123,7 +121,7 @@ bool EndsLine(int ch) { return ch == '\r' || (ch == '\n' && CharAt(Mod_Sci::GetC
 
 void CharAdded(int ch) {
     PipelineState& state = gActiveDoc->State;
-    ACForced = true;
+    AllowCompletion(true);
     const auto byte = static_cast<std::uint8_t>(ch);
     if (IsIdChar[byte]) {
         state.mSpaceTyped = false;

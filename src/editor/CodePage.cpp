@@ -61,7 +61,7 @@ void Show(frmDoc& document, bool utf8) {
     ForgetLines(document.SciEdi_WndData);
     setPlaces();
     for (const auto& [line, marker] : markers) Mod_Sci::MarkerAdd(line, marker);
-    document.State.mOldStartLine = -100;
+    document.State.Restyle();
 }
 
 // Gives the active view's high bytes the form they have in UTF-8.

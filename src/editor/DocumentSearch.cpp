@@ -59,10 +59,10 @@ std::intptr_t DocumentSearch::Behind(const Hit& hit) const {
 
 bool DocumentSearch::Matches(const Hit& range) const {
     if (!bytes_) return false;
-    std::intptr_t before = SciWndData;
-    SciWndData = view_;
-    const std::string text = Mod_Sci::GetTextRange(range.start, range.end);
-    SciWndData = before;
+    const std::string text = [&] {
+        const ViewSwap swap(view_);
+        return Mod_Sci::GetTextRange(range.start, range.end);
+    }();
     if (!pattern_) {
         if (UCase(text) != UCase(*bytes_)) return false;
         Send(SCI_SETTARGETSTART, range.start);

@@ -4,6 +4,7 @@
 #include "editor/CodePage.h"
 #include "editor/OpenDocuments.h"
 #include "editor/SciOptions.h"
+#include "engine/WaitCursor.h"
 #include "host/Dialogs.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -141,7 +142,7 @@ int FindRun::ReplaceInDocument(std::vector<Piece> pieces, const FindOptions& opt
 
 int FindRun::ReplaceAll(const FindOptions& options, const std::string& replacement) {
     if (!DocumentActive() || options.text.empty()) return 0;
-    BeginWaitCursor();
+    const WaitCursor wait;
     int count = 0;
     const std::vector<Piece> pieces = Pieces(options);
     for (auto piece = pieces.begin(); piece != pieces.end();) {
@@ -152,10 +153,9 @@ int FindRun::ReplaceAll(const FindOptions& options, const std::string& replaceme
     }
     // What one document declares now may give the lines of another one other colours.
     for (const Piece& piece : pieces) {
-        piece.document->State.mOldStartLine = -100;
+        piece.document->State.Restyle();
         piece.document->Redraw();
     }
-    EndWaitCursor();
     const auto end = Mod_Sci::GetSelectionEnd();
     Mod_Sci::SetSel(end, end);
     Reset();

@@ -87,7 +87,7 @@ struct ShownList {
 } shownList;
 
 void Show(const Candidates& candidates, std::size_t typed) {
-    ACForced = false;
+    AllowCompletion(false);
     if (candidates.Count() > 0) {
         const auto length = static_cast<std::intptr_t>(typed);
         ShownList list{SciWndData, Mod_Sci::GetCurrentPos() - length, candidates.Joined()};
@@ -99,7 +99,7 @@ void Show(const Candidates& candidates, std::size_t typed) {
         if (candidates.Count() == 1 && ACExplicitList && OptionsEdit::ACcompleteOnlyOne && ACExplicitNow)
             Mod_Sci::AutoCComplete();
     }
-    ACShownNow = true;
+    NoteListShown();
 }
 
 void InsertFrom(const clsHash& table, Candidates& candidates) {
@@ -161,8 +161,8 @@ private:
 
     void Locals() {
         if (CurrentFunctionName.empty())
-            CurrentFunctionName = Mod_Parse::CurrentFunction(
-                static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
+            SetFunction(Mod_Parse::CurrentFunction(
+                static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()))));
         const SymbolPointer function = gCurrentProject->Funkcii.ItemHash(CurrentFunctionName);
         if (function) Table(*static_cast<const ClsFunkcija&>(*function).Locals);
     }
@@ -215,9 +215,8 @@ void AutocompleteBackSlash(const ClsType& typeRecord, const std::string& prefix)
 }
 
 void ShowAutocomplete() {
-    ACForced = ACExplicitList = ACExplicitNow = true;
+    const CompletionAsked asked;
     Mod_Parse::ColorCurrentLine(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())), false);
-    ACExplicitNow = ACForced = false;
 }
 
 } // namespace Mod_SciFun

@@ -7,6 +7,7 @@
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/WaitCursor.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
@@ -61,26 +62,6 @@ void FinishEdit() {
     ActiveForm()->m_oSubclass->ParseNow();
     CloseUndoGroup(gActiveDoc);
 }
-
-// The parser keeps the last keyword that opened a scope for as long as this lives.
-class ScopeKeywordKept {
-public:
-    ScopeKeywordKept() {
-        LastScopeKeyword.clear();
-        RememberScopeKeyword = true;
-    }
-    ~ScopeKeywordKept() { RememberScopeKeyword = false; }
-    ScopeKeywordKept(const ScopeKeywordKept&) = delete;
-    ScopeKeywordKept& operator=(const ScopeKeywordKept&) = delete;
-};
-
-class WaitCursor {
-public:
-    WaitCursor() { BeginWaitCursor(); }
-    ~WaitCursor() { EndWaitCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 LineSpan LinesOfSelection() {
     const int first = LineOf(Mod_Sci::GetSelectionStart());

@@ -5,6 +5,7 @@
 #include "editor/frmDoc.h"
 #include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
+#include "engine/WaitCursor.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -27,7 +28,7 @@ void ShowCaret() {
 
 void SetFolds(int mask, bool expanded) {
     if (OptionsEdit::ShowFoldMargin == 0 || !DocumentActive()) return;
-    BeginWaitCursor();
+    const WaitCursor wait;
     bool changed = false;
     constexpr int Opens = MaskOf(MarkerFoldOpens);
     for (auto line = Mod_Sci::MarkerNext(0, Opens); line >= 0; line = Mod_Sci::MarkerNext(line + 1, Opens)) {
@@ -41,7 +42,6 @@ void SetFolds(int mask, bool expanded) {
     }
     ShowCaret();
     if (changed && OptionsEdit::FileDirtyOnBookmarks) ActiveForm()->SetDirty(true);
-    EndWaitCursor();
 }
 
 } // namespace

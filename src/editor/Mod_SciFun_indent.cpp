@@ -10,6 +10,7 @@
 #include "engine/Mod_Parse.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
+#include "engine/WaitCursor.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -26,18 +27,15 @@ using Word = ClsBBFunkcija::Word;
 class OwnChange {
 public:
     OwnChange() {
-        BeginWaitCursor();
         ActiveForm()->SetDirty(true); // nobody hears of the change
         Mod_Sci::BeginUndoAction();
     }
-    ~OwnChange() {
-        Mod_Sci::EndUndoAction();
-        EndWaitCursor();
-    }
+    ~OwnChange() { Mod_Sci::EndUndoAction(); }
     OwnChange(const OwnChange&) = delete;
     OwnChange& operator=(const OwnChange&) = delete;
 
 private:
+    const WaitCursor wait_;
     ColoringScope own_;
 };
 

@@ -37,6 +37,9 @@ public:
     // so do closed folds as long as no line comes or goes.
     virtual void ChangeMany(const std::function<void()>& change) = 0;
 
+    // Colours the visible lines at once, for what has changed outside this document.
+    virtual void RestyleNow() = 0;
+
     // Parses all lines anew after a change of the vocabulary, and gives keywords their spelling. The history
     // stays; the document becomes dirty where a byte changed. `change` runs in front and changes no text.
     virtual void ParseAnew(const std::function<void()>& change = [] {}) = 0;

@@ -162,13 +162,3 @@ void UpdateLineNumberMargin() {
     }
     if (Mod_Sci::GetMarginWidthN(0) != wanted) Mod_Sci::SetMarginWidthN(0, wanted);
 }
-
-void BeginWaitCursor() {
-    gHost.desktop->SetWaitCursor(true);
-    if (SciWndData != 0) Mod_Sci::SetCursor(SC_CURSORWAIT);
-}
-
-void EndWaitCursor() {
-    gHost.desktop->SetWaitCursor(false);
-    if (SciWndData != 0) Mod_Sci::SetCursor(SC_CURSORNORMAL);
-}

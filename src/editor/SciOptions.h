@@ -10,6 +10,3 @@ void SetSciConstants();
 constexpr int EventMask = 3443;
 // Sets the width of the line number margin where it differs from what the line count wants.
 void UpdateLineNumberMargin();
-// The wait cursor, on the screen and in the active view.
-void BeginWaitCursor();
-void EndWaitCursor();

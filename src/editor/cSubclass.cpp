@@ -5,6 +5,7 @@
 #include "editor/CharAdded.h"
 #include "editor/CodePage.h"
 #include "editor/EditorCalls.h"
+#include "editor/Guards.h"
 #include "editor/Mod_SciFun_bookmarks.h"
 #include "editor/Mod_SciFun_edit.h"
 #include "editor/SciOptions.h"
@@ -38,25 +39,18 @@ using namespace Mod_Parse;
 constexpr int MarkerMargin = 1;
 constexpr int FoldMargin = 2;
 
-// Nobody hears of changes for as long as it lives.
-class Unheard {
+// Gives a variable another value until it is destroyed.
+template <class Value>
+class Swapped {
 public:
-    Unheard() { Mod_Sci::SetModEventMask(0); }
-    ~Unheard() { Mod_Sci::SetModEventMask(EventMask); }
-    Unheard(const Unheard&) = delete;
-    Unheard& operator=(const Unheard&) = delete;
-};
-
-// The parser indents nothing for as long as it lives, whatever the option for loading says.
-class AsItStands {
-public:
-    AsItStands() : before_(std::exchange(OptionsEdit::AutoIndentOnLoad, 0)) {}
-    ~AsItStands() { OptionsEdit::AutoIndentOnLoad = before_; }
-    AsItStands(const AsItStands&) = delete;
-    AsItStands& operator=(const AsItStands&) = delete;
+    Swapped(Value& variable, Value value) : variable_(variable), before_(std::exchange(variable, value)) {}
+    ~Swapped() { variable_ = before_; }
+    Swapped(const Swapped&) = delete;
+    Swapped& operator=(const Swapped&) = delete;
 
 private:
-    int before_;
+    Value& variable_;
+    Value before_;
 };
 
 std::vector<int> FoldedLines() {
@@ -79,9 +73,8 @@ PipelineState& cSubclass::State() { return mFrmDoc.State; }
 void cSubclass::OnNotify(const SciNotification& notification) {
     if (gInErrorReport) return ForgetLines(mFrmDoc.SciEdi_WndData);
     const ActiveSwap swap(mFrmDoc);
-    const bool before = std::exchange(background_, background_ || swap.Swapped());
+    const Swapped background(background_, background_ || swap.Swapped());
     Guarded("WindowProc", "cSubclass", [&] { Dispatch(notification); });
-    background_ = before;
 }
 
 void cSubclass::DeactivateCheck() {
@@ -112,12 +105,13 @@ void cSubclass::ParseAnew(const std::function<void()>& change) {
     const std::string before = Mod_Sci::GetText();
     const auto anchor = Mod_Sci::Send(SCI_GETANCHOR), caret = Mod_Sci::GetCurrentPos();
     // A keyword's new spelling is as long as its old one, so the history still fits.
-    Mod_Sci::SetUndoCollection(0);
-    ParseWhole(change);
-    Mod_Sci::SetUndoCollection(1);
+    {
+        const Unrecorded unrecorded;
+        ParseWhole(change);
+    }
     Mod_Sci::SetSel(anchor, caret);
     if (Mod_Sci::GetText() != before) mFrmDoc.SetDirty(true);
-    State().mOldStartLine = -100;
+    State().Restyle();
 }
 
 // Forgets what the lines declared, changes the text unheard and parses it as a load does.
@@ -127,16 +121,11 @@ void cSubclass::ParseWhole(const std::function<void()>& change) {
     ForgetFile();
     {
         const Unheard unheard;
-        const AsItStands indentation;
+        const Swapped indentation(OptionsEdit::AutoIndentOnLoad, 0); // the text keeps its indentation
         change();
         crCame_ = true; // nobody was told what came
         State().mLastOperationUndoRedo = false;
-        CurrentFunctionName = MainProgram;
-        CurrentLocals = gCurrentProject->MainFunLocals;
-        CurrentTypeName.clear();
-        FoldLevel = 0;
-        IndentLevel = 0;
-        ParseAllLines();
+        ParseOwn(*gCurrentProject);
     }
     // The parser opens the folds that it comes by. Where lines came or went they cannot be told any more.
     for (const int line : folded)
@@ -194,36 +183,41 @@ void cSubclass::StyleNeeded() {
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
     const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
-    if (first == State().mOldStartLine && lastDoc == State().mOldEndLine) return;
+    if (State().IsStyled(first, lastDoc)) return;
     Mod_Sci::AutoCCancel();
     Mod_Sci::CallTipCancel();
-    {
-        const ColoringScope own;
-        State().mOldStartLine = first;
-        State().mOldEndLine = lastDoc;
-        const int lines = static_cast<int>(Mod_Sci::GetLineCount());
-        int previous = -100;
-        for (int visible = first; visible <= lastVisible; ++visible) {
-            const int line = static_cast<int>(Mod_Sci::DocLineFromVisible(visible));
-            if (line >= lines || line == previous) break;
-            // Behind a fold that was skipped the scope is another one.
-            if (line > previous + 1) {
-                CurrentFunctionName.clear();
-                CurrentTypeName.clear();
-            }
-            if (line == State().UnparsedLine)
-                ColorUnparsedLineLight(line, true, State().UnparsedText);
-            else if (HasMarker(line, MarkerParsed))
-                ColorLineLight(line, true);
-            else
-                State().mOldStartLine = -100; // again, when it has been parsed
-            previous = line;
-        }
-    }
-    if (!gSymbolsChanged) return;
-    gSymbolsChanged = false;
+    State().SetStyled(first, lastDoc);
+    ColorVisible(first, lastVisible);
+    if (!TakeSymbolsChanged()) return;
     gEngineCalls.PuniLista();
     if (gCurrentProject && !gCurrentProject->SingleFile) SiblingPass();
+}
+
+// Colours the lines between two visible ones, each document line once.
+void cSubclass::ColorVisible(int first, int last) {
+    const ColoringScope own;
+    const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+    int previous = -100;
+    for (int visible = first; visible <= last; ++visible) {
+        const int line = static_cast<int>(Mod_Sci::DocLineFromVisible(visible));
+        if (line >= lines || line == previous) break;
+        // A closed fold was skipped, so the line may lie in another scope.
+        if (line > previous + 1) ForgetScope();
+        if (line == State().UnparsedLine)
+            ColorUnparsedLineLight(line, true, State().UnparsedText);
+        else if (HasMarker(line, MarkerParsed))
+            ColorLineLight(line, true);
+        else
+            State().Restyle(); // the line gets its colours when it has been parsed
+        previous = line;
+    }
+}
+
+void cSubclass::RestyleNow() {
+    const ActiveSwap swap(mFrmDoc);
+    const Swapped background(background_, background_ || swap.Swapped());
+    State().Restyle();
+    Guarded("WindowProc", "cSubclass", [this] { StyleNeeded(); });
 }
 
 // Views that show other files of the project recolour at once for a changed symbol.
@@ -234,11 +228,7 @@ void cSubclass::SiblingPass() {
         if (&sibling == &mFrmDoc || gHost.dock == nullptr) continue;
         const DocumentWindow* window = gHost.dock->FindDocumentWindow(sibling.m_strDocumentWindowID);
         if (window == nullptr || !window->InFront()) continue;
-        sibling.State.mOldStartLine = -100;
-        SciNotification restyle;
-        restyle.code = SCN_STYLENEEDED;
-        restyle.inPaint = true;
-        sibling.m_oSubclass->OnNotify(restyle);
+        sibling.m_oSubclass->RestyleNow();
     }
 }
 

@@ -24,11 +24,13 @@ public:
     void DeactivateCheck() override;
     void ParseNow() override;
     void ChangeMany(const std::function<void()>& change) override;
+    void RestyleNow() override;
     void ParseAnew(const std::function<void()>& change) override;
 
 private:
     void Dispatch(const SciNotification& notification);
     void StyleNeeded();
+    void ColorVisible(int first, int last);
     void SiblingPass();
     void Painted();
     void MarginClick(const SciNotification& notification);

@@ -14,6 +14,7 @@
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
 #include "engine/SymbolLine.h"
+#include "engine/WaitCursor.h"
 #include "host/ErrorLog.h"
 #include "sci/Mod_Sci.h"
 
@@ -352,7 +353,7 @@ void cSubclass::ParseQueue() {
         }
         const bool follows = line == ++expect;
         // The last of a run derives its level, which has the lines below it checked.
-        if (follows && (i + 1 == lines.size() || lines[i + 1] != line + 1)) FoldLevel = 0;
+        if (follows && (i + 1 == lines.size() || lines[i + 1] != line + 1)) SetFoldLevel(0);
         Parseline(line, follows);
         expect = line;
         DeleteEvery(line, MarkerQueued);
@@ -383,7 +384,7 @@ bool cSubclass::ParseEdited() {
 void cSubclass::LeaveCurrentLook() {
     if (!State().mColoredAsCurrent) return;
     State().mColoredAsCurrent = false;
-    State().mOldStartLine = -100;
+    State().Restyle();
     mFrmDoc.Redraw();
 }
 
@@ -402,7 +403,7 @@ void cSubclass::UpdateUi() {
     }
     if (!HasMarker(line, MarkerParsed) || State().mForceColor) {
         ColorCurrentLine(line, false);
-        ACForced = false;
+        AllowCompletion(false);
         State().mForceColor = false;
         line = LineOf(Mod_Sci::GetCurrentPos());
     }

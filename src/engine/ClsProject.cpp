@@ -18,7 +18,7 @@ ClsProject::ClsProject() {
     MainFunLocals->IgnoreCase = true;
     Funkcii.Add(MainProgram, mainProgram);
     FunctionsDirty = true;
-    CurrentLocals = MainFunLocals;
+    SetLocals(MainFunLocals);
 }
 
 bool DocumentActive() { return gActiveDoc != nullptr && gActiveDoc->SciEdi_WndData != 0; }

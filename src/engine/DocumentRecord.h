@@ -17,8 +17,6 @@ struct PipelineState {
     int UnparsedLine = -1;    // the one line whose old symbols are still in the tables
     bool mShowCallTip = false;
     bool mLastOperationUndoRedo = false;
-    int mOldStartLine = -100; // first and last line of the last restyle; -100 forces the next one
-    int mOldEndLine = 0;
     bool mJustActivated = false;
     bool mJoinPending = false;
     bool mSpaceTyped = false;
@@ -26,6 +24,19 @@ struct PipelineState {
     bool mColoredAsCurrent = false; // a parsed line has the look of the line under the caret
     bool mRefusalTold = false;      // a line that is too long for the scanner has been reported
     bool UndoGroup = false;         // an undo action is open in the view
+
+    // Has the visible lines styled anew when the view asks next.
+    void Restyle() { mOldStartLine = -100; }
+    // The lines that were styled last: first the first visible line, then the last line of the document.
+    bool IsStyled(int first, int last) const { return first == mOldStartLine && last == mOldEndLine; }
+    void SetStyled(int first, int last) {
+        mOldStartLine = first;
+        mOldEndLine = last;
+    }
+
+private:
+    int mOldStartLine = -100;
+    int mOldEndLine = 0;
 };
 
 struct DocumentRecord {

@@ -15,9 +15,9 @@ struct EngineCalls {
     Request<void(const ClsType& type, const std::string& typed)> AutocompleteBackSlash;
     // Tells that the lists of the Code Explorer no longer agree with the tables.
     Request<void()> PuniLista;
+    // Reports that the parse of a whole file begins or ends, for whoever measures it.
+    Request<void(bool begins)> ParsingAll;
     // Tells that the active document has changed without a change of its text.
     Request<void()> DocumentChanged;
-    // Begins and ends the wait cursor, on the screen and in the active view.
-    Request<void(bool on)> WaitCursor;
 };
 extern EngineCalls gEngineCalls; // written by the wiring of the application alone

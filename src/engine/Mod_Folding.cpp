@@ -71,18 +71,18 @@ void SetLevel(int line, int level) {
 
 void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
     const bool derived = !sequential || FoldLevel == 0;
-    if (derived) FoldLevel = DeriveLevel(line);
+    if (derived) SetFoldLevel(DeriveLevel(line));
     if (foldDelta > 0) {
-        if (functionLine) FoldLevel = TopLevel;
+        if (functionLine) SetFoldLevel(TopLevel);
         SetLevel(line, FoldLevel | SC_FOLDLEVELHEADERFLAG);
-        ++FoldLevel;
+        SetFoldLevel(FoldLevel + 1);
     } else if (functionLine) {
         SetLevel(line, FunctionLevel);
-        FoldLevel = TopLevel;
+        SetFoldLevel(TopLevel);
     } else {
         if (!Mod_Sci::GetLineVisible(line + 1)) Mod_Sci::EnsureVisible(line + 1);
         SetLevel(line, FoldLevel);
-        if (foldDelta < 0) FoldLevel = Lowered(FoldLevel);
+        if (foldDelta < 0) SetFoldLevel(Lowered(FoldLevel));
     }
     // Below an unchanged level the function may be another one all the same.
     const bool outside = OutsideFunctions();

@@ -11,6 +11,7 @@
 #include "engine/Mod_Parse_walk.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
+#include "engine/WaitCursor.h"
 #include "host/ErrorLog.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"
@@ -22,17 +23,6 @@ namespace Mod_Parse {
 namespace {
 
 using Word = ClsBBFunkcija::Word;
-
-class WaitCursor {
-public:
-    WaitCursor() { Show(true); }
-    ~WaitCursor() { Show(false); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-
-private:
-    static void Show(bool on) { gEngineCalls.WaitCursor(on); }
-};
 
 bool IsComment(const Token& token) {
     return token.Kind == TOK_COMMENT || token.Kind == TOK_BLOCK_START || token.Kind == TOK_BLOCK_END;
@@ -46,8 +36,8 @@ std::string LineParser::text_;
 LineParser::LineParser(int line, bool sequential) : line_(line), sequential_(sequential) {}
 
 int LineParser::Run() {
-    gSymbolsChanged = true;
-    gActiveDoc->State.mOldStartLine = -100;
+    NoteSymbolsChanged();
+    gActiveDoc->State.Restyle();
     handle_ = static_cast<int>(Mod_Sci::MarkerAdd(line_, MarkerParsed));
     lineStart_ = static_cast<int>(Mod_Sci::PositionFromLine(line_)) - 1;
     text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
@@ -59,19 +49,19 @@ int LineParser::Run() {
     told = told || Mod_Lexer::Refused();
     gLineStyles.Begin(lineStart_ + 1, length_, true);
 
-    if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
+    if (!sequential_ || CurrentFunctionName.empty()) SetFunction(CurrentFunction(line_ - 1));
     // The type is asked for where it matters; what a paint left here must not reach the lines that follow.
-    if (!sequential_) CurrentTypeName.clear();
+    if (!sequential_) ForgetType();
     MarkMainProgram(line_);
     startsOutside_ = CurrentFunctionName == MainProgram;
     localsBefore_ = CurrentLocals;
     // On loading, nothing indents unless the option says so, and nobody asks for the level.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
-    if (indents_ && (!sequential_ || IndentLevel == 0)) IndentLevel = GetNextIndent(line_ - 1);
+    if (indents_ && (!sequential_ || IndentLevel == 0)) SetIndentLevel(GetNextIndent(line_ - 1));
 
     while (index_ <= count_) One();
     MoveBelow();
-    if (!opened_.empty()) LastScopeKeyword = opened_.back();
+    if (!opened_.empty()) KeepScopeKeyword(opened_.back());
     // While a file is loaded nobody sees the line yet: the pass that shows it gives it all its styles.
     if (!ParsingFile) {
         gLineStyles.Begin(lineStart_ + 1, length_, true);
@@ -182,7 +172,7 @@ void LineParser::EndScope(Word word) {
 void LineParser::Indent() {
     if (OptionsEdit::AutoIndentType != OptionsEdit::IndentByScope || gActiveDoc->State.mLastOperationUndoRedo)
         return;
-    IndentLevel = std::max(1, IndentLevel - closes_);
+    SetIndentLevel(std::max(1, IndentLevel - closes_));
     if (!startsWithComment_) {
         const int target = (IndentLevel - 1) * OptionsEdit::TabValue;
         // With the whole text the view would forget what was just found.
@@ -197,7 +187,7 @@ void LineParser::Indent() {
         const auto indent = Mod_Sci::GetLineIndentPosition(line_);
         if (indent > caret) Mod_Sci::GotoPos(indent);
     }
-    IndentLevel += opens_;
+    SetIndentLevel(IndentLevel + opens_);
 }
 
 int Parseline(int line, bool sequential) {
@@ -208,19 +198,24 @@ int Parseline(int line, bool sequential) {
 void ParseAllLines() {
     const WaitCursor wait;
     DropClosedSymbols(*gCurrentProject);
-    ParsingFile = true;
+    const ParsingFileScope parsing;
+    gEngineCalls.ParsingAll(true);
     const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
     for (int line = 0; line <= last; ++line) Parseline(line, true);
-    ParsingFile = false;
+    gEngineCalls.ParsingAll(false);
+}
+
+void ParseOwn(const ClsProject& project) {
+    BeginDocument(project.MainFunLocals);
+    ParseAllLines();
 }
 
 void ParseFile() {
     Guarded("ParseFile", "Mod_Parse", [&] {
         gCurrentProject = gProjects.Item(gActiveDoc->PrjName);
-        CurrentFunctionName.clear();
-        CurrentTypeName.clear();
-        FoldLevel = 0;
-        IndentLevel = 0;
+        ForgetScope();
+        SetFoldLevel(0);
+        SetIndentLevel(0);
         ParseAllLines();
     });
 }
@@ -228,8 +223,7 @@ void ParseFile() {
 void UnParseFile() {
     Guarded("UnParseFile", "Mod_Parse", [&] {
         const WaitCursor wait;
-        CurrentFunctionName.clear();
-        CurrentTypeName.clear();
+        ForgetScope();
         const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
         for (int line = 0; line <= last; ++line) UnparseLine(line, true);
         gEngineCalls.PuniLista();

@@ -8,6 +8,8 @@
 #include <optional>
 #include <string>
 
+class ClsProject;
+
 namespace Mod_Parse {
 
 // --- parsing ---------------------------------------------------------------------------------------
@@ -16,6 +18,8 @@ namespace Mod_Parse {
 void ParseFile();
 // The same run over all lines for a document whose project is current and whose scope is set.
 void ParseAllLines();
+// The same for the text of a new document of this project, from an empty scope on.
+void ParseOwn(const ClsProject& project);
 // Takes back every line of the current document, then has the Code Explorer refilled.
 void UnParseFile();
 // Forgets what the lines of the current document declared, and takes the parser's markers off all of them, in

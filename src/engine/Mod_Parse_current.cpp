@@ -118,7 +118,7 @@ private:
     void EnterScope() {
         if (inScope_) return;
         inScope_ = true;
-        CurrentFunctionName = CurrentFunction(line_);
+        SetFunction(CurrentFunction(line_));
     }
 
     void Unknown() {
@@ -156,8 +156,11 @@ private:
         case Word::Function:
         case Word::Global:
         case Word::Local:
-        case Word::Const: InDeclaration = keepCase_ = true; break;
-        case Word::Field: InDeclaration = true; break;
+        case Word::Const:
+            EnterDeclaration();
+            keepCase_ = true;
+            break;
+        case Word::Field: EnterDeclaration(); break;
         case Word::Dim: keepCase_ = true; break;
         default: KeywordSuffix(keyword);
         }
@@ -204,19 +207,17 @@ private:
 void TendList() {
     const bool open = Mod_Sci::AutoCActive() != 0;
     if (!ACForced && open && NoWordAtCaret()) Mod_Sci::AutoCCancel();
-    if (!ACExplicitNow && !open) ACExplicitList = false;
+    if (!ACExplicitNow && !open) NoteListClosed();
 }
 
 } // namespace
 
 void ColorCurrentLine(int line, bool scopeKnown) {
     if (scopeKnown) SetStopErrorLog(StopScopeKnown);
-    ColoringCurrentLine = true;
     LineRespelt = false;
     Guarded("ColorCurrentLine", "Mod_Parse", [&] {
+        const CurrentLineScope pass;
         const ColoringScope own;
-        InDeclaration = false;
-        ACShownNow = false;
         ClearBrackets();
         TendList();
         std::string text = Mod_Sci::LineText(line);
@@ -230,7 +231,6 @@ void ColorCurrentLine(int line, bool scopeKnown) {
         gLineStyles.Flush();
         if (!ACShownNow && OptionsEdit::ACCloseListOnMatch) Mod_Sci::AutoCCancel();
     });
-    ColoringCurrentLine = false;
     if (LineRespelt && HasMarker(line, MarkerParsed)) RespellSymbols(line);
     if (HasMarker(line, MarkerParsed)) gActiveDoc->State.mColoredAsCurrent = true;
 }

@@ -55,7 +55,7 @@ void LineParser::Include() {
 // --- functions -------------------------------------------------------------------------------------
 
 void LineParser::Function() {
-    IndentLevel = 1;
+    SetIndentLevel(1);
     gCurrentProject->FunctionsDirty = true;
     ++foldDelta_;
     auto function = std::make_shared<ClsFunkcija>();
@@ -69,8 +69,7 @@ void LineParser::Function() {
     }
     AddMarker(MarkerFoldOpens);
     Enter(gCurrentProject->Funkcii, function);
-    CurrentFunctionName = function->Ime;
-    CurrentLocals = function->Locals;
+    SetFunction(function->Ime, function->Locals);
     DeleteEvery(line_, MarkerMainProgram);
     // What stands behind the header is the walk's: its bracket means nothing there, a comment does.
 }
@@ -116,11 +115,10 @@ void LineParser::End() {
 }
 
 void LineParser::EndFunction() {
-    IndentLevel = 1;
+    SetIndentLevel(1);
     --foldDelta_;
     Rewrite(index_, "Function");
-    CurrentFunctionName = MainProgram;
-    CurrentLocals = gCurrentProject->MainFunLocals;
+    SetFunction(MainProgram, gCurrentProject->MainFunLocals);
     // A function that begins and ends here leaves the line where it was.
     if (functionWords_ > 0 && startsOutside_ && !HasMarker(line_, MarkerMainProgram))
         AddMarker(MarkerMainProgram);
@@ -136,7 +134,7 @@ void LineParser::EndFunction() {
 void LineParser::KnowType() {
     if (typeKnown_) return;
     typeKnown_ = true;
-    if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_ - 1);
+    if (!sequential_ || CurrentTypeName.empty()) SetType(CurrentType(line_ - 1));
     if (!CurrentTypeName.empty()) fieldsBefore_ = CurrentFields;
 }
 
@@ -144,7 +142,7 @@ void LineParser::EndType() {
     Rewrite(index_, "Type");
     KnowType();
     ++typeWords_;
-    CurrentTypeName.clear();
+    ForgetType();
     AddMarker(MarkerType);
     AddMarker(MarkerFoldCloses);
     --foldDelta_;
@@ -160,8 +158,7 @@ void LineParser::Type() {
     Fill(*type, index_, AddMarker(MarkerType));
     AddMarker(MarkerFoldOpens);
     Enter(gCurrentProject->Types, type);
-    CurrentTypeName = type->Ime;
-    CurrentFields = type->Fields;
+    SetType(type->Ime, type->Fields);
     ++foldDelta_;
     ++index_;
 }

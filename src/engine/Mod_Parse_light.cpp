@@ -59,8 +59,7 @@ bool EnterFunction(const std::string& name, int line) {
     if (!gCurrentProject->Funkcii.ExistsOnlyHash(name)) return false;
     const SymbolPointer record = gCurrentProject->Funkcii.ItemHandle(name, line, SciWndData);
     if (!record) return false;
-    CurrentFunctionName = name;
-    CurrentLocals = static_cast<ClsFunkcija&>(*record).Locals;
+    SetFunction(name, static_cast<ClsFunkcija&>(*record).Locals);
     return true;
 }
 
@@ -108,7 +107,7 @@ private:
         upper.Set(At(index_).Text);
         if (ColorFrom(project.Funkcii, STYLE_Function, ColorVar, index_, count_, lineStart_)) return;
         if (const ClsBBFunkcija* keyword = FindKeyword(upper.text)) return Keyword(*keyword);
-        if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_);
+        if (!sequential_ || CurrentFunctionName.empty()) SetFunction(CurrentFunction(line_));
         if (ColorFrom(*CurrentLocals, STYLE_LocalVar, ColorVar, index_, count_, lineStart_) ||
             ColorFrom(project.Globals, STYLE_GlobalVar, ColorVar, index_, count_, lineStart_) ||
             ColorFrom(project.Arrays, STYLE_ArrayVar, ColorArrayVar, index_, count_, lineStart_) ||
@@ -141,10 +140,10 @@ private:
         case Word::End:
             if (NextIs(LineEvent::EndFunction)) {
                 ++index_;
-                CurrentFunctionName.clear();
+                ForgetFunction();
             } else if (NextIs(LineEvent::EndType)) {
                 ++index_;
-                CurrentTypeName.clear();
+                ForgetType();
             }
             break;
         case Word::New:
@@ -177,13 +176,12 @@ private:
         ++index_;
         const std::string& name = At(index_).Text;
         if (const SymbolPointer record = gCurrentProject->Types.ItemHandle(name, line_, SciWndData)) {
-            CurrentTypeName = name;
-            CurrentFields = static_cast<ClsType&>(*record).Fields;
+            SetType(name, static_cast<ClsType&>(*record).Fields);
         }
     }
 
     void Fields() {
-        if (CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_);
+        if (CurrentTypeName.empty()) SetType(CurrentType(line_));
         if (CurrentTypeName.empty()) return;
         if (scopes_.empty()) ReadEvents(Tokens.data(), count_, 0, scopes_);
         for (std::size_t i = 0; i < scopes_.size(); ++i) {
@@ -289,7 +287,7 @@ void ColorUnparsedLineLight(int line, bool sequential, const std::string& text) 
         LineEvents events;
         ReadEvents(Tokens.data(), count, length, events);
         for (const LineEvent& event : events) {
-            if (event.kind == LineEvent::EndFunction) CurrentFunctionName.clear();
+            if (event.kind == LineEvent::EndFunction) ForgetFunction();
             if (event.kind == LineEvent::Function && !EnterFunction(At(event.token).Text, line))
                 SetStopErrorLog(StopUnknownFunctionUnparsed);
         }

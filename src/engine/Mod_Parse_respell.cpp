@@ -11,10 +11,7 @@ namespace Mod_Parse {
 bool LineRespelt = false;
 
 void RespellSymbols(int line) {
-    const std::string function = CurrentFunctionName;
-    const std::string type = CurrentTypeName;
-    const auto locals = CurrentLocals;
-    const auto fields = CurrentFields;
+    const ScopeKept scope;
     std::string text = Mod_Sci::LineText(line);
     const int length = Mod_Lexer::FillLineBuffer(text);
     const int count = Mod_Lexer::Tokenize(text, length, true);
@@ -33,10 +30,6 @@ void RespellSymbols(int line) {
         else
             record.ArraySize = behind;
     }
-    CurrentFunctionName = function;
-    CurrentTypeName = type;
-    CurrentLocals = locals;
-    CurrentFields = fields;
 }
 
 } // namespace Mod_Parse

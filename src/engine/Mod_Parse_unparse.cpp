@@ -39,7 +39,7 @@ void TakeOut(const LineSymbol& symbol, int line) {
 }
 
 void TakeBack(int line, bool sequential, const std::optional<std::string>& oldText) {
-    gActiveDoc->State.mOldStartLine = -100;
+    gActiveDoc->State.Restyle();
     std::string text = oldText ? *oldText : Mod_Sci::LineText(line);
     const int length = Mod_Lexer::FillLineBuffer(text);
     const int count = Mod_Lexer::Tokenize(text, length, true);

@@ -160,9 +160,6 @@ void TakeSpelling(Token& token, const std::string& spelling) {
 
 } // namespace
 
-ColoringScope::ColoringScope() : before_(Coloring) { Coloring = true; }
-ColoringScope::~ColoringScope() { Coloring = before_; }
-
 int TokenEnd(const Token& token) {
     return token.Kind == TOK_IDENT || token.Kind == TOK_NUMBER ? token.EndPos : token.StartPos + 1;
 }

@@ -5,6 +5,7 @@
 
 #include "engine/LineStyles.h"
 #include "engine/Mod_Lexer.h"
+#include "engine/ParserState.h"
 #include "engine/Symbols.h"
 
 #include <cstdint>
@@ -15,18 +16,6 @@ struct ClsBBFunkcija;
 class clsHash;
 
 namespace Mod_Parse {
-
-// Raises Coloring for as long as it lives and puts back what it was.
-class ColoringScope {
-public:
-    ColoringScope();
-    ~ColoringScope();
-    ColoringScope(const ColoringScope&) = delete;
-    ColoringScope& operator=(const ColoringScope&) = delete;
-
-private:
-    bool before_;
-};
 
 // The column behind a token: EndPos of a word or a number, one further for a single character.
 int TokenEnd(const Token& token);

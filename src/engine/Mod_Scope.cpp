@@ -132,10 +132,10 @@ std::string CurrentFunction(int line) {
     return Guarded("CurrentFunction", "Mod_Parse", std::string(), [&]() -> std::string {
         ScopeFound found = FindScope(line, MarkerFunction, gCurrentProject->Funkcii);
         if (!found.record) {
-            CurrentLocals = gCurrentProject->MainFunLocals;
+            SetLocals(gCurrentProject->MainFunLocals);
             return MainProgram;
         }
-        CurrentLocals = static_cast<ClsFunkcija&>(*found.record).Locals;
+        SetLocals(static_cast<ClsFunkcija&>(*found.record).Locals);
         return found.name;
     });
 }
@@ -143,7 +143,7 @@ std::string CurrentFunction(int line) {
 std::string CurrentType(int line) {
     return Guarded("CurrentType", "Mod_Parse", std::string(), [&] {
         ScopeFound found = FindScope(line, MarkerType, gCurrentProject->Types);
-        if (found.record) CurrentFields = static_cast<ClsType&>(*found.record).Fields;
+        if (found.record) SetFields(static_cast<ClsType&>(*found.record).Fields);
         return found.name;
     });
 }

@@ -1,5 +1,6 @@
-// What a run of lines carries from one line to the next, shared by the parser and the colourers.
-// Only one of them works at a time.
+// What a run of lines carries from one line to the next, shared by the parser and the colourers, of which
+// only one works at a time. The names are readable everywhere; ParserState.cpp alone writes them, through the
+// verbs below.
 #pragma once
 
 #include "engine/clsHash.h"
@@ -7,44 +8,139 @@
 #include <memory>
 #include <string>
 
-// The enclosing function: its name, "*Main Program*", or empty for not known. The enclosing type: its name,
-// or empty. Written by the parser, the light colourer, the scope queries and document activation.
-extern std::string CurrentFunctionName;
-extern std::string CurrentTypeName;
-// Where Local and Field lines go. Written with the names above.
-extern std::shared_ptr<clsHash> CurrentLocals;
-extern std::shared_ptr<clsHash> CurrentFields;
+// The enclosing function: its name, "*Main Program*", or empty for unknown. The enclosing type: its name, or
+// empty.
+extern const std::string& CurrentFunctionName;
+extern const std::string& CurrentTypeName;
+// The tables that Local and Field lines declare into.
+extern const std::shared_ptr<clsHash>& CurrentLocals;
+extern const std::shared_ptr<clsHash>& CurrentFields;
 
-// Fold level and indentation level of the next line; 0 for not known. Written by the parser.
-extern int FoldLevel;
-extern int IndentLevel;
+// Fold level and indentation level of the next line; 0 for unknown.
+extern const int& FoldLevel;
+extern const int& IndentLevel;
 
-// A whole file is being parsed from its first line, so no line below the present one is parsed yet.
-// Written by ParseFile and the opening of a project's member.
-extern bool ParsingFile;
+// True while a whole file is parsed from its first line, so that no line below the present one is parsed yet.
+extern const bool& ParsingFile;
 
-// Text or style changes are the program's own: modification events do nothing. Written by all who make such
-// changes.
-extern bool Coloring;
+// True while text or style changes are the program's own: modification events do nothing.
+extern const bool& Coloring;
 
-// While raised, the parser keeps the last keyword that opened an indentation level. Written by the command
-// that completes a scope, and by the parser.
-extern bool RememberScopeKeyword;
-extern std::string LastScopeKeyword;
+// True while the parser keeps the last keyword that opened an indentation level, and that keyword.
+extern const bool& RememberScopeKeyword;
+extern const std::string& LastScopeKeyword;
 
-// The symbol tables changed since the lists were last filled. Raised by the parser, lowered by the
-// restyle of the visible lines.
-extern bool gSymbolsChanged;
+// True if the symbol tables have changed since the lists were filled.
+extern const bool& gSymbolsChanged;
 
-// The style of undeclared things: 16 in strict mode, else 0. Written by start-up and the strict mode command.
-extern int BadStyle;
+// The style of undeclared names: 16 in strict mode, else 0.
+extern const int& BadStyle;
 
-// ColorCurrentLine is running. A character was typed or a list was asked for; one was shown in this pass;
-// this line's keyword makes a new name. The user asked for the list, and it stays so while that list is open;
-// this is the pass in which it was asked for. Written by the colourers and the completion.
-extern bool ColoringCurrentLine;
-extern bool ACForced;
-extern bool ACShownNow;
-extern bool InDeclaration;
-extern bool ACExplicitList;
-extern bool ACExplicitNow;
+// True while ColorCurrentLine runs, and while it is at a keyword that declares a new name.
+extern const bool& ColoringCurrentLine;
+extern const bool& InDeclaration;
+// A completion list may open: a character was typed, or the user asked for a list. One was shown in this
+// pass.
+extern const bool& ACForced;
+extern const bool& ACShownNow;
+// The open list is one that the user asked for. It was asked for in this pass.
+extern const bool& ACExplicitList;
+extern const bool& ACExplicitNow;
+
+// --- the scope of the next line
+// ----------------------------------------------------------------------------------
+
+void ForgetScope(); // neither function nor type is known
+void ForgetFunction();
+void ForgetType();
+void SetFunction(const std::string& name);
+void SetFunction(const std::string& name, const std::shared_ptr<clsHash>& locals);
+void SetType(const std::string& name);
+void SetType(const std::string& name, const std::shared_ptr<clsHash>& fields);
+void SetLocals(const std::shared_ptr<clsHash>& locals);
+void SetFields(const std::shared_ptr<clsHash>& fields);
+void SetFoldLevel(int level);
+void SetIndentLevel(int level);
+// The first line of a document lies in the main program, whose locals these are; its levels are unknown.
+void BeginDocument(const std::shared_ptr<clsHash>& mainLocals);
+
+// Restores the scope when it is destroyed.
+class ScopeKept {
+public:
+    ScopeKept();
+    ~ScopeKept();
+    ScopeKept(const ScopeKept&) = delete;
+    ScopeKept& operator=(const ScopeKept&) = delete;
+
+private:
+    std::string function_, type_;
+    std::shared_ptr<clsHash> locals_, fields_;
+};
+
+// --- what is going on
+// ----------------------------------------------------------------------------------------------
+
+// Raises ParsingFile while it lives.
+class ParsingFileScope {
+public:
+    ParsingFileScope();
+    ~ParsingFileScope();
+    ParsingFileScope(const ParsingFileScope&) = delete;
+    ParsingFileScope& operator=(const ParsingFileScope&) = delete;
+};
+
+// Raises Coloring while it lives; may be nested.
+class ColoringScope {
+public:
+    ColoringScope();
+    ~ColoringScope();
+    ColoringScope(const ColoringScope&) = delete;
+    ColoringScope& operator=(const ColoringScope&) = delete;
+
+private:
+    bool before_;
+};
+void EndColoring(); // lowers Coloring, whatever raised it
+
+// Raises ColoringCurrentLine while it lives, and begins a pass that has shown no list.
+class CurrentLineScope {
+public:
+    CurrentLineScope();
+    ~CurrentLineScope();
+    CurrentLineScope(const CurrentLineScope&) = delete;
+    CurrentLineScope& operator=(const CurrentLineScope&) = delete;
+};
+void EnterDeclaration(); // raises InDeclaration for the rest of the pass
+
+// Raises RememberScopeKeyword while it lives and forgets an older keyword.
+class ScopeKeywordKept {
+public:
+    ScopeKeywordKept();
+    ~ScopeKeywordKept();
+    ScopeKeywordKept(const ScopeKeywordKept&) = delete;
+    ScopeKeywordKept& operator=(const ScopeKeywordKept&) = delete;
+};
+void KeepScopeKeyword(const std::string& keyword);
+
+void NoteSymbolsChanged();
+bool TakeSymbolsChanged();   // returns whether they had changed, and lowers the flag
+void SetStrict(bool strict); // sets BadStyle
+
+// --- completion
+// ------------------------------------------------------------------------------------------------------
+
+void AllowCompletion(bool allowed); // sets ACForced
+void NoteListShown();
+void NoteListClosed();
+
+// The user asks for a list while this lives; an open list stays one that was asked for.
+class CompletionAsked {
+public:
+    CompletionAsked();
+    ~CompletionAsked();
+    CompletionAsked(const CompletionAsked&) = delete;
+    CompletionAsked& operator=(const CompletionAsked&) = delete;
+};
+
+// Puts everything above back to what it is at the program's start.
+void ResetParserState();

@@ -99,14 +99,14 @@ private:
     void KnowFunction() {
         if (functionKnown_) return;
         functionKnown_ = true;
-        if (!sequential_ || CurrentFunctionName.empty()) CurrentFunctionName = CurrentFunction(line_ - 1);
+        if (!sequential_ || CurrentFunctionName.empty()) SetFunction(CurrentFunction(line_ - 1));
         found_.localsBefore = found_.localsBehind = CurrentLocals;
     }
 
     void KnowType() {
         if (typeKnown_) return;
         typeKnown_ = true;
-        if (!sequential_ || CurrentTypeName.empty()) CurrentTypeName = CurrentType(line_ - 1);
+        if (!sequential_ || CurrentTypeName.empty()) SetType(CurrentType(line_ - 1));
         if (!CurrentTypeName.empty()) found_.fieldsBefore = found_.fieldsBehind = CurrentFields;
     }
 

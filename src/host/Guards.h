@@ -5,15 +5,6 @@
 #include "host/DockStudio.h"
 #include "host/Host.h"
 
-// Shows the wait cursor.
-class WaitCursor {
-public:
-    WaitCursor() { gHost.desktop->SetWaitCursor(true); }
-    ~WaitCursor() { gHost.desktop->SetWaitCursor(false); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
 // Stops the painting of the main window.
 class StillWindow {
 public:

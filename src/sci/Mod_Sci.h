@@ -16,6 +16,18 @@ extern std::intptr_t SciWndData;
 // The library's one direct function. Written when the first view is made.
 extern SciDirectFunction gSciDirect;
 
+// Makes another view the active one while it lives; the active document stays.
+class ViewSwap {
+public:
+    explicit ViewSwap(std::intptr_t view) : before_(SciWndData) { SciWndData = view; }
+    ~ViewSwap() { SciWndData = before_; }
+    ViewSwap(const ViewSwap&) = delete;
+    ViewSwap& operator=(const ViewSwap&) = delete;
+
+private:
+    std::intptr_t before_;
+};
+
 namespace Mod_Sci {
 
 inline std::intptr_t Send(unsigned message, std::intptr_t wParam = 0, std::intptr_t lParam = 0) {

@@ -9,11 +9,11 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "engine/WaitCursor.h"
 #include "host/Desktop.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Files.h"
-#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/Processes.h"
@@ -259,7 +259,7 @@ void RefreshDefinitions(const std::string& compilerName, const std::string& comp
                 {" Error while creating keyword definitions file !\r\n\r\n See " + target + " for details",
                  MessageIcon::Critical});
         }
-        if (gActiveDoc != nullptr) gActiveDoc->State.mOldStartLine = -100;
+        if (gActiveDoc != nullptr) gActiveDoc->State.Restyle();
     });
 }
 

@@ -49,8 +49,9 @@ Session::~Session() {
     gActiveCompiler.reset();
     DefaultCompiler.clear();
     gDocumentCalls = {};
-    BadStyle = 0;
-    gUserEdited = Coloring = false;
+    SetStrict(false);
+    EndColoring();
+    gUserEdited = false;
 }
 
 frmDoc& Session::Reopen(const std::string& path) {

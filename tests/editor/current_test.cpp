@@ -35,7 +35,7 @@ TEST_F(CurrentLine, AGlobalWinsWhereTheCaretIsAndALocalElsewhere) {
 }
 
 TEST_F(CurrentLine, AnUndeclaredNameIsNotBadWhileItIsTyped) {
-    const Setting<int> strict(BadStyle, 16);
+    const StrictMode strict;
     EXPECT_EQ(StylesOf({""}, "foo$=1"), "....+9");
     EXPECT_EQ(StylesWhenLeft(), "xxxx+9");
 }
@@ -95,7 +95,7 @@ TEST_F(CurrentLine, ANewNameKeepsItsSpelling) {
 }
 
 TEST_F(CurrentLine, ALineThatWasColouredAsCurrentGetsItsOwnLookBack) {
-    const Setting<int> strict(BadStyle, 16);
+    const StrictMode strict;
     OpenLines({"Print 1", "what", "ever", "Print 2"});
     GoTo(1);
     Settle();

@@ -76,7 +76,7 @@ TEST_F(ColourTest, NamesAreLookedUpInOrder) {
 }
 
 TEST_F(ColourTest, AChainOfKnownFieldsIsOneRun) {
-    const Setting strict(BadStyle, 16);
+    const StrictMode strict;
     Expect({
         {"Type Rock", "kkkk.tttt"},
         {"Field next.Rock, x#, list[3]", "kkkkk.ttttttttt,,tt,,tttt,9,"},
@@ -95,7 +95,7 @@ TEST_F(ColourTest, AChainOfKnownFieldsIsOneRun) {
 
 TEST_F(ColourTest, UndeclaredNamesAreBadInStrictModeOnly) {
     Expect({{"miss = 1", ".....+.9"}, {"_x 1e5", "......"}, {"", ""}});
-    const Setting strict(BadStyle, 16);
+    const StrictMode strict;
     Expect({{"miss = 1", "xxxx.+.9"}, {"_x 1e5", "xx.xxx"}, {"", ""}});
 }
 
@@ -118,7 +118,7 @@ TEST_F(ColourTest, BracketsThatDoNotMatch) {
 }
 
 TEST_F(ColourTest, AMissingBracketIsShownForLongerWordsWithTheOptionOn) {
-    const Setting strict(BadStyle, 16);
+    const StrictMode strict;
     Expect({{"Random 5", "kkkkkk.9"}, {"", ""}});
     const Setting on(OptionsEdit::CheckForMissingBracesOnFunctions, 1);
     Expect({

@@ -17,7 +17,7 @@ TEST_F(ScopeTest, AFunctionReachesToItsEnd) {
         EXPECT_EQ(CurrentFunction(line), names[line]) << line;
         EXPECT_EQ(CurrentLocals == gCurrentProject->MainFunLocals, names[line] == std::string(MainProgram));
         EXPECT_EQ(CurrentLocals->ExistsHash("a"), names[line] == std::string("f")) << line;
-        CurrentLocals = nullptr;
+        SetLocals(nullptr);
         EXPECT_EQ(CurrentFunctionForDisplay(line), shown[line]) << line;
         EXPECT_EQ(CurrentLocals, nullptr);
     }

@@ -1,6 +1,7 @@
 // Taking a line back is the exact inverse of its parse, and scopes give and take what stands in them.
 #include "engine/fixture/SourceTest.h"
 
+#include "engine/ParserState.h"
 #include "host/qt/system/QtFiles.h"
 
 namespace {
@@ -30,8 +31,8 @@ TEST_F(UnparseTest, NothingIsLeftOfAFile) {
         Open(QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/tests/data/" + name));
         EXPECT_NE(Marked(), "") << name;
         // Whatever scope the last pass left.
-        CurrentFunctionName = "RockSize";
-        CurrentTypeName = "Rock";
+        SetFunction("RockSize");
+        SetType("Rock");
         int refilled = 0;
         gEngineCalls.PuniLista = [&] { ++refilled; };
         Mod_Parse::UnParseFile();

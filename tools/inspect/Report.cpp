@@ -150,8 +150,7 @@ void Symbols(Json& json, const std::shared_ptr<ClsProject>& project) {
 
 void StyleAll() {
     ForEachDocument(gCurrentProject, [](frmDoc&) {
-        CurrentFunctionName.clear();
-        CurrentTypeName.clear();
+        ForgetScope();
         const int lines = static_cast<int>(Mod_Sci::GetLineCount());
         for (int line = 0; line < lines; ++line)
             if (Mod_Parse::HasMarker(line, Mod_Parse::MarkerParsed)) Mod_Parse::ColorLineLight(line, true);

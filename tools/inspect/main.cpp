@@ -25,7 +25,6 @@ namespace {
 constexpr int UnusableArguments = 2;
 constexpr int CannotOpen = 3;
 constexpr int MalformedEdit = 4;
-constexpr int StrictBadStyle = 16;
 
 constexpr const char* Usage =
     "usage: zolto-inspect [--appdir DIR] [--set SECTION/KEY=VALUE]... [--strict] [--edits FILE]\n"
@@ -117,7 +116,7 @@ int Run(Arguments& arguments) {
                              setting.substr(equals + 1));
     }
     host.Load();
-    if (arguments.strict) BadStyle = StrictBadStyle;
+    if (arguments.strict) SetStrict(true);
     std::error_code error;
     const std::string path = std::filesystem::absolute(arguments.file, error).lexically_normal().string();
     // Only sources and projects: anything else would be handed to the desktop.
@@ -129,8 +128,8 @@ int Run(Arguments& arguments) {
 
     long long parse = 0;
     std::chrono::steady_clock::time_point parseBegin;
-    gEngineCalls.WaitCursor = [&](bool on) { // up for as long as a file is parsed
-        if (on)
+    gEngineCalls.ParsingAll = [&](bool begins) {
+        if (begins)
             parseBegin = std::chrono::steady_clock::now();
         else
             parse += Microseconds(parseBegin);
@@ -141,7 +140,7 @@ int Run(Arguments& arguments) {
         return CannotOpen;
     }
     const long long load = Microseconds(since);
-    gEngineCalls.WaitCursor = nullptr;
+    gEngineCalls.ParsingAll = nullptr;
     std::vector<long long> editTimes;
     if (!arguments.edits.empty()) editTimes = PlayEdits(edits);
     since = std::chrono::steady_clock::now();

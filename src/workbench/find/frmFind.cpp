@@ -3,9 +3,9 @@
 
 #include "documents/ClsMRU.h"
 #include "editor/SciOptions.h"
+#include "engine/WaitCursor.h"
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
-#include "host/Guards.h"
 #include "host/Host.h"
 #include "host/Text.h"
 #include "sci/Mod_Sci.h"

@@ -19,14 +19,12 @@
 
 namespace {
 
-constexpr int StrictStyle = 16;
-
 // Only lines that come into view are coloured, so the visible lines have to be treated as new.
 void RestyleVisible() {
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources) {
             frmDoc& document = FormOf(*source.record);
-            document.State.mOldStartLine = -100;
+            document.State.Restyle();
             document.Redraw();
         }
 }
@@ -60,7 +58,7 @@ void FollowStrictMark() {
     DockCommand* command = gHost.dock->FindCommand("Strict Mode");
     if (!command) return;
     command->SetCaption(command->Checked() ? " Strict On" : "Strict Off");
-    BadStyle = command->Checked() ? StrictStyle : 0;
+    SetStrict(command->Checked());
     RestyleVisible();
 }
 

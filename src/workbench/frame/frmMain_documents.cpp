@@ -66,11 +66,10 @@ void frmMain::DS_DocumentWindowActivate(DocumentWindow& window, bool creating) {
 void frmMain::ActivateDocument(frmDoc& document) {
     MakeActive(&document);
     // The parser's state of the previous document is meaningless for this one.
-    Coloring = false;
-    ACForced = false;
-    CurrentFunctionName.clear();
-    CurrentTypeName.clear();
-    document.State.mOldStartLine = -100;
+    EndColoring();
+    AllowCompletion(false);
+    ForgetScope();
+    document.State.Restyle();
     document.State.mJustActivated = true;
     if (gCurrentProject) {
         TakeCompilerOf(document, *gCurrentProject);
