@@ -1,5 +1,5 @@
-// Only the caret's line is looked at: the library's own search for a bracket's partner would walk through the
-// whole document on every key behind one that has none.
+// Only the caret's line is searched: the library's own search for the partner of an unmatched bracket would
+// walk through the whole document on every key.
 #include "editor/BraceHighlight.h"
 
 #include "engine/Keywords.h"
@@ -12,7 +12,7 @@
 namespace {
 
 constexpr std::intptr_t NoBrace = -1;
-// A brace behind the text: the view draws none, and keeps the guide lit.
+// A brace position beyond the text: the view draws no brace there and keeps the guide highlighted.
 constexpr std::intptr_t BeyondText = 10000;
 constexpr std::size_t ShortestScopeWord = 2;
 
@@ -34,7 +34,7 @@ std::size_t Partner(const std::string& text, std::size_t close, std::intptr_t li
     return std::string::npos;
 }
 
-// Highlights the innermost pair that the caret stands in; false when there is none.
+// Highlights the innermost pair around the caret. Returns false if there is none.
 bool HighlightPair(std::intptr_t pos) {
     const auto line = Mod_Sci::LineFromPosition(pos);
     if (Mod_Sci::LineLength(line) > LongestLine) return false;

@@ -3,6 +3,6 @@
 
 #include <cstdint>
 
-// Highlights the pair of brackets on the caret's line that the caret stands in; where it stands in none, the
-// indentation guide of the scope keyword under the caret. `pos`: the caret.
+// Highlights the innermost pair of brackets around the caret (`pos`) on its line, or else the indentation
+// guide of the scope keyword at the caret.
 void HighlightBraces(std::intptr_t pos);

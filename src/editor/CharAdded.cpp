@@ -1,4 +1,4 @@
-// The new line's indentation where only the line above gives it, and "name++" written out.
+// Indents a new line from the line above, and writes out "name++".
 #include "editor/CharAdded.h"
 
 #include "engine/DocumentRecord.h"
@@ -32,7 +32,7 @@ bool IsNoVariable(std::intptr_t position) {
     return std::find(styles.begin(), styles.end(), Mod_Sci::GetStyleAt(position)) != styles.end();
 }
 
-// Stands on a closing bracket; answers the place in front of its partner, or `lineStart` - 1 without one.
+// From a closing bracket, returns the position before its partner, or `lineStart` - 1 if there is none.
 std::intptr_t InFrontOfBrackets(std::intptr_t close, std::intptr_t lineStart) {
     int depth = 0;
     for (auto at = close; at >= lineStart; --at) {
@@ -51,13 +51,13 @@ bool EndsWithWord(std::intptr_t end, std::intptr_t lineStart, const char* word, 
     return EqualNoCase(text, word) || EqualNoCase(text, other);
 }
 
-// Whether a statement begins behind a position: at the line's start, behind a colon, a Then or an Else.
+// Whether a statement begins after a position: at the line's start, after a colon, a Then or an Else.
 bool BeginsStatement(std::intptr_t front, std::intptr_t lineStart) {
     while (front >= lineStart && IsBlank[CharAt(front)]) --front;
     return front < lineStart || CharAt(front) == ':' || EndsWithWord(front + 1, lineStart, "Then", "Else");
 }
 
-// Whether nothing of a statement stands from a position on.
+// Whether a position is followed by no part of a statement.
 bool EndsStatement(std::intptr_t at) {
     const auto lineEnd = Mod_Sci::GetLineEndPosition(Mod_Sci::LineFromPosition(at));
     while (at < lineEnd && IsBlank[CharAt(at)]) ++at;
@@ -67,7 +67,8 @@ bool EndsStatement(std::intptr_t at) {
     return EndsWithWord(end, at, "Else", "EndIf");
 }
 
-// The place in front of what the signs at `scan` + 1 change; nothing when that is no statement of its own.
+// Returns the position before the variable that the signs at `scan` + 1 change; nothing if it is not a
+// statement of its own.
 std::optional<std::intptr_t> InFrontOfTarget(std::intptr_t scan, std::intptr_t lineStart) {
     for (;;) {
         if (scan < lineStart || IsNoVariable(scan)) return {};
@@ -89,8 +90,8 @@ void LikeAbove() {
     Mod_Sci::GotoPos(Mod_Sci::GetLineIndentPosition(line));
 }
 
-// Keys that come faster than paints leave the line without its styles, by which a comment is told. No list
-// opens here.
+// Styles the line, because keys may arrive faster than paints and comments are recognised by their style.
+// Opens no completion list.
 void StyleTyped() {
     const bool forced = ACForced;
     AllowCompletion(false);
@@ -114,7 +115,7 @@ void ExpandPlusPlus(std::intptr_t pos, char ch) {
     Mod_Sci::GotoPos(pos + static_cast<std::intptr_t>(target.size()) + 2);
 }
 
-// The one character of a line end that stands for it: the CR, or an LF that has none.
+// Whether a character ends a line: a CR, or an LF without a CR before it.
 bool EndsLine(int ch) { return ch == '\r' || (ch == '\n' && CharAt(Mod_Sci::GetCurrentPos() - 2) != '\r'); }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Characters that a document's code page lacks. What is on disk in Windows-1252 was written for programs that
-// read it so; a text that nobody has read yet may become UTF-8.
+// Characters that a document's code page lacks. Other programs read a saved Windows-1252 file as such, so
+// only a text that no program can have read yet becomes UTF-8.
 #include "editor/CodePage.h"
 
 #include "editor/EditorCalls.h"
@@ -27,7 +27,7 @@ void Tell(const std::string& text) { gEditorCalls.SetNotice(text); }
 // The active view's selection, which may be a rectangle.
 class Selection {
 public:
-    // Follows a text that becomes longer behind a place.
+    // Follows a text that grows after a position.
     void Grow(std::intptr_t at, std::intptr_t by) {
         if (at < anchor_) anchor_ += by;
         if (at < caret_) caret_ += by;
@@ -47,8 +47,8 @@ private:
     std::intptr_t caret_ = Mod_Sci::GetCurrentPos();
 };
 
-// Has the active view show the other code page, for which it forgets its lines; what nobody can read off the
-// text is set anew. The symbols must have been forgotten, and all lines are to be parsed.
+// Switches the active view's code page, which makes the view forget its lines, and restores what cannot be
+// derived from the text. The symbols must be forgotten before and all lines parsed afterwards.
 void Show(frmDoc& document, bool utf8) {
     constexpr int Kept[] = {Mod_Parse::MarkerBookmark, Mod_Parse::MarkerInactiveCaret};
     std::vector<std::pair<std::intptr_t, int>> markers;

@@ -7,11 +7,10 @@
 
 class frmDoc;
 
-// Makes a UTF-8 document of one in Windows-1252 whose text nothing else can depend on: it was never saved, or
-// has no byte above 127. Its text stays what it reads; the status bar tells. For any other document false,
-// and the status bar tells that `character` (UTF-8) is left out; empty: nothing is told. `grown` hears, from
-// the end of the text to its start, where (bytes from 0) and by how many bytes it becomes longer. The change
-// opens an undo group, to which belongs what is inserted next.
+// Converts a Windows-1252 document to UTF-8 if nothing can depend on its bytes: never saved, or no byte above
+// 127. Returns false otherwise. The status bar reports the result; with a `character` (UTF-8), that it is
+// left out. `grown` is called from the end of the text to its start with each position (bytes from 0) and
+// growth (bytes). Opens an undo group, which the next insertion joins.
 bool TakeBeyondCodePage(frmDoc& document, const std::string& character,
                         const std::function<void(std::intptr_t at, std::intptr_t by)>& grown = {});
 

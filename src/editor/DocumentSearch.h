@@ -1,4 +1,4 @@
-// Searching one document, whether it is in front or not.
+// Searches one document, whether or not it is the active one.
 #pragma once
 
 #include "editor/frmDoc.h"
@@ -15,7 +15,7 @@ struct FindText {
     bool IsPattern() const;
 };
 
-// Bytes of the document from 0; `end` is behind the last one.
+// Bytes of the document from 0; `end` is after the last one.
 struct Hit {
     std::intptr_t start = 0;
     std::intptr_t end = 0;
@@ -25,19 +25,19 @@ class DocumentSearch {
 public:
     DocumentSearch(frmDoc& document, const FindText& what);
 
-    // The first hit between two places; where `from` lies behind `to`, the last one. A text that the document
-    // cannot hold and a pattern that is none have no hits. Writes the view's target.
+    // Returns the first hit between two positions, or the last one if `from` is after `to`. A text that the
+    // document cannot hold and an invalid pattern have no hits. Writes the view's target.
     std::optional<Hit> Find(std::intptr_t from, std::intptr_t to) const;
-    // The same from `from` to the place behind which no hit may begin.
+    // The same from `from`, for hits that begin before `to`.
     std::optional<Hit> FindUpTo(std::intptr_t from, std::intptr_t lastStart) const;
-    // Where to go on behind a hit: an empty one must not be found again.
+    // Where to continue after a hit, so that an empty hit is not found again.
     std::intptr_t Behind(const Hit& hit) const;
     // Whether a range is a hit as a whole. Without a pattern the case of letters plays no part.
     bool Matches(const Hit& range) const;
-    // Replaces a hit that Find or Matches has just answered by bytes of the document; answers the length of
-    // what stands there now.
+    // Replaces the hit that Find or Matches has just returned with bytes of the document. Returns the length
+    // of the replacement.
     std::intptr_t Replace(const Hit& hit, const std::string& bytes) const;
-    // A text in the document's bytes; nothing where it has none for it.
+    // A text in the document's bytes; nothing if the document cannot hold it.
     std::optional<std::string> InDocument(const std::string& text) const;
 
     std::intptr_t Length() const;

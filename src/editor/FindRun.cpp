@@ -1,4 +1,4 @@
-// Single steps of a run: where it starts, goes round and ends. Replacing all stands in FindRun_all.cpp.
+// Single steps of a run: where it starts, wraps and ends. FindRun_all.cpp replaces all hits.
 #include "editor/FindRun.h"
 
 #include "editor/OpenDocuments.h"
@@ -95,7 +95,7 @@ bool FindRun::Search(const FindOptions& options, Direction direction, bool inter
     return false;
 }
 
-// One search of a document from a place to its end, or to where a run that has come round began.
+// Searches a document from a position to its end, or to the start of the run if the run has wrapped.
 std::optional<FindRun::Found> FindRun::FindIn(frmDoc& document, const FindOptions& options,
                                               Direction direction, std::intptr_t start) const {
     const DocumentSearch search(document, options);
@@ -132,7 +132,7 @@ std::optional<FindRun::Found> FindRun::FindInFilePrev(const FindOptions& options
     return FindIn(document, options, Direction::Backward, Mod_Sci::GetLength());
 }
 
-// Goes round the documents from the active one. None of them comes to the front for it and no caret moves.
+// Visits the documents from the active one on, without activating one or moving a caret.
 std::optional<FindRun::Found> FindRun::FindInDocuments(const FindOptions& options, std::intptr_t start,
                                                        Direction direction) {
     const bool forward = direction == Direction::Forward;
@@ -145,7 +145,7 @@ std::optional<FindRun::Found> FindRun::FindInDocuments(const FindOptions& option
     if (!forward) std::reverse(documents.begin(), documents.end() - 1);
     for (frmDoc* next : documents) {
         const bool home = AtStart(*next);
-        // Without the document in which the run began, it ends where this search did.
+        // If the document in which the run began is gone, the run ends where this search started.
         if (home ? forward && options.fromTop : next == ActiveForm()) return {};
         Wrapped = Wrapped || home;
         const auto from = forward ? 0 : DocumentSearch(*next, options).Length();

@@ -1,6 +1,5 @@
-// Finding and replacing over one file, a project, all open files or a selection. A run is the span from a
-// first search to a change of what is looked for: it knows where it began, so that it ends there once it has
-// been round.
+// Finds and replaces in one file, a project, all open files or a selection. A run lasts from a first search
+// until the search changes; it remembers its start, so that it ends there after wrapping.
 #pragma once
 
 #include "editor/DocumentSearch.h"
@@ -25,8 +24,8 @@ public:
 
     // Replaces the selection where it is a hit, then finds the next one.
     bool Replace(const FindOptions& options, const std::string& replacement);
-    // Replaces what the run has not come by yet, each hit once and as one undo step a document; the caret
-    // stays where it is. Answers how many there were.
+    // Replaces each remaining hit of the run once, as one undo step for each document; the caret does not
+    // move. Returns the number of replacements.
     int ReplaceAll(const FindOptions& options, const std::string& replacement);
     // How many hits a new run would come by. Moves nothing and ends the run.
     int Count(const FindOptions& options);
@@ -41,7 +40,7 @@ private:
         frmDoc* document;
         Hit hit;
     };
-    // A stretch of a document, whose hits end in front of `end`, or begin by it.
+    // A part of a document; its hits end before `end`, or begin by it.
     struct Piece {
         frmDoc* document;
         std::intptr_t from;
@@ -72,13 +71,13 @@ private:
 
     bool running_ = false;
     Direction direction_ = Direction::Forward;
-    Hit left_; // the selection that the run left behind; another one means that the user has moved
+    Hit left_;              // the selection that the run made; another one means that the user has moved
     bool emptyHit_ = false; // what was found last had no characters
 
     std::intptr_t StartPos = 0; // where the run began: the start of the selection, and its file
     std::string StartFile;
     std::string CurrentFile; // the one that was searched last
-    bool Wrapped = false;    // the run has come round and ends at StartPos in StartFile
+    bool Wrapped = false;    // the run has wrapped and ends at StartPos in StartFile
     // What is left of the area of a selection search, and the selection to restore when it ends.
     std::intptr_t SelStart = 0;
     std::intptr_t SelEnd = 0;

@@ -23,8 +23,8 @@ void TellUnknownCharacters(const frmDoc& document) {
                          .title = "Zolto - Replace"});
 }
 
-// What replaces hits, in the document's bytes; the document becomes UTF-8 for it where it may. Nothing when
-// it has no bytes for it, which is told.
+// Returns the replacement in the document's bytes, converting the document to UTF-8 if that is needed and
+// allowed. If it is not allowed, reports that and returns nothing.
 std::optional<std::string> BytesFor(frmDoc& document, const std::string& replacement,
                                     const std::function<void(std::intptr_t, std::intptr_t)>& grown) {
     const DocumentSearch any(document, {});
@@ -66,7 +66,7 @@ bool FindRun::Replace(const FindOptions& options, const std::string& replacement
     Mod_Sci::SetSel(behind, behind);
     left_ = {behind, behind};
     emptyHit_ = hit.start == hit.end;
-    // The search goes on behind what was put in, from the top only where it is to begin there.
+    // The search continues after the replacement, or from the top if it has to start there.
     running_ = running_ || !options.fromTop;
     return FindNext(options, true);
 }

@@ -5,11 +5,11 @@
 
 namespace Mod_SciFun {
 
-// Sets or takes the bookmark of the line that a position (bytes) lies in; -1 stands for the caret. With
-// FileDirtyOnBookmarks the document counts as changed.
+// Toggles the bookmark of the line at a position (bytes; -1 for the caret). With FileDirtyOnBookmarks the
+// document becomes dirty.
 void ToggleBookmark(std::intptr_t position);
-// The next or previous bookmark. Behind the last one of a document the walk goes on in the document windows
-// that follow and at last comes round to the active one; with BookMarksSingleFileBased it stops.
+// Go to the next or previous bookmark. After a document's last one they continue in the following document
+// windows and wrap to the active one; with BookMarksSingleFileBased they stop.
 void GotoNextBookmark();
 void GotoPrevBookmark();
 // Takes every bookmark of the active document, and unless BookMarksSingleFileBased of all others.

@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    // Whether the caret is on the word and not just behind it.
+    // Whether the caret is on the word, not only at its end.
     bool CaretOn(const Token& token) const { return token.EndPos > caret_; }
 
     bool IsCall(const Token& token, bool first) {
@@ -59,7 +59,7 @@ private:
             if (CaretOn(token)) return Take(token, true, 0);
             return parameters >= call_.param && Take(token, true, call_.param + 1);
         }
-        if (depth_ > 0) call_.param = 0; // an array, whose commas count for nobody else
+        if (depth_ > 0) call_.param = 0; // an array, whose commas belong to no call
         return false;
     }
 

@@ -51,7 +51,7 @@ public:
         return name.size() >= word_.size() && EqualNoCase(name.substr(0, word_.size()), word_);
     }
 
-    // Namesakes stand side by side. `once`: not beside one that is there.
+    // Adds a name. Namesakes are adjacent, and `once` skips the second one.
     void Insert(const std::string& name, bool once = false) {
         const auto at = std::upper_bound(names_.begin(), names_.end(), &name,
                                          [](const auto* a, const auto* b) { return Less(*a, *b); });
@@ -77,7 +77,7 @@ private:
     std::vector<const std::string*> names_; // of records, which outlive the list
 };
 
-// What the view was last asked to show. Written by Show alone.
+// The list that the view shows. Written by Show alone.
 struct ShownList {
     std::intptr_t view = 0;
     std::intptr_t start = 0;

@@ -7,11 +7,9 @@ struct ClsType;
 
 namespace Mod_SciFun {
 
-// Each collects what begins with the word at the caret and shows it in the active view; a list that would
-// be too long does not open by itself. More candidates than the list holds are a failure, which is
-// reported. They clear ACForced and raise ACShownNow.
-//
-// Keywords and every kind of name in scope; behind a "." type names.
+// Each collects the names that begin with the word at the caret and shows them in the active view; a list
+// that is too long opens only on request. Exceeding the list's capacity is reported as a failure. They lower
+// ACForced and raise ACShownNow. Autocomplete offers keywords and all names in scope; after a "." type names.
 void Autocomplete();
 // The types of the project.
 void AutocompleteType();

@@ -136,7 +136,7 @@ void RemoveStop(std::intptr_t start) {
     FinishEdit();
 }
 
-// A path in the bytes of the active document; as it is where that cannot hold it.
+// A path in the active document's bytes; unchanged if the document cannot hold it.
 std::string InDocument(const std::string& path) {
     std::string bytes;
     if (Mod_Sci::GetCodePage() == SC_CP_UTF8 || !FromUtf8ToSingleBytes(ToUtf8(path), bytes)) return path;
@@ -175,7 +175,8 @@ void NewLine() {
 void CompleteScope() {
     Command("CompleteScope", [] {
         CancelList();
-        // What stands behind the caret comes back into the scope: an opener among it is none of the caret's.
+        // The text after the caret returns into the scope, so a keyword in it does not open the caret's
+        // scope.
         const auto from = Mod_Sci::GetSelectionEnd();
         const auto to = Mod_Sci::GetLineEndPosition(Mod_Sci::LineFromPosition(from));
         const std::string rest = Mod_Sci::GetTextRange(from, to);

@@ -4,8 +4,8 @@
 
 namespace Mod_SciFun {
 
-// The lines that a command on the selection works on. A selection that ends in front of a line's first
-// character leaves that line out; a folded block at its end belongs to it whole.
+// The lines that a command on the selection changes. A selection that ends before a line's first character
+// excludes that line; a closed fold at its end is included whole.
 struct LineSpan {
     int first;
     int last;
@@ -38,7 +38,7 @@ constexpr int AnyFold = ~0;
 void FoldEverything(int mask);
 void UnFoldEverything(int mask);
 
-// Puts a "Stop" in front of a line or takes it away; -1 is the caret's line.
+// Toggles a "Stop" at the start of a line; -1 means the caret's line.
 void ToggleBreakPoint(int line = -1);
 
 // Asks for a file and inserts its path as seen from the document's folder, in quotes.

@@ -15,7 +15,7 @@ namespace {
 
 using namespace Mod_Parse;
 
-// A caret that would be hidden goes to the line of its fold that is still seen.
+// Moves a hidden caret to the visible line of its fold.
 void ShowCaret() {
     auto line = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
     if (Mod_Sci::GetLineVisible(line)) return;

@@ -27,7 +27,7 @@ using Word = ClsBBFunkcija::Word;
 class OwnChange {
 public:
     OwnChange() {
-        ActiveForm()->SetDirty(true); // nobody hears of the change
+        ActiveForm()->SetDirty(true); // the change sends no events
         Mod_Sci::BeginUndoAction();
     }
     ~OwnChange() { Mod_Sci::EndUndoAction(); }
@@ -77,7 +77,7 @@ private:
         const ClsBBFunkcija* keyword = KeywordOf(Tokens[static_cast<std::size_t>(index)]);
         return keyword == nullptr ? Word::Other : keyword->word;
     }
-    // Nothing but a comment stands behind the word.
+    // Whether only a comment follows the word.
     bool EndsHere() const {
         if (index_ == count_) return true;
         const auto next = Kind(index_ + 1);
@@ -94,7 +94,7 @@ private:
         if (keyword->IsEndScope) Closer(keyword->word);
     }
 
-    // An "End" alone ends the program and no scope. The word behind it opens none.
+    // An "End" alone ends the program, not a scope. A second word of an end opens nothing.
     void End() {
         switch (WordAt(index_ + 1)) {
         case Word::Function: scopes_.function = true; [[fallthrough]];
@@ -116,7 +116,7 @@ private:
                 ++scopes_.closes;
                 ++scopes_.opens;
             } else if (index_ == 1 && WordAt(2) == Word::If) {
-                ++scopes_.closes; // the "If" behind it opens again
+                ++scopes_.closes; // the "If" after it opens again
             }
             break;
         case Word::ElseIf:

@@ -3,9 +3,9 @@
 
 namespace Mod_SciFun {
 
-// Goes to the declaration of the word at the caret, in whatever document of the project it stands. What the
-// word is, its style tells; nothing for other styles and for what is declared nowhere. With
-// CBrowserRememberOnGotoDefinition the position browser records both ends.
+// Goes to the declaration of the word at the caret, in any document of the project. The word's style shows
+// its kind; for other styles and undeclared words nothing happens. With CBrowserRememberOnGotoDefinition the
+// position browser records both ends.
 void GotoDeclaration();
 
 } // namespace Mod_SciFun

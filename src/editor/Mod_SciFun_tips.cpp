@@ -38,7 +38,7 @@ void Write(TipText tip) {
 
 std::string Whole(const TipText& tip) { return tip.left + tip.hot + tip.right; }
 
-// An integer's sign goes without saying.
+// The suffix of an integer is omitted.
 std::string_view Suffix(std::uint8_t tip) { return tip == TipInteger ? "" : SuffixText[tip]; }
 
 // The parameters of a declaration as its source has them.
@@ -164,7 +164,7 @@ void ShowStartScope(int line) {
         if (opener < 0) return Write({});
         std::string text = Mod_Sci::LineText(opener);
         text.erase(std::remove(text.begin(), text.end(), '\t'), text.end());
-        // A bare LF counts as the two bytes that it stands for.
+        // A bare LF counts as two bytes, as the CR LF that it replaces.
         if (!text.empty() && text.back() == '\n' && (text.size() < LineEnd || text[text.size() - 2] != '\r'))
             text.insert(text.size() - 1, 1, '\r');
         if (text.size() <= LineEnd) return;

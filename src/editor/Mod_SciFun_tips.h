@@ -1,5 +1,5 @@
-// What the caret stands in: the call and its parameter, or the line that opened the scope which a closing
-// word ends. Shown in the tip box, and as a call tip in the view.
+// Shows the call and parameter at the caret, or the line that opened the scope which a closing word at the
+// caret ends: in the tip box, and as a call tip in the view.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace Mod_SciFun {
 
-// The call that the caret stands in.
+// The call around the caret.
 struct CallAtCaret {
     std::string name;       // empty in no call
     bool isUser = false;    // a function of the program, not a keyword
@@ -19,7 +19,7 @@ struct CallAtCaret {
 // Reads the line up to the caret's word. `pos`: the caret, on `line`.
 CallAtCaret ZemiHelp(std::intptr_t pos, int line);
 
-// Shows what the caret stands in. Clears mShowCallTip. Failures are reported.
+// Updates the tip for the caret's position. Lowers mShowCallTip. Failures are reported.
 void ShowHelp(std::intptr_t pos, int line);
 // Shows the line that opened the scope which `line` closes.
 void ShowStartScope(int line);

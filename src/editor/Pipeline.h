@@ -29,19 +29,19 @@ public:
     // leaving a document. Another document may be the active one already.
     virtual void DeactivateCheck() = 0;
 
-    // Parses what waits and the line that is being edited, although the caret stands on it. An open undo
-    // group stays open, so that what the parser writes is undone with the edit.
+    // Parses the waiting lines and the line being edited, even with the caret on it. An open undo group stays
+    // open, so that an undo takes back the parser's changes together with the edit.
     virtual void ParseNow() = 0;
 
-    // Runs a change all over the text that nobody hears of, and parses all lines anew. Indentation stays, and
-    // so do closed folds as long as no line comes or goes.
+    // Runs a change of the whole text without events and parses all lines anew. Indentation is kept, and so
+    // are closed folds unless the number of lines changes.
     virtual void ChangeMany(const std::function<void()>& change) = 0;
 
     // Colours the visible lines at once, for what has changed outside this document.
     virtual void RestyleNow() = 0;
 
-    // Parses all lines anew after a change of the vocabulary, and gives keywords their spelling. The history
-    // stays; the document becomes dirty where a byte changed. `change` runs in front and changes no text.
+    // Runs `change`, which switches the vocabulary but changes no text; then parses all lines anew and
+    // respells keywords. The undo history is kept; the document becomes dirty if a byte changed.
     virtual void ParseAnew(const std::function<void()>& change = [] {}) = 0;
 };
 

@@ -1,5 +1,5 @@
-// The ring of places. Its order is told by stamps: a place that was recorded later has the higher one, and
-// what lies forward of the present place has higher ones than it.
+// The ring of places, ordered by stamps: a later place has a higher one, and the places ahead of the present
+// one have higher stamps than it.
 #include "editor/PositionBrowser.h"
 
 #include "editor/Mod_SciFun_goto.h"
@@ -141,7 +141,7 @@ void GotoPreviousPosition() {
     Guarded("GotoPreviousPosition", "Mod_SciFun", [] {
         if (!DocumentActive()) return;
         const int top = At(CBrowserPos).Stamp;
-        // Who stands at a place means the one before it.
+        // If the caret is already at the recorded place, "previous" means the place before it.
         const int first = AtCaret(At(CBrowserPos)) ? Before(CBrowserPos) : CBrowserPos;
         Walk(first, Before, [top](const Place& place) { return place.Stamp >= 1 && place.Stamp <= top; });
     });

@@ -13,8 +13,8 @@ void CheckCBrowser(std::intptr_t position, std::intptr_t line);
 // Moves back and forward through the places. The caret stays where there is none.
 void GotoPreviousPosition();
 void GotoNextPosition();
-// Notes the lines of the active document's places; what it answers sets their markers anew on the same lines,
-// when the view has forgotten all it had.
+// Records the lines of the active document's places. The returned function sets their markers again on these
+// lines, after the view has lost all markers.
 std::function<void()> KeepPlaces();
 
 } // namespace Mod_SciFun

@@ -155,7 +155,7 @@ void SetSciConstants() {
 void UpdateLineNumberMargin() {
     std::intptr_t wanted = 1;
     if (ShowLineNumbers) {
-        // The count's text form has a place for the sign in front of it.
+        // The inherited text form of a number has a leading place for its sign.
         const std::size_t digits = std::to_string(Mod_Sci::GetLineCount()).size() + 1;
         wanted =
             Mod_Sci::TextWidth(STYLE_LINENUMBER, std::string(std::max<std::size_t>(digits, 4), '0').c_str());

@@ -8,5 +8,5 @@ void SetSciOptions(bool applyStyles);
 void SetSciConstants();
 // The modification events that a view sends.
 constexpr int EventMask = 3443;
-// Sets the width of the line number margin where it differs from what the line count wants.
+// Adjusts the width of the line number margin to the line count.
 void UpdateLineNumberMargin();

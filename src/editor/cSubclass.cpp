@@ -1,5 +1,5 @@
-// Dispatch of the notifications: restyle, paint, margin clicks, and the swap of the active document round
-// all of them. What an edit does stands in cSubclass_edit.cpp.
+// Dispatches the notifications of a view (restyle, paint, margin clicks) with its document as the active one.
+// cSubclass_edit.cpp handles edits.
 #include "editor/cSubclass.h"
 
 #include "editor/CharAdded.h"
@@ -123,11 +123,11 @@ void cSubclass::ParseWhole(const std::function<void()>& change) {
         const Unheard unheard;
         const Swapped indentation(OptionsEdit::AutoIndentOnLoad, 0); // the text keeps its indentation
         change();
-        crCame_ = true; // nobody was told what came
+        crCame_ = true; // the new text sent no events, so it may hold any line end
         State().mLastOperationUndoRedo = false;
         ParseOwn(*gCurrentProject);
     }
-    // The parser opens the folds that it comes by. Where lines came or went they cannot be told any more.
+    // The parser has opened all folds. They are closed again unless lines were added or removed.
     for (const int line : folded)
         if (lines == Mod_Sci::GetLineCount() && HasMarker(line, MarkerFoldOpens) &&
             Mod_Sci::GetFoldExpanded(line))
@@ -137,8 +137,8 @@ void cSubclass::ParseWhole(const std::function<void()>& change) {
 
 void cSubclass::Dispatch(const SciNotification& notification) {
     switch (notification.code) {
-    // The view also asks in the middle of an undo, or while a parse opens a fold: nothing may be changed
-    // there, and the scope that the colourers write belongs to the parser.
+    // The view also asks during an undo or while a parse opens a fold. Nothing may be changed then, and the
+    // parser needs the scope that the colourers would write.
     case SCN_STYLENEEDED:
         if (notification.inPaint && !parsing_) StyleNeeded();
         break;
@@ -177,8 +177,8 @@ void cSubclass::OnHistoryCodePage(bool utf8) {
 }
 
 void cSubclass::StyleNeeded() {
-    // A paint asks for styles before it tells of the edits that led to it. What they left to parse is parsed
-    // here, or the lines would be painted twice.
+    // A paint asks for styles before it reports the edits that caused it. The edited lines are parsed here
+    // first, because otherwise they would be painted twice.
     if (!Coloring) ParseEdited();
     const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
     const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
@@ -237,7 +237,8 @@ void cSubclass::Painted() {
         State().mJustActivated = false;
         gEngineCalls.PuniLista();
     }
-    // So that scrolling always asks for styles: what is styled already is told by the lines shown.
+    // Moves the end of the styled text back, so that every scroll asks for styles; the styled lines are
+    // recorded separately.
     Mod_Sci::StartStyling(1, 255);
     if (background_ || !gEditorCalls.SetPositionText) return;
     const auto position = Mod_Sci::GetCurrentPos();

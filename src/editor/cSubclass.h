@@ -59,7 +59,7 @@ private:
     void OpenFolds(int first, int last);
 
     frmDoc& mFrmDoc;
-    bool background_ = false; // another document is the active one; what the window tells is about that one
+    bool background_ = false; // another document is active, and the window's displays belong to it
     bool crCame_ = false;     // into a document whose file had only LF
     bool parsing_ = false;    // the scope that the colourers write belongs to the parser
     int partedFrom_ = -1;     // the first line of a change that takes a CR LF apart or puts one together

@@ -41,8 +41,8 @@ void BeginLongChange() {
     gWaitCursor = true;
 }
 
-// Whether what comes in ends a line. Lines of the text as it stands tell nothing where the text is told: a
-// position behind a byte that is typed at a line's end lies on the next line where lines end in LF.
+// Whether inserted text ends a line. Line numbers cannot show it: in an LF file the position after a byte
+// typed at a line's end is on the next line.
 bool EndsALine(const SciNotification& notification, int start, int end) {
     if (notification.text == nullptr) return end > start && notification.length > 1;
     const std::string_view text(notification.text, static_cast<std::size_t>(notification.length));
@@ -65,7 +65,7 @@ bool PartsLineEnd(const SciNotification& notification, bool mayHoldCr) {
     if (notification.modificationType & SC_MOD_BEFOREDELETE)
         return (behindCr && (at(position) == '\n' || at(end) == '\n')) ||
                (at(end - 1) == '\r' && at(end) == '\n');
-    // An undo does not tell what it brings back.
+    // An undo does not report the text that it restores.
     if (notification.text == nullptr)
         return behindCr || (mayHoldCr && at(position) == '\n' &&
                             (notification.modificationType & (SC_PERFORMED_UNDO | SC_PERFORMED_REDO)));
@@ -142,14 +142,14 @@ void cSubclass::ShowLine(int line) {
     if (!Mod_Sci::GetLineVisible(line)) Mod_Sci::EnsureVisible(line);
 }
 
-// Tells where the lines below an edit have got to.
+// Records how an edit moves the lines below it.
 void cSubclass::FollowLines(const SciNotification& notification) {
     if (notification.linesAdded == 0) return;
     const std::intptr_t view = mFrmDoc.SciEdi_WndData;
     const auto position = notification.position;
     const bool inserted = (notification.modificationType & SC_MOD_INSERTTEXT) != 0;
     const auto end = inserted ? position + notification.length : position;
-    // Where a CR LF is put together or taken apart, the view counts lines in a way of its own.
+    // If a CR LF is joined or split, the view's own line count is not predictable.
     if (Mod_Sci::GetCharAt(position - 1) == '\r' ||
         (Mod_Sci::GetCharAt(end - 1) == '\r' && Mod_Sci::GetCharAt(end) == '\n'))
         return ForgetLines(view);
@@ -184,7 +184,7 @@ void cSubclass::Modified(const SciNotification& notification) {
     if ((type & SC_MOD_INSERTTEXT) && mFrmDoc.LfEnds && !crCame_) crCame_ = HoldsCr(notification);
 }
 
-// A folded header that goes would leave its lines hidden with nothing to show them by.
+// Opens the folds of lines that are removed, because nothing could show their hidden lines afterwards.
 void cSubclass::OpenFolds(int first, int last) {
     for (int line = first; line <= last; ++line)
         if (!Mod_Sci::GetFoldExpanded(line)) Mod_Sci::ToggleFold(line);
@@ -232,7 +232,7 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
         TakeBackEditedLine(whole || edited < start || edited > end);
     if (State().UnparsedLine < 0) {
         if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
-            // An undo of several changes may come to a line that waits already.
+            // An undo of several changes may reach a line that already waits.
             if (HasMarker(start, MarkerParsed)) UnparseLine(start, false);
             if (!HasMarker(start, MarkerQueued)) Queue(start);
             State().mForceColor = true;
@@ -266,7 +266,7 @@ void cSubclass::GroupTyping(const SciNotification& notification) {
         State().mSpaceTyped = false;
         return;
     }
-    // Where the view does not tell what is typed, the library's own joining is left alone.
+    // If the view does not report the typed text, its own grouping stays in force.
     if (notification.text == nullptr) return;
     const auto byte = static_cast<std::uint8_t>(*notification.text);
     const bool space = byte == ' ';
@@ -310,27 +310,27 @@ void cSubclass::AfterInsert(const SciNotification& notification) {
     }
 }
 
-// The joined line's indentation goes with the line break that was deleted.
+// Removes the indentation of a line that was joined to the line above.
 void cSubclass::JoinLines() {
     State().mJoinPending = false;
     const auto start = Mod_Sci::GetCurrentPos();
     auto end = start;
     while (IsBlank[static_cast<std::uint8_t>(Mod_Sci::GetCharAt(end))]) ++end;
-    // Without what parts them a lone CR and the LF behind would be one line end.
+    // Without the blanks between them, a lone CR and the following LF would become one line end.
     if (Mod_Sci::GetCharAt(start - 1) == '\r' && Mod_Sci::GetCharAt(end) == '\n') return;
     const ColoringScope own;
     Mod_Sci::ReplaceRange(start, end, "");
 }
 
-// Empties the queue; answers its lines from the top of the document down, because a line's scope is read off
-// the lines above it.
+// Empties the queue and returns its lines from top to bottom, because a line's scope is read from the lines
+// above it.
 std::vector<int> cSubclass::TakeQueue() {
     std::vector<int> lines;
     // The line that is left when the whole text has gone waits without a marker.
     if (State().UnparsedLine < 0 && !HasMarker(0, MarkerParsed) && !HasMarker(0, MarkerQueued))
         lines.push_back(0);
-    // By the marker and not by the handles: a handle is asked for with a walk over all lines. One whose line
-    // was deleted has none.
+    // The lines are found by marker, because looking up a handle walks over all lines. A deleted line has no
+    // marker.
     const auto waiting = State().ParseNeeded.size() + lines.size();
     for (int line = queuedFrom_; lines.size() < waiting && line <= queuedTo_; ++line) {
         line = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(MarkerQueued)));
@@ -360,13 +360,13 @@ void cSubclass::ParseQueue() {
     }
 }
 
-// Brings the tables up to the text: takes back the edited line when the caret has left it and parses what
-// waits. Answers whether anything was parsed.
+// Brings the tables up to the text: unparses the edited line if the caret has left it, and parses the waiting
+// lines. Returns whether a line was parsed.
 bool cSubclass::ParseEdited() {
     if (State().mJoinPending) JoinLines();
     const int edited = State().UnparsedLine;
     const bool left = edited != LineOf(Mod_Sci::GetCurrentPos());
-    // Where other lines wait as well it goes with them: they read their scope off it.
+    // If other lines wait, the edited line is parsed with them, because they read their scope from it.
     if (edited >= 0 && (left || !State().ParseNeeded.empty())) {
         State().mForceColor = State().mForceColor || !left;
         if (HasMarker(edited, MarkerQueued)) SetStopErrorLog(StopQueuedTwice);

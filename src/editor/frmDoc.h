@@ -20,7 +20,7 @@ public:
 
     void* NativeWidget() override { return View->NativeWidget(); }
 
-    // Tells this document from every other of this run, also from one that gets its place in memory.
+    // Identifies this document in this run; a number is never used again, unlike an address.
     const long Serial;
 
     // Stores the display name, then sends all options and constants to the view, which must be the
@@ -35,7 +35,7 @@ public:
     void SetFullFilename(const std::string& path) { FullFilename = path; }
     void SetDirty(bool dirty);
     bool CanUndo() const;
-    // Filename, with "*" behind it when dirty.
+    // Filename, followed by "*" if the document is dirty.
     std::string Caption() const;
 
     std::unique_ptr<EditorView> View;
@@ -52,14 +52,14 @@ inline const frmDoc& FormOf(const DocumentRecord& record) { return static_cast<c
 
 // The document that a window shows; null where the window is empty or shows something else, such as the help.
 frmDoc* DocumentIn(const DocumentWindow& window);
-// The same for a window that was looked for; null where it was not found.
+// The same for a window that was searched for; null if it was not found.
 frmDoc* DocumentIn(const DocumentWindow* window);
 
 // The active document as the form that it is; null when there is none.
 frmDoc* ActiveForm();
 
-// The open document of a serial number, null once it was closed. Whoever asks the user something keeps this
-// number and not the document, which may be gone when the answer comes.
+// Returns the open document with a serial number, null if it was closed. Code that asks the user something
+// keeps the number, because the document may be gone afterwards.
 frmDoc* DocumentOfSerial(long serial);
 
 // Makes a document the one that all editor code works on: gActiveDoc, SciWndData and, when its project
@@ -89,5 +89,5 @@ private:
     bool swapped_;
 };
 
-// Takes a document out of its project and destroys it; a single file's project goes with it.
+// Removes a document from its project and destroys it, together with a single file's own project.
 void UnloadDocument(frmDoc* document);

@@ -16,7 +16,6 @@ void DropClosedSymbols(ClsProject& project);
 
 // How many namesakes from its own file a table holds before a symbol.
 int NamesakesBefore(const clsHash& table, const Symbol& symbol);
-// What a view declared under a name, behind so many namesakes; the last of them when there are fewer, null
-// when there is none. With NamesakesBefore it finds a symbol of a closed file again after the file was
-// opened.
+// Returns what a view declared under a name: the one after so many namesakes, or the last if there are fewer;
+// null if there is none. With NamesakesBefore it finds a closed file's symbol again after reopening.
 SymbolPointer NamesakeOf(std::intptr_t view, const clsHash& table, std::string_view name, int before);

@@ -1,4 +1,4 @@
-// Vocabularies: reading a .lng file into 68 dictionaries, and the structure words that no file tells.
+// Vocabularies: reads a .lng file into 68 dictionaries, and adds the structure words that no file defines.
 #include "engine/ClsCompiler.h"
 
 #include "engine/KeywordReader.h"

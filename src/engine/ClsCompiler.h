@@ -14,7 +14,7 @@ public:
     std::string HelpPath;
     bool RealConsole = false;
     bool KeywordsLoaded = false;
-    bool Refused = false; // the last try to load its keywords failed; nobody asks again by himself
+    bool Refused = false; // the last attempt to load its keywords failed; it is not repeated by itself
 
     // The root directory on disk: a relative Path is taken from AppDir.
     std::string Folder() const;
@@ -26,8 +26,8 @@ public:
     // Reads Conf\<Name>.lng. False, after a message or a report, when it did not go through; the
     // dictionaries stay as far as they got.
     bool LoadKeywords();
-    // Makes this the source of the current vocabulary, loading it where needed. Writes KeywordTable; a failed
-    // load leaves it as it is, unless it is empty.
+    // Makes this the current vocabulary, loading it if needed. Writes KeywordTable; a failed load leaves it
+    // unchanged, unless it is empty.
     bool SetDefaultKeywords();
 
 private:

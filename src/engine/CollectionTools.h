@@ -19,8 +19,8 @@ public:
 
     explicit CollectionTools(KeysAre keys = KeysAre::Names) : keys_(keys) {}
 
-    // Adds a record under a key, in front of the entry at `before` or at the end (-1).
-    // Fails with FailureDuplicateKey for a key in use.
+    // Adds a record under a key, before the entry at `before` or at the end (-1). Fails with
+    // FailureDuplicateKey for a key in use.
     void Add(Pointer record, const std::string& key, int before = -1) {
         if (Exist_Key(key))
             throw Failure(FailureDuplicateKey,

@@ -25,7 +25,7 @@ struct PipelineState {
     bool mRefusalTold = false;      // a line that is too long for the scanner has been reported
     bool UndoGroup = false;         // an undo action is open in the view
 
-    // Has the visible lines styled anew when the view asks next.
+    // Makes the next style request of the view restyle all visible lines.
     void Restyle() { mOldStartLine = -100; }
     // The lines that were styled last: first the first visible line, then the last line of the document.
     bool IsStyled(int first, int last) const { return first == mOldStartLine && last == mOldEndLine; }
@@ -60,8 +60,8 @@ struct DocumentRecord {
     PipelineState State;
 };
 
-// The active document and its view. Written by the activation of a document; whoever works on another
-// document swaps and restores them.
+// The active document and its view. Written by MakeActive; code that works on another document swaps it with
+// ActiveSwap.
 extern DocumentRecord* gActiveDoc;
 
 // An active document exists and its view is there.

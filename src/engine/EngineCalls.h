@@ -1,4 +1,4 @@
-// What the engine may ask of the floors above it. Empty by default: the engine works without an answer.
+// Requests of the engine to higher floors. They are empty by default, and the engine works without them.
 #pragma once
 
 #include "host/Request.h"
@@ -13,11 +13,11 @@ struct EngineCalls {
     Request<void()> AutocompleteType;
     Request<void()> AutocompleteLabel;
     Request<void(const ClsType& type, const std::string& typed)> AutocompleteBackSlash;
-    // Tells that the lists of the Code Explorer no longer agree with the tables.
+    // Reports that the lists of the Code Explorer no longer agree with the tables.
     Request<void()> PuniLista;
-    // Reports that the parse of a whole file begins or ends, for whoever measures it.
+    // Reports the beginning and end of the parse of a whole file, so that its duration can be measured.
     Request<void(bool begins)> ParsingAll;
-    // Tells that the active document has changed without a change of its text.
+    // Reports that the active document has changed although its text has not.
     Request<void()> DocumentChanged;
 };
 extern EngineCalls gEngineCalls; // written by the wiring of the application alone

@@ -1,5 +1,5 @@
-// One definition: a name with a result suffix, then the parameters with their markers. A marker ends a
-// parameter, "]" behind it makes it optional, everything else but a name character divides.
+// Reads one definition: a name with a result suffix, then parameters with type markers. A marker ends a
+// parameter, "]" after it makes it optional, and any other character that is not part of a name separates.
 #include "engine/KeywordReader.h"
 
 #include "engine/Mod_Lexer.h"
@@ -13,7 +13,7 @@ constexpr std::size_t LongestParameterText = 255;
 
 bool IdChar(char c) { return IsIdChar[static_cast<std::uint8_t>(c)] != 0; }
 
-// Takes the parameters apart; answers whether one of them is required.
+// Splits the parameter list. Returns whether a parameter is required.
 bool ReadParameters(std::string_view text, ClsBBFunkcija& keyword) {
     if (text.size() > LongestParameterText) throw Failure(6, "Overflow");
     bool required = false;

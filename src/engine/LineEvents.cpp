@@ -96,7 +96,7 @@ private:
         else if (EqualNoCase(word, "Type"))
             Add(LineEvent::EndType, index_);
         else if (!EqualNoCase(word, "If") && !EqualNoCase(word, "Select"))
-            return; // an End alone: the word behind it is taken in its turn
+            return; // an End alone: the next word is read in its turn
         ++index_;
     }
 

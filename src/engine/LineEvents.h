@@ -1,5 +1,5 @@
-// What a line declares and which scopes it opens and closes, told from its tokens alone, as the parser takes
-// them. Whoever asks later what a line meant reads it here.
+// What a line declares and which scopes it opens and closes, read from its tokens alone as the parser reads
+// them. All later questions about a line's meaning are answered from here.
 #pragma once
 
 #include "engine/Mod_Lexer.h"
@@ -26,8 +26,8 @@ struct LineEvent {
     };
     Kind kind;
     int token;    // of the name, or of the second word of an end
-    int type = 0; // token of the type's name behind it; 0 when there is none
-    int from = 0; // columns of the parameter list or of the brackets behind the name; 0 when there are none
+    int type = 0; // token of the type name after it; 0 if there is none
+    int from = 0; // columns of the parameter list or brackets after the name; 0 if there are none
     int to = 0;
 
     bool OfFunctions() const { return kind == Function || kind == EndFunction; }

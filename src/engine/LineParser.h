@@ -63,9 +63,10 @@ private:
     int foldDelta_ = 0;     // fold blocks opened less those closed
     int functionWords_ = 0; // that begin or end a function so far
     int typeWords_ = 0;
-    std::vector<std::string> opened_; // the words whose scopes are open behind the line, where asked for
+    std::vector<std::string>
+        opened_; // the words whose scopes are still open at the line's end; kept only on request
     bool typeKnown_ = false;
-    std::shared_ptr<clsHash> localsBefore_; // those in front of the line
+    std::shared_ptr<clsHash> localsBefore_; // the locals before the line
     std::shared_ptr<clsHash> fieldsBefore_; // null outside every type
     bool startsOutside_ = false;            // of every function
     bool startsWithComment_ = false;

@@ -20,7 +20,7 @@ void LineStyles::Set(std::intptr_t position, std::intptr_t length, int style) {
 }
 
 void LineStyles::Flush() {
-    bool placed = false; // the styling position stands where the next run begins
+    bool placed = false; // the styling position is where the next run begins
     for (int i = 0; i < length_;) {
         const std::uint8_t style = styles_[static_cast<std::size_t>(i)];
         int end = i + 1;

@@ -17,7 +17,7 @@ namespace {
 
 using namespace Mod_Parse;
 
-// Behind the line that ends a function no name is known yet.
+// After the line that ends a function the function name is still unknown.
 bool OutsideFunctions() { return CurrentFunctionName.empty() || CurrentFunctionName == MainProgram; }
 
 // A closing line lowers the level, but never below that of its surroundings.
@@ -28,8 +28,8 @@ int Lowered(int level) {
 
 int LevelOf(int line) { return static_cast<int>(Mod_Sci::GetFoldLevel(line)) & SC_FOLDLEVELNUMBERMASK; }
 
-// How many folds a parsed line opens less those that it closes; only its sign is right. Where it does both
-// the markers do not tell.
+// How many folds a parsed line opens minus those it closes; only the sign is reliable, because the markers do
+// not show the order if the line does both.
 int DeltaOf(int line) {
     const auto markers = Mod_Sci::MarkerGet(line);
     const bool opens = (markers & MaskOf(MarkerFoldOpens)) != 0;

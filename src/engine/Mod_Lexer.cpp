@@ -132,7 +132,7 @@ private:
         NumberTail();
     }
 
-    // A literal with a letter right behind it is malformed as a whole.
+    // A literal directly followed by a letter is malformed as a whole.
     void NumberTail() {
         if (IsIdChar[At(column_)]) {
             RunOver(IsIdChar);
@@ -163,8 +163,8 @@ private:
         column_ = limit_;
     }
 
-    // A string ends at its quote or at any control character; where that is the line's end, so does
-    // the scan, whichever line end the file has.
+    // A string ends at its quote or at any control character. If that is the line's end the scan ends too,
+    // whatever line ends the file has.
     void String() {
         const int start = column_ + 1;
         column_ = start;

@@ -51,9 +51,8 @@ namespace Mod_Lexer {
 // Fills the tables; a second call changes nothing.
 void BuildCharacterTables();
 
-// Scan `length` bytes from index 1 of the buffer; token texts are cut from `line`, the same bytes.
-// Answer the number of tokens. A line beyond the limits answers 0, after a report unless `quiet`: what the
-// parser has reported, a repaint need not report again.
+// Scans `length` bytes from index 1 of the buffer; token texts are cut from `line`, the same bytes. Returns
+// the number of tokens; 0 for a line beyond the limits, which is reported unless `quiet`.
 int Tokenize(std::string_view line, int length, bool quiet = false);
 int TokenizeLightPomosna(std::string_view line, int length, bool quiet = false);
 // Whether the last Tokenize refused its line.
@@ -61,8 +60,8 @@ bool Refused();
 // The full scan of a line into LightBuffer and LightTokens, in the middle of a pass over Tokens.
 int TokenizeBeside(std::string line);
 
-// Copies a line to LineBuffer as the scanner wants it: a bare LF at its end becomes a CR in the copy.
-// Answers the length. A line longer than LongestLine is not copied; the scanner refuses it by length.
+// Copies a line to LineBuffer and returns its length; a bare LF at its end becomes a CR. A line longer than
+// LongestLine is not copied, because the scanner refuses it by its length.
 int FillLineBuffer(std::string& line);
 int FillLightBuffer(std::string& line);
 

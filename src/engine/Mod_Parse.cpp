@@ -1,5 +1,5 @@
-// One line: its tokens are walked once, what it declares goes into the tables, markers, first colours, fold
-// level and indentation are set. What a keyword declares stands in Mod_Parse_declare.cpp.
+// Parses one line: walks its tokens once, declares its symbols, and sets markers, first colours, fold level
+// and indentation. Mod_Parse_declare.cpp has what the keywords declare.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClosedFiles.h"
@@ -43,26 +43,26 @@ int LineParser::Run() {
     text_.resize(static_cast<std::size_t>(Mod_Sci::LineLength(line_)));
     if (!text_.empty()) Mod_Sci::GetLine(line_, text_.data());
     length_ = Mod_Lexer::FillLineBuffer(text_);
-    // A file may have many lines that are too long; it is told of once.
+    // A file may have many lines that are too long, so only the first is reported.
     bool& told = gActiveDoc->State.mRefusalTold;
     count_ = Mod_Lexer::Tokenize(text_, length_, told);
     told = told || Mod_Lexer::Refused();
     gLineStyles.Begin(lineStart_ + 1, length_, true);
 
     if (!sequential_ || CurrentFunctionName.empty()) SetFunction(CurrentFunction(line_ - 1));
-    // The type is asked for where it matters; what a paint left here must not reach the lines that follow.
+    // The type is looked up when it is needed; a type name left by a repaint must not reach the next lines.
     if (!sequential_) ForgetType();
     MarkMainProgram(line_);
     startsOutside_ = CurrentFunctionName == MainProgram;
     localsBefore_ = CurrentLocals;
-    // On loading, nothing indents unless the option says so, and nobody asks for the level.
+    // A load indents nothing unless the option asks for it, so the level is not needed.
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) SetIndentLevel(GetNextIndent(line_ - 1));
 
     while (index_ <= count_) One();
     MoveBelow();
     if (!opened_.empty()) KeepScopeKeyword(opened_.back());
-    // While a file is loaded nobody sees the line yet: the pass that shows it gives it all its styles.
+    // A line is invisible while its file loads; the pass that shows it sets all its styles.
     if (!ParsingFile) {
         gLineStyles.Begin(lineStart_ + 1, length_, true);
         StyleLiterals(count_, lineStart_);
@@ -148,7 +148,7 @@ void LineParser::General() {
 void LineParser::EndScope(Word word) {
     const bool endsHere = index_ == count_ || IsComment(At(index_ + 1));
     switch (word) {
-    case Word::End: break; // the word behind it decides
+    case Word::End: break; // the next word decides
     case Word::Then:
         if (!endsHere) General();
         break;

@@ -25,8 +25,8 @@ void UnParseFile();
 // Forgets what the lines of the current document declared, and takes the parser's markers off all of them, in
 // one go. No line may be waiting or being edited. ParseAllLines is to follow.
 void ForgetFile();
-// Parses one line that is not parsed; `sequential` tells that the line above was parsed just before.
-// Answers the handle of the line's marker 3.
+// Parses one unparsed line and returns the handle of its marker 3. `sequential` means that the line above has
+// just been parsed.
 int Parseline(int line, bool sequential);
 // Takes back what a line declared, by its old text or, without one, by its present text.
 void UnparseLine(int line, bool sequential, const std::optional<std::string>& oldText = std::nullopt);
@@ -44,19 +44,19 @@ std::string CurrentFunctionForDisplay(int line);
 struct FunctionsOnLine {
     bool begins = false;    // one begins here
     bool endsAbove = false; // one ends here that began above
-    bool goesBelow = false; // one begins here and goes on below
+    bool goesBelow = false; // a function begins on the line and continues below
     std::string lastBegun;  // the name of the last one that begins here
 };
 FunctionsOnLine FunctionsOn(int line);
 // The indentation level, from 1, of the line below.
 int GetNextIndent(int line);
-// Gives a line an indentation in columns. A blank line behind a lone CR keeps its own: while it has none the
-// two line ends would be one.
+// Sets a line's indentation in columns. A blank line after a lone CR keeps its indentation: without it the
+// two line ends would become one.
 void SetIndentation(int line, int columns);
 
 // --- colouring -------------------------------------------------------------------------------------
 
-// Colours the line under the caret and asks for a completion list where the grammar expects a name.
+// Colours the caret's line and requests a completion list where the grammar expects a name.
 void ColorCurrentLine(int line, bool scopeKnown);
 // Colours a parsed line that is not under the caret; `sequential`: the line above was coloured just before.
 void ColorLineLight(int line, bool sequential);

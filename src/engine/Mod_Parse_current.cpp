@@ -1,5 +1,5 @@
-// Colouring of the line under the caret. What is being typed there is not judged yet: an unknown name is
-// plain text. Each place where the grammar expects a name asks for a completion list.
+// Colours the caret's line. Unfinished input is not judged, so an unknown name is plain text. A completion
+// list is requested wherever the grammar expects a name.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClsCompiler.h"
@@ -71,7 +71,7 @@ private:
         }
     }
 
-    // Behind a name it calls for a type; the sign itself stays as it looks.
+    // After a name the sign starts a type name; its own style does not change.
     void Dot() {
         const Token& dot = At(index_);
         const auto position = lineStart_ + dot.StartPos;
@@ -114,7 +114,7 @@ private:
         return ColorKnown(table, upper_, {style, walker, !keepCase_}, index_, count_, lineStart_);
     }
 
-    // The caret's scope is asked for once: nothing in the pass changes it.
+    // Nothing in the pass changes the caret's scope, so it is looked up once.
     void EnterScope() {
         if (inScope_) return;
         inScope_ = true;
@@ -166,12 +166,12 @@ private:
         }
     }
 
-    // The name of a type or a label behind its keyword.
+    // The name of a type or label after its keyword.
     void Behind(clsHash& table, int style, const ListRequest& list) {
         TakeName(table, style, At(index_).EndPos + 1, list);
     }
 
-    // `asked`: the column at which a list opens before a letter is typed.
+    // `asked` is the column at which a list opens before a letter is typed.
     void TakeName(clsHash& table, int style, int asked, const ListRequest& list) {
         if (AskedAt(lineStart_, asked)) return list();
         if (!NextIsName()) return;
@@ -203,7 +203,7 @@ private:
     UpperName upper_;
 };
 
-// A list that no letter keeps open goes, and with it the wish that it be long.
+// Closes a list with no word at the caret and forgets that the full list was asked for.
 void TendList() {
     const bool open = Mod_Sci::AutoCActive() != 0;
     if (!ACForced && open && NoWordAtCaret()) Mod_Sci::AutoCCancel();

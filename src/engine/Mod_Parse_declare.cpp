@@ -1,4 +1,4 @@
-// What a keyword declares: functions, types, and the lists of names behind Field, Dim, Global, Local, Const.
+// What keywords declare: functions, types, and lists of names after Field, Dim, Global, Local and Const.
 #include "engine/LineParser.h"
 
 #include "engine/ClsProject.h"
@@ -71,10 +71,10 @@ void LineParser::Function() {
     Enter(gCurrentProject->Funkcii, function);
     SetFunction(function->Ime, function->Locals);
     DeleteEvery(line_, MarkerMainProgram);
-    // What stands behind the header is the walk's: its bracket means nothing there, a comment does.
+    // The token loop reads the rest of the line: brackets there mean nothing, a comment does.
 }
 
-// Reads the header from the name on. Answers the column where the parameter list starts.
+// Reads a function header from its name on. Returns the column where the parameter list starts.
 int LineParser::BuildFunction(ClsFunkcija& function) {
     const NameTail tail = SuffixTail(index_, count_);
     function.Tip = tail.tip == TipUnnamedType ? static_cast<std::uint8_t>(TipInteger) : tail.tip;
@@ -109,7 +109,7 @@ void LineParser::End() {
         Rewrite(index_, "Select");
         closes_ += 2;
     } else {
-        return; // an End alone: the word behind it is taken in its turn
+        return; // an End alone: the next word is read in its turn
     }
     ++index_;
 }
@@ -119,7 +119,7 @@ void LineParser::EndFunction() {
     --foldDelta_;
     Rewrite(index_, "Function");
     SetFunction(MainProgram, gCurrentProject->MainFunLocals);
-    // A function that begins and ends here leaves the line where it was.
+    // A function that begins and ends on this line does not change where the line belongs.
     if (functionWords_ > 0 && startsOutside_ && !HasMarker(line_, MarkerMainProgram))
         AddMarker(MarkerMainProgram);
     ++functionWords_;
@@ -130,7 +130,7 @@ void LineParser::EndFunction() {
 
 // --- types -----------------------------------------------------------------------------------------
 
-// Lets the type in front of the line be known, which most lines need not ask for.
+// Looks up the type before the line; most lines do not need it.
 void LineParser::KnowType() {
     if (typeKnown_) return;
     typeKnown_ = true;
@@ -163,8 +163,8 @@ void LineParser::Type() {
     ++index_;
 }
 
-// What stands below the line belongs to the scopes behind it from now on. While a whole file is parsed
-// nothing below is in the tables yet.
+// Moves the symbols below the line to the scopes that the line leaves open. While a whole file is parsed the
+// tables hold nothing below the line.
 void LineParser::MoveBelow() {
     if (ParsingFile) return;
     if (functionWords_ > 0) MoveLocalsBelow(line_, *localsBefore_, *CurrentLocals);

@@ -1,4 +1,4 @@
-// Taking back a whole document at once, where going through its lines would take longer than loading it.
+// Removes a whole document's symbols at once, because unparsing its lines would take longer than loading it.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClsProject.h"

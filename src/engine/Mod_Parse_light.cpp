@@ -42,7 +42,7 @@ void ColorBad(int& index, int count, int lineStart) {
         Style(lineStart, At(index), static_cast<std::intptr_t>(At(index).Text.size()), BadStyle);
 }
 
-// A suffix that stands alone, or a bad word that begins with one.
+// Styles a lone suffix, or a malformed word that begins with a suffix.
 void ColorSuffix(int& index, int count, int lineStart) {
     if (index < count && Touches(At(index), At(index + 1)))
         ColorBadVar(index, count, lineStart, BadStyle);
@@ -161,7 +161,7 @@ private:
         }
     }
 
-    // A type's or a label's name behind its keyword.
+    // Styles the type or label name after its keyword.
     void NextFrom(clsHash& table, int style) {
         if (!table.ExistsHash(NextText())) return;
         const std::string spelling = FoundItem->Ime;
@@ -188,7 +188,7 @@ private:
             const LineEvent event = scopes_[i];
             if (event.kind != LineEvent::Field || event.token <= index_) continue;
             if (event.token > index_ + 1 && At(event.token - 1).Kind != ',') return;
-            // What hangs on the name in front may be unknown; the list goes on all the same.
+            // A field's initialiser may contain anything; the list continues after it.
             while (index_ + 1 < event.token) {
                 ++index_;
                 One();

@@ -1,5 +1,5 @@
-// Colouring gives a name the spelling of another declaration, and a declaration's own line may have one: what
-// the tables tell of that line follows its text.
+// Colouring may respell a name after another declaration, even on a line that declares it. The records of
+// such a line are updated from its text here.
 #include "engine/Mod_Parse_walk.h"
 
 #include "engine/ParserState.h"

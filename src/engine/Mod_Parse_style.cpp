@@ -13,7 +13,7 @@ using Word = ClsBBFunkcija::Word;
 
 Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
 
-// Brackets behind a declared name, up to the closing one.
+// Styles the brackets after a declared name, up to the closing one.
 void TakeBounds(NameTail& tail, int& index, int count, int lineStart) {
     tail.bracket = index;
     const int close = ClosingBracket(Tokens.data(), index, count);
@@ -52,7 +52,7 @@ private:
         case TOK_NUMBER: Style(lineStart_, token, token.EndPos - token.StartPos, STYLE_Number); break;
         case TOK_STRING: Style(lineStart_, token, token.EndPos - token.StartPos + 1, STYLE_String); break;
         case '.':
-            if (index_ == 1 && NextIsName()) ++index_; // a label: the name behind it is no keyword
+            if (index_ == 1 && NextIsName()) ++index_; // a label: the name after it is not a keyword
             break;
         case TOK_NONE: Style(lineStart_, token, token.EndPos - token.StartPos, BadStyle); break;
         default:

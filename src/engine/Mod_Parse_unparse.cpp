@@ -47,7 +47,7 @@ void TakeBack(int line, bool sequential, const std::optional<std::string>& oldTe
     ReadEvents(Tokens.data(), count, length, events);
     const LineSymbols found = FindLineSymbols(line, sequential, Tokens.data(), events);
     for (const LineSymbol& symbol : found.symbols) TakeOut(symbol, line);
-    // What stands below falls back to the scope in front of the line.
+    // The symbols below return to the scope before the line.
     if (found.functions) MoveLocalsBelow(line, *found.localsBehind, *found.localsBefore);
     if (found.types) MoveFieldsBelow(line, found.fieldsBehind.get(), found.fieldsBefore.get());
     for (const int marker : {MarkerMainProgram, MarkerFoldOpens, MarkerFoldCloses, MarkerBlock,

@@ -24,8 +24,8 @@ ClsType* FindType(const std::string& name) {
     return gCurrentProject->Types.ExistsHash(name) ? static_cast<ClsType*>(FoundItem) : nullptr;
 }
 
-// One variable, its index and its chain of fields. The run begins at the name and goes on through the
-// fields; brackets interrupt it.
+// Walks one variable, its index and its chain of fields. The styled run starts at the name and continues
+// through the fields; brackets interrupt it.
 class VariableWalk {
 public:
     VariableWalk(Symbol* record, int& index, int count, int lineStart, int style, char bracket)
@@ -60,7 +60,7 @@ private:
         if (next != TOK_NONE && record_->Tip != TipUnnamedType && SuffixTip[next] == record_->Tip) ++index_;
     }
 
-    // The type name of a declaration is taken; answers whether the walk stands before a field.
+    // Skips the type name of a declaration. Returns whether a field follows.
     bool AtFields() {
         if (NextKind() == '\\') return !(bracket_ == '[' && record_->IsBBArray);
         if (NextKind() != '.') return false;
@@ -80,7 +80,7 @@ private:
         return !Indexed() && NextKind() == '\\';
     }
 
-    // Walks an index in brackets, if one follows; answers whether a field follows the closing one.
+    // Skips an index in brackets, if there is one. Returns whether a field follows the closing bracket.
     bool BehindBrackets() {
         if (!Indexed() || NextKind() != bracket_) return false;
         DrawRun();
@@ -100,7 +100,7 @@ private:
         return true;
     }
 
-    // Stands before "\". Answers whether the chain goes on behind the field.
+    // Starts before a "\". Returns whether the chain continues after the field.
     bool Field() {
         const ClsType* type = FindType(record_->Tajp);
         const int before = index_;
@@ -216,8 +216,8 @@ void FixVariableCase(const std::string& spelling, int index, int lineStart) {
     Token& token = Tokens[static_cast<std::size_t>(index)];
     if (!OptionsEdit::FixVariableCase || token.Text == spelling || token.Text.size() != spelling.size())
         return;
-    // A word of the language keeps the language's spelling, also where a function has its name: the parser
-    // would put it back.
+    // A word of the language keeps the language's spelling even if a function has the same name, because the
+    // parser would restore it.
     if (const ClsBBFunkcija* keyword = KeywordOf(token); keyword != nullptr && keyword->Ime != spelling)
         return;
     const std::intptr_t caret = Mod_Sci::GetCurrentPos();

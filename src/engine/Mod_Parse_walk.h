@@ -1,6 +1,5 @@
-// Shared by the parser and the colourers: the walkers over Tokens. For the engine's own files.
-// `index` stands on a token, from 1, and ends on the last one that the walker consumed; `lineStart` is the
-// position in front of column 1.
+// Walkers over Tokens, shared by the parser and the colourers; only for the engine. `index` (from 1) is a
+// token's and ends at the last token consumed; `lineStart` is the position before column 1.
 #pragma once
 
 #include "engine/LineStyles.h"
@@ -17,11 +16,11 @@ class clsHash;
 
 namespace Mod_Parse {
 
-// The column behind a token: EndPos of a word or a number, one further for a single character.
+// The column after a token: EndPos of a word or number, StartPos + 1 of a single character.
 int TokenEnd(const Token& token);
 // The keyword that a token is; null when it is none.
 const ClsBBFunkcija* KeywordOf(const Token& token);
-// The token of the bracket that matches the one at `open`; count + 1 where none does.
+// The token of the bracket that matches the one at `open`; count + 1 if there is none.
 int ClosingBracket(const Token* tokens, int open, int count);
 // The bytes of LineBuffer between two columns.
 std::string Cut(int from, int to);
@@ -35,21 +34,21 @@ inline void Style(int lineStart, const Token& token, std::intptr_t length, int s
 // Replaces the text at a document position by a spelling of the same length, in the undo history or beside
 // it.
 void Respell(std::intptr_t start, const std::string& spelling, bool inHistory);
-// Rewrites a token's extent, which keeps its length, and its Text. It enters the undo history, but not behind
-// an undo or a redo.
+// Rewrites a token, which keeps its length, in the text and in Text. The change enters the undo history,
+// except after an undo or redo.
 void RewriteToken(const std::string& spelling, int index, int lineStart);
-// The same outside the undo history, unless the option is off or the caret stands at the token.
+// The same outside the undo history. Does nothing if the option is off or the caret is at the token.
 void FixVariableCase(const std::string& spelling, int index, int lineStart);
 
-// A token of the line was given another spelling since somebody lowered this. Written by the two above and by
-// who asks.
+// True if a token of the line was respelled since the flag was lowered. Raised by the two functions above,
+// lowered by the passes that read it.
 extern bool LineRespelt;
 // Gives the records of what a parsed line declares the spelling of its present text.
 void RespellSymbols(int line);
 
 // A literal, keyword, separator or operator inside an initialiser or bounds, without symbol look-up.
 void ColorToken(int index, int lineStart);
-// What a declared name carries behind itself.
+// What follows a declared name.
 struct NameTail {
     std::uint8_t tip = TipInteger;
     std::string tajp;
@@ -57,8 +56,8 @@ struct NameTail {
     bool closed = false;
 };
 
-// Read and colour what follows a declared name: its suffix or type name; an initialiser or [...] of a
-// variable; the (...) of an array. The index stands on the name and ends on the token behind it all.
+// Read and colour what follows a declared name: suffix or type name; a variable's initialiser or [...]; an
+// array's (...). `index` moves from the name to the token after all of it.
 NameTail SuffixTail(int& index, int count);
 NameTail GetVarTipColor(int& index, int count, int lineStart);
 NameTail GetArrayVarTipColor(int& index, int count, int lineStart);
@@ -79,7 +78,7 @@ void ColorBadVar(int& index, int count, int lineStart, int style);
 // One token inside brackets, by what it means.
 void ColorTokenLight(int& index, int count, int lineStart);
 
-// A name in upper case with its hash, computed once for all tables that are asked for it.
+// A name in upper case with its hash, computed once for all tables that are searched for it.
 struct UpperName {
     std::string text;
     int hash = 0;
@@ -96,10 +95,10 @@ struct NameLook {
 // Styles a name that a table knows, with what hangs on it. False when it does not know it.
 bool ColorKnown(clsHash& table, const UpperName& name, NameLook look, int& index, int count, int lineStart);
 
-// Whether a completion list may open or go on for the word that ends at a column of the line being coloured:
-// the caret stands there, none was shown in this pass, and one is asked for or open.
+// Whether a completion list may open or stay for the word that ends at a column: the caret is there, no list
+// was shown in this pass, and a list is requested or open.
 bool MayOffer(int lineStart, int column);
-// Whether a list was asked for right at a column, behind a sign that calls for a name.
+// Whether a list was requested exactly at a column, after a sign that expects a name.
 bool AskedAt(int lineStart, int column);
 
 // Brackets of the pass: clear before it, push or close each one, and style what stayed open after it.

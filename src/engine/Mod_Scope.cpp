@@ -1,4 +1,4 @@
-// Scope and indentation are read off the markers and the line above when they are asked for.
+// Scope and indentation are read from the markers and the line above at the time of the question.
 #include "engine/Mod_Parse.h"
 
 #include "engine/ClsCompiler.h"
@@ -21,7 +21,7 @@ namespace {
 
 using Word = ClsBBFunkcija::Word;
 
-// Scans a line with the light scanner; answers its token count. A line beyond the limits counts as empty.
+// Scans a line with the light scanner and returns its token count. A line beyond the limits counts as empty.
 int ScanLight(std::string line) {
     const int length = Mod_Lexer::FillLightBuffer(line);
     return length > LongestLine ? 0 : Mod_Lexer::TokenizeLightPomosna(line, length, true);
@@ -50,7 +50,7 @@ ScopeFound FindScope(int line, int marker, clsHash& table) {
     const auto name = [&](int event) -> const std::string& {
         return LightTokens[static_cast<std::size_t>(events[static_cast<std::size_t>(event)].token)].Text;
     };
-    int namesakes = 0; // in front of it on its line
+    int namesakes = 0; // before it on its line
     for (int i = 0; i < last; ++i)
         if (events[static_cast<std::size_t>(i)].kind == begins && EqualNoCase(name(i), name(last)))
             ++namesakes;
@@ -82,7 +82,9 @@ bool EndsWith(const std::string& word) {
            EqualNoCase(word, "Type");
 }
 
-// The index steps over a word that belongs to the one it stands on.
+// Advances the index over a second word that belongs to the word at the index. LineParser::EndScope and ::End
+// have the same rules for the full scanner; this copy reads the light one, and its Else rule is required as
+// it is.
 void CountEndScope(Levels& levels, Word word, int& index, int count) {
     const Token& next = LightTokens[static_cast<std::size_t>(index) + 1];
     const bool last = index == count;
@@ -96,7 +98,8 @@ void CountEndScope(Levels& levels, Word word, int& index, int count) {
         if (!last && next.Kind != TOK_COMMENT) levels.General();
         break;
     case Word::Else: {
-        // The word behind an Else is read from the full scanner's array, as its last pass left it.
+        // The word after an Else is read from the full scanner's array as its last pass left it; this is
+        // required behaviour.
         const Token& full = Tokens[static_cast<std::size_t>(index) + 1];
         if (full.Kind == TOK_COMMENT || last) {
             ++levels.closes;

@@ -39,16 +39,15 @@ extern const int& BadStyle;
 // True while ColorCurrentLine runs, and while it is at a keyword that declares a new name.
 extern const bool& ColoringCurrentLine;
 extern const bool& InDeclaration;
-// A completion list may open: a character was typed, or the user asked for a list. One was shown in this
+// A completion list may open: a character was typed, or the user asked for a list. A list was shown in this
 // pass.
 extern const bool& ACForced;
 extern const bool& ACShownNow;
-// The open list is one that the user asked for. It was asked for in this pass.
+// The user asked for the list that is open. The user asked in this pass.
 extern const bool& ACExplicitList;
 extern const bool& ACExplicitNow;
 
 // --- the scope of the next line
-// ----------------------------------------------------------------------------------
 
 void ForgetScope(); // neither function nor type is known
 void ForgetFunction();
@@ -78,7 +77,6 @@ private:
 };
 
 // --- what is going on
-// ----------------------------------------------------------------------------------------------
 
 // Raises ParsingFile while it lives.
 class ParsingFileScope {
@@ -127,13 +125,12 @@ bool TakeSymbolsChanged();   // returns whether they had changed, and lowers the
 void SetStrict(bool strict); // sets BadStyle
 
 // --- completion
-// ------------------------------------------------------------------------------------------------------
 
 void AllowCompletion(bool allowed); // sets ACForced
 void NoteListShown();
 void NoteListClosed();
 
-// The user asks for a list while this lives; an open list stays one that was asked for.
+// Marks the pass as one that the user asked a list of. A list that opens stays marked afterwards.
 class CompletionAsked {
 public:
     CompletionAsked();

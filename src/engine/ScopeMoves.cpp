@@ -1,4 +1,4 @@
-// A move asks each symbol's marker where it stands now; no range is stored anywhere.
+// Each move reads the lines of symbols from their markers; no range is stored.
 #include "engine/ScopeMoves.h"
 
 #include "engine/ClsProject.h"
@@ -16,8 +16,7 @@ namespace Mod_Parse {
 
 namespace {
 
-// The symbols of the active view among `all` that stand below a line, up to the first scope word of the line
-// `end`.
+// Returns the symbols of the active view in `all` below a line, up to the first scope word of the line `end`.
 std::vector<SymbolPointer> Below(const std::vector<SymbolPointer>& all, int line, int end) {
     std::vector<SymbolPointer> below;
     for (const SymbolPointer& symbol : all) {

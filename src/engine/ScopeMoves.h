@@ -1,5 +1,5 @@
-// Which symbols a line declared, and the moves of locals and fields between scopes when a line that opens or
-// closes one comes or goes. For the engine's own files.
+// Finds the symbols that a line declared, and moves locals and fields between scopes when a line that opens
+// or closes one is added or removed. Only for the engine.
 #pragma once
 
 #include "engine/LineEvents.h"
@@ -17,8 +17,8 @@ int NextLineWith(int line, int marker);
 // Puts a symbol into a table: at its end while a file is parsed from top to bottom, else in its place.
 void Enter(clsHash& table, const SymbolPointer& symbol);
 
-// Move what stands below a line, up to the next word that begins or ends a function (a type), from one scope
-// to another. Without a table the fields belong to no type: they live in the document.
+// Move the symbols below a line, up to the next word that begins or ends a function (a type), to another
+// scope. Fields without a table belong to no type and are kept by the document.
 void MoveLocalsBelow(int line, clsHash& from, clsHash& to);
 void MoveFieldsBelow(int line, clsHash* from, clsHash* to);
 
@@ -31,7 +31,7 @@ struct LineSymbol {
     SymbolPointer record;
 };
 
-// The symbols of a line from left to right, and what its scopes are in front of it and behind it.
+// The symbols of a line from left to right, and the scopes before and after it.
 struct LineSymbols {
     std::vector<LineSymbol> symbols;
     std::shared_ptr<clsHash> localsBefore, localsBehind;
@@ -40,8 +40,8 @@ struct LineSymbols {
     bool types = false;
     bool locals = false;
 };
-// `sequential`: CurrentFunctionName and CurrentTypeName are those in front of the line, where they are not
-// empty. Writes them. `tokens`: what was read of the line.
+// Finds the symbols of a line from its `tokens`. `sequential` means that CurrentFunctionName and
+// CurrentTypeName, unless empty, are those before the line. Writes both.
 LineSymbols FindLineSymbols(int line, bool sequential, const Token* tokens, const LineEvents& events);
 
 } // namespace Mod_Parse

@@ -31,7 +31,7 @@ public:
         list_.clear();
     }
 
-    // Where a line has got to since change number `since`; -1 when that is not known.
+    // Returns where a line is after the changes from number `since` on; -1 if unknown.
     int Follow(int line, unsigned since) const {
         if (since < first_) return -1;
         for (std::size_t i = since - first_; i < list_.size(); ++i) {
@@ -52,7 +52,7 @@ private:
 
 std::unordered_map<std::intptr_t, Changes> changesOf;
 
-// The changes of the view that was asked for last, because it will be asked for again.
+// The changes of the most recently used view, which is likely to be used next.
 Changes& Of(std::intptr_t view) {
     static std::intptr_t lastView = 0;
     static Changes* last = nullptr;

@@ -1,5 +1,5 @@
-// The lines that symbols stand on now. A view answers where a marker is with a walk over all its lines; here
-// the changes of its lines are remembered, and a symbol's line follows from where it was seen last.
+// The current lines of symbols. A view finds a marker by walking over all its lines; this module records line
+// changes and derives a symbol's line from where it was last.
 #pragma once
 
 #include "engine/Symbols.h"
@@ -10,7 +10,7 @@
 void LinesInserted(std::intptr_t view, int line, int count);
 // The `count` lines below `line` have become part of it.
 void LinesRemoved(std::intptr_t view, int line, int count);
-// What changed cannot be followed, or the view has gone: its markers will be asked again.
+// Forgets the recorded changes of a view that cannot be followed or is gone: its markers are looked up again.
 void ForgetLines(std::intptr_t view);
 
 // A marker has just been set on a line of a view.

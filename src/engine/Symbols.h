@@ -1,5 +1,5 @@
-// The symbol records: one for each declared name, owned by the tables of a project. The marker on the
-// declaring line goes where the line goes; LineOf tells where that is.
+// The symbol records: one for each declared name, owned by a project's tables. The marker on the declaring
+// line moves with the line; LineOf returns the current line.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ class clsHash;
 // Value types of a name.
 enum : std::uint8_t { TipUnnamedType = 0, TipInteger = 1, TipFloat = 2, TipString = 3, TipCustom = 5 };
 
-// Where a marker was seen last: its line, and how many changes of its view's lines there were before.
+// A marker's last known line, and the number of line changes in its view at that time.
 struct SeenLine {
     int line = -1;
     unsigned changes = 0;

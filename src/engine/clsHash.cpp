@@ -177,7 +177,7 @@ void clsHash::Spread() {
     }
 }
 
-// A filled slot that stands in no chain yet.
+// A filled slot that is not in a chain yet.
 int clsHash::NewSlot(std::string_view key, SymbolPointer record) {
     if (key.empty()) throw Failure(FailureInvalidKey, "Invalid key");
     std::string upper = UCase(key);

@@ -1,5 +1,5 @@
-// The container behind every symbol table: a chained hash that keeps namesakes apart by marker handle
-// and view. Built for the colourers, which compute a name's hash once and ask up to six tables with it.
+// The container of every symbol table: a chained hash that distinguishes namesakes by marker handle and view.
+// The colourers compute a name's hash once and search up to six tables with it.
 #pragma once
 
 #include "engine/Symbols.h"
@@ -42,14 +42,14 @@ public:
 
     // Adds at the end of the key's chain; namesakes are kept. An empty key is failure 1001.
     void Add(std::string_view key, SymbolPointer record);
-    // Adds in front of the namesakes of its view that stand behind it, so that edits leave the order that a
-    // load gives.
+    // Inserts before the namesakes of its view that are further down in the text, so that edits keep the
+    // order of a load.
     void AddInOrder(std::string_view key, SymbolPointer record);
 
     // The first entry with the key; null when there is none.
     SymbolPointer ItemHash(std::string_view key);
-    // The entry with the key whose marker stands on that line (from 0) of that view; null when none does.
-    // Of several on one line the one that has `skip` others in front of it.
+    // Returns the entry with this key whose marker is on that line (from 0) of that view, after `skip` others
+    // on the line; null if there is none.
     SymbolPointer ItemHandle(std::string_view key, int line, std::intptr_t view, int skip = 0);
 
     // Take an entry out. No match is reported as failure 5 and changes nothing; an empty key does nothing.

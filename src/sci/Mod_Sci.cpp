@@ -10,7 +10,7 @@ namespace Mod_Sci {
 
 namespace {
 
-// The record that a range of text is asked with, as the library lays it out.
+// A request for a range of text, in the library's layout.
 struct TextRange {
     long start;
     long end;
@@ -30,7 +30,7 @@ std::string GetText() {
 std::string GetSelText() { return GetTextRange(GetSelectionStart(), GetSelectionEnd()); }
 
 std::string GetTextRange(std::intptr_t start, std::intptr_t end) {
-    // The library ends the program where a range goes beyond the text.
+    // The library ends the program if a range exceeds the text.
     start = std::max<std::intptr_t>(start, 0);
     end = std::min(end, GetLength());
     if (end <= start) return {};

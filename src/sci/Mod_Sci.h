@@ -9,8 +9,7 @@
 #include <string>
 #include <string_view>
 
-// The direct pointer of the active view. Written by the activation of a document; whoever works on another
-// view swaps and restores it.
+// The direct pointer of the active view. Written by MakeActive and ViewSwap.
 extern std::intptr_t SciWndData;
 
 // The library's one direct function. Written when the first view is made.
@@ -329,7 +328,7 @@ inline std::intptr_t SetLexer(std::intptr_t lexer) { return Send(SCI_SETLEXER, l
 // The whole text, and pieces of it.
 std::string GetText();
 std::string GetSelText();
-// A range that goes beyond the text ends with it.
+// A range that exceeds the text is cut to it.
 std::string GetTextRange(std::intptr_t start, std::intptr_t end);
 // One line with its line end.
 std::string LineText(std::intptr_t line);
