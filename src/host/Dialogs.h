@@ -1,4 +1,4 @@
-// What the program asks a person: messages, files, one line of text. Every call blocks until answered.
+// Questions to the user: messages, files, one line of text. Every call returns when the user has answered.
 #pragma once
 
 #include <optional>
@@ -14,14 +14,14 @@ struct Message {
     MessageIcon icon = MessageIcon::None;
     std::string title = {}; // empty: the program's name
     MessageButtons buttons = MessageButtons::Ok;
-    MessageAnswer byDefault = MessageAnswer::Ok; // Ok stands for the first button
+    MessageAnswer byDefault = MessageAnswer::Ok; // the button that Enter presses; Ok means the first one
 };
 
 struct FileQuestion {
     std::string title;
-    std::string filter;   // pairs "label|patterns", divided by "|"
-    std::string fileName; // what stands in the name box
-    std::string folder;   // where the dialog starts; empty: where it was last
+    std::string filter;   // pairs "label|patterns", separated by "|"
+    std::string fileName; // initial text of the name box
+    std::string folder;   // initial folder; empty: the one that was used last
     bool multiple = false;
 };
 
@@ -29,13 +29,14 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    // Shows a message and answers the button; Cancel where it was dismissed, whatever buttons it has.
+    // Shows a message and returns the button that was pressed. A dismissed message returns Cancel, even if it
+    // has no such button.
     virtual MessageAnswer Show(const Message& message) = 0;
-    // Asks for files that exist. Empty on cancel.
+    // Asks for existing files. Empty on cancel.
     virtual std::vector<std::string> OpenFiles(const FileQuestion& question) = 0;
-    // Asks for a name to write to, and before overwriting. Empty on cancel.
+    // Asks for a file to write, and asks again before an existing one is overwritten. Empty on cancel.
     virtual std::string SaveFile(const FileQuestion& question) = 0;
-    // Asks for a folder that exists. Empty on cancel.
+    // Asks for an existing folder. Empty on cancel.
     virtual std::string Folder(const std::string& title, const std::string& start) = 0;
     // Asks for one line of text. Nothing on cancel.
     virtual std::optional<std::string> Input(const std::string& prompt, const std::string& title,

@@ -1,11 +1,12 @@
-// The frame of the main window: named commands in menus and bars, dock panes, tabbed document windows,
-// a status bar, and the arrangement of all of them in one layout file. It knows nothing of Blitz Basic.
+// The frame of the main window: named commands in menus and bars, dock panes, tabbed document windows, a
+// status bar, and one layout file for the arrangement of all of them. The frame knows nothing about Blitz
+// Basic.
 #pragma once
 
 #include <string>
 #include <vector>
 
-// What a document window or a pane shows. The owner keeps it alive while it is attached.
+// The content of a document window or a pane. Its owner keeps it alive while it is attached.
 class Form {
 public:
     virtual ~Form() = default;
@@ -29,23 +30,23 @@ public:
     virtual bool Visible() const = 0;
     virtual void SetVisible(bool visible) = 0;
     virtual void SetAutoRepeat(bool repeat) = 0; // of its first shortcut
-    // Whether it fires just now by its shortcut, and not by a menu or a button.
+    // Whether the command is being fired by its shortcut, and not by a menu or a button.
     virtual bool FiredByKey() const { return false; }
 
-    // A combo's or a list's entries, and the text that stands in a combo or a status pane.
+    // The entries of a combo or a list, and the current text of a combo or a status pane.
     virtual void SetItems(const std::vector<std::string>& items) = 0;
     virtual std::vector<std::string> Items() const = 0;
     virtual std::string Text() const = 0;
     virtual void SetText(const std::string& text) = 0;
-    // The text of a status pane with one stretch of it, `hot`, in a colour (0x00BBGGRR).
-    // Where there is no colour it is plain text.
+    // Sets the text of a status pane with the part `hot` in a colour (0x00BBGGRR). Commands that cannot show
+    // colours show plain text.
     virtual void SetMarkedText(const std::string& left, const std::string& hot, const std::string& right,
                                int /*colour*/) {
         SetText(left + hot + right);
     }
 };
 
-// One tab of the document area, with a key that is its own.
+// One tab of the document area, with a unique key.
 class DocumentWindow {
 public:
     virtual ~DocumentWindow() = default;
@@ -54,14 +55,14 @@ public:
     virtual void SetKey(const std::string& key) = 0;
     virtual void SetCaption(const std::string& caption) = 0;
     virtual Form* HostedForm() const = 0;
-    // Puts a form into the window; null takes out what was there.
+    // Puts a form into the window; null removes the present one.
     virtual void Attach(Form* form) = 0;
     virtual bool Visible() const = 0;
-    // Showing makes it the active window. Hiding asks DS_DocumentWindowHiding first; it stays visible where
-    // that was cancelled.
+    // Showing a window makes it the active one. Hiding asks DS_DocumentWindowHiding first, and leaves the
+    // window visible if that was cancelled.
     virtual void SetVisible(bool visible) = 0;
     virtual void Activate() = 0;
-    // Whether it is the front window of its tab group.
+    // Whether the window is in front in its tab group.
     virtual bool InFront() const = 0;
 };
 
@@ -69,15 +70,16 @@ class DockPane {
 public:
     virtual ~DockPane() = default;
     virtual bool Visible() const = 0;
-    // Rolled away to an edge of the window, from where it slides out on demand. It counts as visible.
+    // Whether the pane is rolled up at an edge of the window, from where it slides out on demand. Such a pane
+    // counts as visible.
     virtual bool AutoHidden() const = 0;
     virtual void SetAutoHidden(bool autoHidden) = 0;
     virtual void Show() = 0; // and gives it the focus
-    virtual void Hide() = 0; // a focus that was in it goes to the documents
+    virtual void Hide() = 0; // and moves its focus to the documents
     virtual bool HasFocus() const = 0;
     virtual bool Floating() const = 0;
     virtual void SetFloating(bool floating) = 0; // and gives it the focus
-    // Makes it larger by some steps, or smaller by a negative number of them.
+    // Enlarges the pane by that many steps; a negative number makes it smaller.
     virtual void Enlarge(int steps) = 0;
 };
 
@@ -89,38 +91,38 @@ public:
     virtual void FocusFirstControl() = 0;
 };
 
-// What the frame tells its owner.
+// Events that the frame reports to its owner.
 class DockStudioEvents {
 public:
     virtual ~DockStudioEvents() = default;
 
-    // A command was chosen. `item` is the index of a list command's entry, else -1.
+    // A command was chosen. `item` is the index of the chosen entry of a list command, else -1.
     virtual void DS_CommandClick(DockCommand& command, int item) = 0;
     virtual void DS_ComboTextChanged(DockCommand& command) = 0;
     virtual void DS_ComboTextCommitted(DockCommand& command) = 0;
-    // `creating`: the window is only being made.
+    // `creating`: the window is still being made.
     virtual void DS_DocumentWindowActivate(DocumentWindow& window, bool creating) = 0;
     virtual void DS_DocumentWindowDeactivate(DocumentWindow& window) = 0;
     virtual void DS_DocumentWindowHiding(DocumentWindow& window, bool& cancel) = 0;
     virtual void DS_DocumentWindowHidden(DocumentWindow& window) = 0;
-    // `place`: 1 inside the document, 3 on the tab. Pixels, of the view; -1 when it was asked for with a key.
+    // `place`: 1 inside the document, 3 on the tab. `x` and `y` are pixels of the view, -1 for a menu key.
     virtual void DS_DocumentWindowContextClick(DocumentWindow& window, int place, int x, int y,
                                                bool& cancel) = 0;
     virtual void DS_DocumentWindowDoubleClick(DocumentWindow& window, int place) = 0;
     virtual void DS_PaneShown(const std::string& pane, bool shown) = 0;
-    // A pane begins to be dragged, or was let go.
+    // The user begins to drag a pane, or has released it.
     virtual void DS_PaneDragged(const std::string& /*pane*/, bool /*begins*/) {}
-    // The user begins to change commands, keys and bars, or has ended it.
+    // The user begins to customise commands, keys and bars, or has finished.
     virtual void DS_Customization(bool /*begins*/) {}
-    // A shortcut is about to fire; when cancelled the key goes on to the focused widget.
+    // A shortcut is about to fire. If that is cancelled, the focused widget gets the key.
     virtual void DS_ShortcutFiring(DockCommand& command, bool& cancel) = 0;
     virtual void DS_FilesDropped(const std::vector<std::string>& paths) = 0;
-    // The main window is asked to close.
+    // The main window is about to close.
     virtual void DS_QueryUnload(bool& cancel) = 0;
     virtual void DS_Resize() = 0;
 };
 
-// A place and state of the main window: twips; 0 normal, 1 minimised, 2 maximised.
+// Place of the main window in twips, and its state: 0 normal, 1 minimised, 2 maximised.
 struct WindowPlace {
     int top = 0;
     int left = 0;
@@ -137,11 +139,11 @@ public:
 
     // Null for an unknown name.
     virtual DockCommand* FindCommand(const std::string& name) = 0;
-    // Fails with FailureDuplicateKey when the name exists already.
+    // Throws FailureDuplicateKey if the name exists already.
     virtual DockCommand& AddCommand(const std::string& name, const std::string& caption,
                                     const std::string& category, bool isPopup) = 0;
     virtual std::vector<DockCommand*> Commands() = 0;
-    // The index of a command in a bar or pop-up, -1 where it is not there.
+    // The index of a command in a bar or pop-up; -1 if it is not there.
     virtual int IndexInBar(const std::string& bar, const std::string& command) = 0;
     // Puts a command into a bar or pop-up; an index of -1 appends.
     virtual void InsertIntoBar(const std::string& bar, const std::string& command, int index,
@@ -150,52 +152,51 @@ public:
     virtual DockPane* FindPane(const std::string& name) = 0;
     virtual void AttachPane(const std::string& name, const std::string& caption, const std::string& icon,
                             Form& form, bool addNew) = 0;
-    // At the place of the context menu that is being asked for, else at the mouse.
+    // Opens a pop-up at the place of the requested context menu, else at the mouse.
     virtual void ShowPopup(const std::string& name) = 0;
     virtual void FillPopup(const std::string& name,
                            const std::vector<std::string>& commands) = 0; // "-" separates
 
-    // An empty key gets a unique id of 38 characters. Fails with FailureDuplicateKey for a key in use.
+    // An empty key is replaced by a unique id of 38 characters. Throws FailureDuplicateKey for a key in use.
     virtual DocumentWindow& AddDocumentWindow(const std::string& key, const std::string& caption,
                                               Form* form) = 0;
-    // Null when no window has that key, which is compared byte by byte.
+    // Null if no window has that key. Keys are compared byte by byte.
     virtual DocumentWindow* FindDocumentWindow(const std::string& key) = 0;
     virtual DocumentWindow* ActiveDocumentWindow() = 0;
     virtual std::vector<DocumentWindow*> DocumentWindows() = 0;
-    // Takes a window away without asking and without events.
+    // Removes a window without asking and without events.
     virtual void DropDocumentWindow(DocumentWindow& window) = 0;
     virtual void NextTab(int step) = 0; // of the active tab group
     virtual void NewTabGroup(bool vertical) = 0;
-    // Moves the active document window into the tab group behind its own (1) or before it (-1).
+    // Moves the active document window into the next (1) or the previous (-1) tab group.
     virtual void MoveToTabGroup(int step) = 0;
 
-    // The document windows with their keys, captions and groups, as one line without a double quote.
+    // The document windows with their keys, captions and groups, as one line without double quotes.
     virtual std::string WindowsText() = 0;
-    // Makes the document windows of such a text, without forms where they aren't there yet, and puts all of
-    // them in their places. Throws a Failure and changes nothing when the text is damaged.
+    // Restores the groups of such a text, and adds missing windows without forms. Throws a Failure and
+    // changes nothing if the text is damaged.
     virtual void SetWindowsText(const std::string& text) = 0;
 
-    // Gives the focus to the next (1) or previous (-1) part of the window: the text, a pane, an edge with
-    // panes that are rolled away, a box of a tool bar.
+    // Moves the focus to the next (1) or previous (-1) part of the window: the text, a pane, an edge with
+    // rolled-up panes, a box of a tool bar.
     virtual void NextPane(int step) = 0;
-    // The pane that has the focus or had it last, else the first that is shown; null where none is.
+    // The pane that has or last had the focus, else the first visible one; null if none is visible.
     virtual DockPane* CurrentPane() = 0;
     virtual void OpenMenuBar() = 0;
 
     virtual void SuspendRepaint(bool suspend) = 0;
 
-    // Opens the window in which the user changes keys, bars and menus. It stays open beside the main window.
+    // Opens the modeless window in which the user changes keys, bars and menus.
     virtual void Customize() = 0;
-    // Takes a command out of a bar or pop-up; nothing where it is not there.
+    // Removes a command from a bar or pop-up, if it is there.
     virtual void RemoveFromBar(const std::string& bar, const std::string& command) = 0;
 
-    // The whole arrangement. Loading throws a Failure and changes nothing when the file is missing or
-    // damaged; saving throws when it could not be written. What is loaded first is the factory's
-    // arrangement: later ones gain what they don't know of it, and loading that file again brings back all
-    // of it.
+    // Loads the whole arrangement. Throws a Failure and changes nothing if the file is missing or damaged.
+    // The first loaded file is the factory's arrangement: later ones are completed from it.
     virtual void LoadLayout(const std::string& path) = 0;
-    // The factory's arrangement from a text, for when its file cannot be read.
+    // Sets the factory's arrangement from a text, for use if its file cannot be read.
     virtual void LoadFactoryText(const std::string& text) = 0;
+    // Throws a Failure if the file cannot be written.
     virtual void SaveLayout(const std::string& path) = 0;
 
     virtual WindowPlace Place() = 0;

@@ -1,5 +1,5 @@
-// The seam to one Scintilla view: its direct pointer goes in, its notifications come out, in Scintilla's
-// order and synchronously.
+// One Scintilla view: calls go through its direct pointer, notifications arrive synchronously and in
+// Scintilla's order.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-// What a notification carries; a field that the code does not set is 0.
+// The fields of a notification. A field that its code does not use is 0.
 struct SciNotification {
     int code = 0;
     long position = 0;
@@ -24,7 +24,7 @@ struct SciNotification {
     int x = 0;
     int y = 0;
     int updated = 0;
-    bool inPaint = false; // styles are needed for a paint, not in the middle of a change
+    bool inPaint = false; // a paint needs the styles, and no change is in progress
 };
 
 class EditorViewEvents {
@@ -34,10 +34,10 @@ public:
     virtual void OnSetFocus() = 0;
     virtual void OnKillFocus() = 0;
     virtual void OnDropFiles(const std::vector<std::string>& paths) = 0;
-    // A character (UTF-8) comes in that has no byte in Windows-1252, into a view that shows single bytes.
-    // Answers whether the view shows UTF-8 now; else the character is left out.
+    // A character (UTF-8) without a byte in Windows-1252 was typed into a view of single bytes. Returns
+    // whether the view shows UTF-8 now; if not, the view drops the character.
     virtual bool OnBeyondCodePage(const std::string&) { return false; }
-    // An undo or a redo has led over the view's change to UTF-8: what it is to show now.
+    // An undo or a redo has crossed the view's change to UTF-8. `utf8`: what the view has to show now.
     virtual void OnHistoryCodePage(bool /*utf8*/) {}
 };
 
@@ -50,23 +50,23 @@ public:
 
     virtual std::intptr_t DirectPointer() = 0;
     virtual SciDirectFunction DirectFunction() = 0;
-    // Where notifications go from now on; null stops them.
+    // Sends notifications to `events` from now on; null stops them.
     virtual void SetEvents(EditorViewEvents* events) = 0;
-    // Asks for a repaint at the next turn of the event loop.
+    // Requests a repaint in the next turn of the event loop.
     virtual void Redraw() = 0;
     virtual void GrabFocus() = 0;
-    // The user's last key moved to another entry of a completion list that is open.
+    // Whether the user's last key selected another entry of the open completion list.
     virtual bool MovedInList() = 0;
-    // Text is shown as UTF-8 or as single bytes; positions are bytes in both. The view forgets the markers,
-    // the fold levels and the closed folds of all its lines.
+    // Shows the text as UTF-8 or as single bytes; positions are bytes either way. The view loses all markers,
+    // fold levels and closed folds.
     virtual void SetUtf8(bool utf8) = 0;
-    // The toolkit's widget, for the one who places it.
+    // The toolkit's widget, for placing it in a window.
     virtual void* NativeWidget() = 0;
 };
 
 class EditorViews {
 public:
     virtual ~EditorViews() = default;
-    // A new view, without text and not shown yet. Null when the edit control cannot be had.
+    // A new empty view, not visible yet. Null if the edit control cannot be created.
     virtual std::unique_ptr<EditorView> Create() = 0;
 };

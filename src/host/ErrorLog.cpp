@@ -1,5 +1,5 @@
-// The failure path: the entry in error.log, and the dialog once at a time. Nothing here may fail in turn,
-// so what goes wrong on this road is passed over.
+// Failure reports: the entry in error.log, and one dialog at a time. Failures of the report itself are
+// ignored, because a report that throws would hide the first failure.
 #include "host/ErrorLog.h"
 
 #include "host/Desktop.h"
@@ -42,7 +42,7 @@ std::string Entry() {
     return text;
 }
 
-// Takes number, description and source from the exception that is being handled.
+// Copies number, description and source of the exception that is being handled.
 void ReadPendingFailure() {
     gLastError = {};
     if (!std::current_exception()) return;

@@ -1,11 +1,11 @@
-// The failure path of the whole program: each failure is appended to error.log below AppDir and
-// shown once; the operation that failed is abandoned and everything else goes on.
+// Failure reports. Each failure is appended to error.log below AppDir and shown to the user; the failed
+// operation ends and the program goes on.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// What was last reported. Written by SetErrorLog and SetStopErrorLog alone.
+// The last reported failure. Written by SetErrorLog and SetStopErrorLog alone.
 struct ErrorFields {
     std::string description;
     int number = 0;
@@ -16,21 +16,21 @@ struct ErrorFields {
 };
 extern ErrorFields gLastError;
 
-// True while the error dialog is up: every editor notification is dropped meanwhile.
+// True while the error dialog is open: editor notifications are dropped meanwhile.
 extern bool gInErrorReport;
 
-// True once the dialog was shown in this run.
+// True after the dialog was shown once in this run.
 extern bool gErrorDialogShown;
 
-// Reports the failure that is being handled, so it is called from a catch block; anything that is not
-// a Failure is reported with number 0 and its own text. Never throws. Writes gLastError.
+// Reports the exception that is being handled; call it from a catch block. An exception that is not a Failure
+// is reported with number 0. Never throws. Writes gLastError.
 void SetErrorLog(std::string_view procName, std::string_view moduleName) noexcept;
 
-// Reports a stop that the program raised itself because its own records disagree. Never throws.
+// Reports that the program's own records contradict each other. Never throws. Writes gLastError.
 void SetStopErrorLog(int number) noexcept;
 
-// Runs `body` and answers its result; a failure in it is reported under the two names and answers
-// `fallback` instead.
+// Runs `body` and returns its result. If `body` throws, the failure is reported under the two names and the
+// result is `fallback`.
 template <class Body, class Result>
 Result Guarded(std::string_view procName, std::string_view moduleName, Result fallback, Body&& body) {
     try {

@@ -1,5 +1,5 @@
-// The one exception type of the program: a failure carries a number, a description and a source.
-// A routine that fails throws one; the entry point above it reports it and the program goes on.
+// The exception type of the program. A routine that fails throws one; the entry point above it reports it,
+// and the program goes on.
 #pragma once
 
 #include <exception>
@@ -17,7 +17,7 @@ struct Failure : std::exception {
     std::string source;
 };
 
-// Numbers that callers test for: the expected failures of a look-up.
+// Numbers that callers test for.
 constexpr int FailureMissingKey = 5;
 constexpr int FailureOutOfRange = 9;
 constexpr int FailureTypeMismatch = 13;

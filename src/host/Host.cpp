@@ -1,5 +1,4 @@
-// The one set of platform services of this process. It is empty until the application, a tool or a test
-// fills it.
+// The platform services of this process; empty until the application, a tool or a test fills them.
 #include "host/Host.h"
 
 Host gHost;

@@ -1,5 +1,5 @@
-// The platform as the program sees it: one set of services, filled by the application at its start
-// and by each test with its own.
+// The services of the platform. The application fills them at its start, and each test fills them with its
+// own.
 #pragma once
 
 class Dialogs;
@@ -22,5 +22,5 @@ struct Host {
     DockStudio* dock = nullptr;
 };
 
-// Written by whoever sets the program up: the application, the inspection tool, a test.
+// Written by the application, the inspection tool or a test, before anything else runs.
 extern Host gHost;

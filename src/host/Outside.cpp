@@ -1,5 +1,5 @@
-// The queue of what came from outside. Nothing tells when the last modal window has closed, so while
-// something waits a timer looks.
+// The queue of work from outside. No event reports that the last modal window was closed, so a timer checks
+// while work waits.
 #include "host/Outside.h"
 
 #include "host/Desktop.h"

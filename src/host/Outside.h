@@ -1,12 +1,11 @@
-// What comes from outside waits while the program itself waits for somebody. A dialog, an error report, an
-// open menu and every pump of our own run the event loop inside a routine, and that routine must find
-// everything as it left it.
+// Work that comes from outside, such as dropped files, waits while a dialog, an error report, a menu or a
+// pump runs the event loop inside a routine: that routine must find everything as it left it.
 #pragma once
 
 #include <cstddef>
 #include <functional>
 
-// Up while a routine runs the event loop without a window or menu of its own in front, as a pump does.
+// Held while a routine runs the event loop without a modal window or a menu, as a pump does.
 class NestedLoop {
 public:
     NestedLoop();
@@ -15,11 +14,10 @@ public:
     NestedLoop& operator=(const NestedLoop&) = delete;
 };
 
-// Runs the work at once; or, where it would fall into the middle of a routine, in its turn as soon as the
-// event loop is nobody's but the program's.
+// Runs the work at once, or in its turn as soon as no routine runs the event loop any more.
 void FromOutside(std::function<void()> work);
 
-// How many works wait.
+// The number of waiting pieces of work.
 std::size_t WaitingFromOutside();
-// Forgets what waits, when the platform goes.
+// Drops the waiting work. Called before the platform services end.
 void ForgetOutside();

@@ -1,4 +1,4 @@
-// Paths: AppDir, and the conversion between the form on disk and the form that data keeps.
+// Paths: the program directory, and the two forms of a path.
 #include "host/Paths.h"
 
 #include "host/Files.h"

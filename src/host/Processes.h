@@ -1,11 +1,11 @@
-// Child processes with their three ends on pipes, without threads: the caller polls.
+// Child processes whose input, output and error output are pipes. There are no threads: the caller polls.
 #pragma once
 
 #include <memory>
 #include <string>
 #include <string_view>
 
-// The system's number and text of a failed call.
+// Number and text of a failed system call. Number 0 means success.
 struct SystemError {
     int number = 0;
     std::string text;
@@ -16,43 +16,43 @@ enum class ChildPipe { Output, Error };
 
 class ChildProcess {
 public:
-    virtual ~ChildProcess() = default; // what still runs is killed
+    virtual ~ChildProcess() = default; // kills a child that still runs
 
-    // Bytes that can be read from a pipe without waiting; bounded, so one poll stays short.
+    // The number of bytes that can be read without waiting; limited, so that a poll stays short.
     virtual SystemError BytesWaiting(ChildPipe pipe, int& count) = 0;
-    // Reads exactly `count` bytes that BytesWaiting told of. A bare LF comes as CR LF.
+    // Reads exactly `count` bytes, at most as many as BytesWaiting reported. A bare LF becomes CR LF.
     virtual SystemError Read(ChildPipe pipe, int count, std::string& bytes) = 0;
-    // Writes what the child's input takes now; `written` tells how many bytes that were.
+    // Writes as many bytes as the child's input accepts without waiting, and sets `written` to their number.
     virtual SystemError Write(std::string_view bytes, int& written) = 0;
-    // True once the child has ended and nothing waits in its pipes any more.
+    // True after the child has ended and all its output was read.
     virtual bool HasEnded() = 0;
-    // Kills the child with all that it started.
+    // Kills the child and all processes that it started.
     virtual SystemError Kill() = 0;
-    // Closes all ends; the number of the first that failed is answered.
+    // Closes all pipes. Returns the first error.
     virtual SystemError Close() = 0;
 };
 
 struct ProcessStart {
-    std::string command;   // one text; double quotes hold arguments with blanks together
-    std::string directory; // empty: the present one
+    std::string command;   // one text; an argument with blanks is in double quotes
+    std::string directory; // empty: the current one
 };
 
 class Processes {
 public:
     virtual ~Processes() = default;
 
-    // Starts a child on three pipes with low priority. Null, with `error` set, when a pipe
-    // (`pipeFailed`) or the start failed.
+    // Starts a child with low priority. Null, with `error` set, if that failed; `pipeFailed` if the pipes
+    // were the reason.
     virtual std::unique_ptr<ChildProcess> Start(const ProcessStart& start, bool& pipeFailed,
                                                 SystemError& error) = 0;
-    // Starts a program of its own, uncaptured. The error is empty on success.
+    // Starts an independent program whose output is not captured.
     virtual SystemError StartDetached(const std::string& command) = 0;
     // Whether this system has a terminal program.
     virtual bool HasTerminal() = 0;
-    // Starts a program in a terminal window of its own. The error is empty on success.
+    // Starts a program in a new terminal window.
     virtual SystemError StartInTerminal(const ProcessStart& start) = 0;
-    // Runs a command with its output going to a file, pumping events, for at most `milliseconds`;
-    // then it is left running. True when it ended in time.
+    // Runs a command with its output going to a file, and pumps events meanwhile. False if the command takes
+    // longer than `milliseconds`; it is left running then.
     virtual bool RunIntoFile(const std::string& command, const std::string& target, int milliseconds) = 0;
     virtual void SetEnvironment(const std::string& name, const std::string& value) = 0;
 };

@@ -1,4 +1,4 @@
-// A function that a lower floor may ask of a higher one.
+// A function that a lower floor may call and a higher floor provides.
 #pragma once
 
 #include <concepts>
@@ -22,7 +22,7 @@ public:
         return *this;
     }
 
-    // Whether somebody answers: for callers that would otherwise work out arguments for nothing.
+    // Whether a function was assigned, for callers whose arguments are expensive to compute.
     explicit operator bool() const { return static_cast<bool>(function_); }
 
     Result operator()(Arguments... arguments) const {

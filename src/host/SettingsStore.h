@@ -1,5 +1,4 @@
-// The settings store: text values by section and key of the application "Zolto".
-// Sections and keys are compared without regard to case.
+// The user's settings: text values by section and key. Sections and keys are compared without regard to case.
 #pragma once
 
 #include <string>
@@ -8,7 +7,7 @@ class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
 
-    // The value, or `byDefault` where the key is missing.
+    // The value, or `byDefault` if the key is missing.
     virtual std::string Get(const std::string& section, const std::string& key,
                             const std::string& byDefault) = 0;
     virtual void Save(const std::string& section, const std::string& key, const std::string& text) = 0;

@@ -1,5 +1,5 @@
-// The poll of one child process: what waits is read, cut into lines and delivered. A handler of an event
-// may end this object, so each look at it after an event asks first whether it is still there.
+// Polls a child process and delivers its output as lines. An event handler may destroy the StdShell, so every
+// access after an event checks `alive` first.
 #include "host/StdShell.h"
 
 #include "host/Desktop.h"
@@ -12,13 +12,13 @@ namespace {
 constexpr int PollMilliseconds = 50;
 constexpr std::string_view LineEnd = "\r\n";
 
-// Raises an event through a copy, because the handler may destroy the one who holds it.
+// Calls a copy of the handler, because the handler may destroy the object that holds the original.
 template <class Event, class... Values>
 void Raise(const Event& event, const Values&... values) {
     if (const Event copy = event) copy(values...);
 }
 
-// Keeps the flag up for a scope, and lets go of it only while its object lives.
+// Sets a flag for a scope, and clears it at the end if the object of the flag still exists.
 class TickMark {
 public:
     TickMark(bool& flag, std::shared_ptr<bool> alive) : flag_(flag), alive_(std::move(alive)) {
@@ -42,14 +42,14 @@ StdShell::StdShell() = default;
 StdShell::~StdShell() {
     *alive_ = false;
     if (timerId_ != 0 && gHost.desktop) gHost.desktop->KillTimer(timerId_);
-    // Its destruction kills what still runs.
+    // Destroying the child kills its process.
     child_.reset();
 }
 
 bool StdShell::Execute(const std::string& commandString, const std::string&, const std::string& currentDir) {
     const auto alive = alive_;
     if (!Start(commandString, currentDir, "Cannot create pipe : Error 1213")) return false;
-    // A window of the child comes to the front by itself here; the queue runs once for first output.
+    // The window manager brings a window of the child to the front, so only the first output is left to do.
     if (*alive) gHost.desktop->Pump();
     return true;
 }
@@ -92,7 +92,7 @@ bool StdShell::Terminate() {
 }
 
 void StdShell::Tick() {
-    // A handler may pump the queue, and so bring the next tick before this one is done.
+    // A handler may pump events and so start the next tick inside this one.
     if (!Running() || inTick_) return;
     const auto alive = alive_;
     bool ended = false;
@@ -112,7 +112,7 @@ void StdShell::Tick() {
     if (!*alive) return;
     child_.reset();
     timerId_ = 0;
-    // The exit code is not asked for: consumers learn success from the output alone.
+    // The exit code is always 0: consumers judge success by the output.
     Raise(ProcessComplete, 0);
 }
 
@@ -125,7 +125,7 @@ void StdShell::Poll(ChildPipe pipe, std::string& partial, const LineEvent& event
     if (!bytes.empty()) DeliverLines(bytes, partial, event);
 }
 
-// A program's last line often has no line end behind it.
+// Delivers a last line without a line end.
 void StdShell::DeliverRest(std::string& partial, const LineEvent& event) {
     if (!partial.empty()) Raise(event, std::exchange(partial, {}));
 }
@@ -137,7 +137,7 @@ void StdShell::FeedInput() {
             pendingInput_.clear();
             return Report(error);
         }
-        if (written <= 0) return; // the child reads slowly: the rest waits for the next tick
+        if (written <= 0) return; // the child reads slowly; the next tick sends the rest
         pendingInput_.erase(0, static_cast<std::size_t>(written));
     }
 }
@@ -157,7 +157,7 @@ void StdShell::DeliverLines(const std::string& data, std::string& partial, const
         if (!raise(std::exchange(carried, {}) + data.substr(start, end - start))) return;
         start = end + LineEnd.size();
     }
-    // Data that ends in a line end leaves an empty piece behind it, which is delivered too.
+    // Data that ends with a line end is followed by an empty line, which is delivered too.
     if (start == data.size()) return void(raise(std::exchange(carried, {})));
     carried.append(data, start);
     while (carried.size() > LongestLine) {

@@ -1,5 +1,5 @@
-// One child process whose output comes as events, line by line, from a 50 ms poll.
-// The events are the only report of a failure.
+// One child process whose output arrives as events, line by line, from a poll every 50 ms. Failures are
+// reported as Error events.
 #pragma once
 
 #include "host/Processes.h"
@@ -14,24 +14,24 @@ public:
     static constexpr int ErrorNotRunning = static_cast<int>(0x80040002);
 
     StdShell();
-    ~StdShell(); // what runs is killed
+    ~StdShell(); // kills a child that still runs
     StdShell(const StdShell&) = delete;
     StdShell& operator=(const StdShell&) = delete;
 
     bool Running() const { return timerId_ != 0; }
 
-    // Starts a command, and pumps once so that first output may come. False, after an Error event, when
-    // one runs already or the start failed.
+    // Starts a command and pumps events once for its first output. False, after an Error event, if a child
+    // runs already or the start failed.
     bool Execute(const std::string& commandString, const std::string& consoleName,
                  const std::string& currentDir);
-    // The same without looking for the child's window.
+    // Starts a command without pumping events. Otherwise like Execute.
     bool ExecuteNoCheck(const std::string& commandString, const std::string& currentDir);
     // Queues text for the child's input.
     void WriteConsole(const std::string& text);
-    // Kills the child; it counts as running until the next poll. False after an Error event.
+    // Kills the child, which counts as running until the next poll. False after an Error event.
     bool Terminate();
 
-    // One poll; the timer calls it, and so may a test.
+    // Polls once. Called by the timer, and by tests.
     void Tick();
 
     std::function<void(const std::string& line)> ConsoleOutput;
@@ -40,7 +40,7 @@ public:
     std::function<void(const std::string& message, int number)> Error;
     std::function<void()> ProcessStarted;
 
-    // The longest line that is waited for; a longer one is delivered in pieces of this many bytes.
+    // A longer line is delivered in pieces of this many bytes, before its end has arrived.
     static constexpr std::size_t LongestLine = 1 << 20;
 
 private:
@@ -53,7 +53,7 @@ private:
     void Report(const SystemError& error);
     void DeliverLines(const std::string& data, std::string& partial, const LineEvent& event);
 
-    // Becomes false when this object ends; event handlers may end it.
+    // Becomes false when this object is destroyed, which an event handler may do.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     bool inTick_ = false;
     int timerId_ = 0;

@@ -9,7 +9,7 @@
 
 namespace {
 
-// What 0x80 to 0x9F stand for; the five bytes without a character keep their number.
+// The characters of 0x80 to 0x9F. The five bytes without a character keep their number.
 constexpr std::array<char16_t, 32> HighControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -23,7 +23,7 @@ struct Character {
     std::size_t length;
 };
 
-// The character at the front of `text`; nothing when it is malformed.
+// The first character of `text`; nothing if it is malformed.
 std::optional<Character> Decode(std::string_view text) {
     const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
     const unsigned char lead = byte(0);
