@@ -19,25 +19,25 @@ namespace Mod_File {
 
 namespace {
 
-bool answered = false; // the questions about what is closing now have been answered
+bool questionsAnswered = false; // the user was asked about all documents that are being closed
 
-class Answered {
+class QuestionsAnswered {
 public:
-    Answered() { answered = true; }
-    ~Answered() { answered = false; }
-    Answered(const Answered&) = delete;
-    Answered& operator=(const Answered&) = delete;
+    QuestionsAnswered() { questionsAnswered = true; }
+    ~QuestionsAnswered() { questionsAnswered = false; }
+    QuestionsAnswered(const QuestionsAnswered&) = delete;
+    QuestionsAnswered& operator=(const QuestionsAnswered&) = delete;
 };
 
-bool Belongs(const frmDoc& document, const ClsProject* project) {
+bool BelongsTo(const frmDoc& document, const ClsProject* project) {
     return project == nullptr || project->Sources.Exist_Item(&document);
 }
 
 // The documents of a project, or all, in the order of their windows.
-std::vector<long> Serials(const ClsProject* project) {
+std::vector<long> SerialsOf(const ClsProject* project) {
     std::vector<long> serials;
     for (const DocumentWindow* window : gHost.dock->DocumentWindows())
-        if (const frmDoc* document = DocumentIn(window); document != nullptr && Belongs(*document, project))
+        if (const frmDoc* document = DocumentIn(window); document != nullptr && BelongsTo(*document, project))
             serials.push_back(document->Serial);
     return serials;
 }
@@ -47,7 +47,7 @@ DocumentWindow* WindowOf(const frmDoc& document) {
 }
 
 // The save prompt. False when the document has to stay open.
-bool Ask(long serial) {
+bool AskToSave(long serial) {
     frmDoc* document = DocumentOfSerial(serial);
     if (document == nullptr || !document->Dirty) return true;
     if (DocumentWindow* window = WindowOf(*document)) window->Activate();
@@ -80,8 +80,8 @@ bool SaveOrKeep(const std::shared_ptr<ClsProject>& project) {
 }
 
 bool AskFor(const std::shared_ptr<ClsProject>& project) {
-    const std::vector<long> serials = Serials(project.get());
-    if (!std::all_of(serials.begin(), serials.end(), Ask)) return false;
+    const std::vector<long> serials = SerialsOf(project.get());
+    if (!std::all_of(serials.begin(), serials.end(), AskToSave)) return false;
     if (project) return SaveOrKeep(project);
     std::vector<std::shared_ptr<ClsProject>> all;
     for (const auto& entry : gProjects) all.push_back(entry.record);
@@ -89,9 +89,9 @@ bool AskFor(const std::shared_ptr<ClsProject>& project) {
 }
 
 // Closes documents that were asked for. False when one stayed.
-bool Close(const ClsProject* project, bool singleOnly) {
-    const Answered scope;
-    for (const long serial : Serials(project)) {
+bool CloseWindows(const ClsProject* project, bool singleOnly) {
+    const QuestionsAnswered scope;
+    for (const long serial : SerialsOf(project)) {
         const frmDoc* document = DocumentOfSerial(serial);
         if (document == nullptr || (singleOnly && !document->SingleFile)) continue;
         if (DocumentWindow* window = WindowOf(*document)) window->SetVisible(false);
@@ -101,9 +101,9 @@ bool Close(const ClsProject* project, bool singleOnly) {
 }
 
 // Closes a project that was saved and whose documents were asked for.
-bool CloseAsked(const std::shared_ptr<ClsProject>& project) {
+bool CloseSavedProject(const std::shared_ptr<ClsProject>& project) {
     // What could not be closed needs its project.
-    if (!Close(project.get(), false) || project->Sources.Count() > 0) return false;
+    if (!CloseWindows(project.get(), false) || project->Sources.Count() > 0) return false;
     if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
     gDocumentCalls.RefreshCodeExplorer();
     gDocumentCalls.PopulateTreeView();
@@ -114,28 +114,29 @@ bool CloseAsked(const std::shared_ptr<ClsProject>& project) {
 
 bool AskForAll() { return AskFor(nullptr); }
 
-bool CloseDocuments() { return Close(nullptr, false); }
+bool CloseDocuments() { return CloseWindows(nullptr, false); }
 
 void DocumentWindowHiding(DocumentWindow& window, bool& cancel) {
-    if (answered) return;
-    if (const frmDoc* document = DocumentIn(window); document != nullptr && !Ask(document->Serial))
+    if (questionsAnswered) return;
+    if (const frmDoc* document = DocumentIn(window); document != nullptr && !AskToSave(document->Serial))
         cancel = true;
 }
 
 bool CloseAllFiles() {
     return Guarded("CloseAllFiles", "Mod_MenuCommands", false, [] {
-        if (!AskForAll() || !Close(nullptr, true)) return false;
+        if (!AskForAll() || !CloseWindows(nullptr, true)) return false;
         bool closed = true;
         for (int index = gProjects.Count() - 1; index >= 0; --index) {
             const auto project = gProjects.Item(index);
-            if (!project->SingleFile && !CloseAsked(project)) closed = false;
+            if (!project->SingleFile && !CloseSavedProject(project)) closed = false;
         }
         return closed;
     });
 }
 
 bool CloseProject(std::shared_ptr<ClsProject> project) {
-    return Guarded("CloseProject", "Mod_File", false, [&] { return AskFor(project) && CloseAsked(project); });
+    return Guarded("CloseProject", "Mod_File", false,
+                   [&] { return AskFor(project) && CloseSavedProject(project); });
 }
 
 } // namespace Mod_File

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int FailureEndOfFile = 62;
 
-std::set<std::string> toldUnknown; // names in upper case
+std::set<std::string> reportedNames; // names in upper case
 
 // Values in the order in which they stand, one a line: texts in quotes, numbers and booleans bare.
 class RecordReader {
@@ -46,7 +46,7 @@ private:
 } // namespace
 
 void LoadCompilers() {
-    toldUnknown.clear();
+    reportedNames.clear();
     const std::string path = AppPath("Conf\\compilers.dat");
     if (gHost.files->Kind(path) != PathKind::File) {
         gHost.dialogs->Show({"File 'Compilers.dat' is missing or invalid !", MessageIcon::Critical});
@@ -75,8 +75,8 @@ void LoadCompilers() {
 namespace {
 
 // A name is told of once, not each time a document of its project comes to the front.
-void TellUnknown(const std::string& name) {
-    if (!toldUnknown.insert(UCase(name)).second) return;
+void ReportUnknownOnce(const std::string& name) {
+    if (!reportedNames.insert(UCase(name)).second) return;
     Mod_File::TellLoadFailure(
         {"The compiler \"" + name + "\" is not registered here. The default compiler, \"" + DefaultCompiler +
              "\", is used instead.\r\nTo change that for good, choose a compiler in the "
@@ -91,7 +91,7 @@ bool SetActiveCompiler(const std::string& name) {
         if (gActiveCompiler && EqualNoCase(gActiveCompiler->Name, name)) return true;
         const auto byDefault = gCompilers.Item(DefaultCompiler);
         const auto compiler = gCompilers.Find(name);
-        if (!compiler) TellUnknown(name);
+        if (!compiler) ReportUnknownOnce(name);
         if (compiler && !compiler->Refused && compiler->SetDefaultKeywords()) {
             gActiveCompiler = compiler;
             return true;

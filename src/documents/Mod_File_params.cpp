@@ -70,7 +70,7 @@ std::optional<std::string> MarkedLines(int marker, const std::string& prefix, in
 }
 
 template <class Visit>
-void ForEachEntry(std::string_view text, Visit visit) {
+void ForEachLineNumber(std::string_view text, Visit visit) {
     const int lines = static_cast<int>(Mod_Sci::GetLineCount());
     for (std::size_t at = text.find('#'); at != std::string_view::npos;) {
         const std::size_t next = text.find('#', at + 1);
@@ -88,11 +88,11 @@ bool IsBlockLine(std::string_view text) {
 void ApplyLine(std::string_view text) {
     if (text.starts_with(";~F#")) {
         if (OptionsEdit::ShowFoldMargin)
-            ForEachEntry(text, [](int line) {
+            ForEachLineNumber(text, [](int line) {
                 if (HasMarker(line, MarkerFoldOpens)) Mod_Sci::ToggleFold(line);
             });
     } else if (text.starts_with(";~B#")) {
-        ForEachEntry(text, [](int line) { Mod_Sci::MarkerAdd(line, MarkerBookmark); });
+        ForEachLineNumber(text, [](int line) { Mod_Sci::MarkerAdd(line, MarkerBookmark); });
     } else if (text.starts_with(";~L#")) {
         if (gCurrentProject->SingleFile) gCurrentProject->CommandLine = text.substr(4);
     }
@@ -117,7 +117,7 @@ std::size_t LineEndAt(std::string_view text, std::size_t position) {
 }
 
 // The start of the next line, from the end of one; the text's end where there is none.
-std::size_t BehindLineEnd(std::string_view text, std::size_t end) {
+std::size_t NextLineStart(std::string_view text, std::size_t end) {
     return std::min(text.size(), end + (text.substr(end).starts_with("\r\n") ? 2 : 1));
 }
 
@@ -144,7 +144,7 @@ std::vector<Block> FindBlocks(std::string_view text) {
         if (!blocks.empty() && blocks.back().lines.empty()) blocks.pop_back();
         Block block{at - LineEndBefore(text, at), LineEndAt(text, at), {}};
         for (;;) {
-            const std::size_t line = BehindLineEnd(text, block.to);
+            const std::size_t line = NextLineStart(text, block.to);
             if (!IsBlockLine(text.substr(line))) break;
             block.to = LineEndAt(text, line);
             block.lines.push_back(text.substr(line, block.to - line));
@@ -155,7 +155,7 @@ std::vector<Block> FindBlocks(std::string_view text) {
     return blocks;
 }
 
-void Remove(const Block& block) {
+void RemoveBlock(const Block& block) {
     const auto from = static_cast<std::intptr_t>(block.from);
     const auto to = static_cast<std::intptr_t>(block.to);
     // A line that goes would leave its markers to the line before it and take the fold point there.
@@ -221,7 +221,7 @@ void CheckFileParameters() {
         }
         const ColoringScope own;
         for (const std::string_view line : blocks.back().lines) ApplyLine(line);
-        std::for_each(blocks.rbegin(), blocks.rend(), Remove);
+        std::for_each(blocks.rbegin(), blocks.rend(), RemoveBlock);
         // Nobody hears of lines that move.
         if (blocks.front().to < text.size()) ForgetLines(SciWndData);
     });

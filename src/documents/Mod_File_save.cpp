@@ -30,25 +30,26 @@ constexpr int FailureSaveWithoutDocument = 99020;
 constexpr int FailureSaveAsWithoutDocument = 93320;
 
 // Works on a document as the active one and puts back which one was, if that is still open.
-class ActiveFor {
+class TemporarilyActive {
 public:
-    explicit ActiveFor(frmDoc& document) : before_(ActiveForm() == nullptr ? 0 : ActiveForm()->Serial) {
+    explicit TemporarilyActive(frmDoc& document)
+        : before_(ActiveForm() == nullptr ? 0 : ActiveForm()->Serial) {
         MakeActive(&document);
     }
-    ~ActiveFor() { MakeActive(DocumentOfSerial(before_)); }
-    ActiveFor(const ActiveFor&) = delete;
-    ActiveFor& operator=(const ActiveFor&) = delete;
+    ~TemporarilyActive() { MakeActive(DocumentOfSerial(before_)); }
+    TemporarilyActive(const TemporarilyActive&) = delete;
+    TemporarilyActive& operator=(const TemporarilyActive&) = delete;
 
 private:
     long before_;
 };
 
-void Critical(std::string text, std::string title) {
+void ShowCritical(std::string text, std::string title) {
     gHost.dialogs->Show({std::move(text), MessageIcon::Critical, std::move(title)});
 }
 
 std::string BytesOf(frmDoc& document, bool withBlock) {
-    const ActiveFor active(document);
+    const TemporarilyActive active(document);
     return Mod_Sci::GetText() + (withBlock ? GetFileParameters() : std::string());
 }
 
@@ -62,30 +63,30 @@ bool WriteDocument(frmDoc& document, const std::string& path, bool withBlock) {
         written = false;
     }
     if (!written)
-        Critical("Could not save " + path +
-                     "\r\nThe file may be in use by another process or disk is write protected",
-                 "Document could not be saved !");
+        ShowCritical("Could not save " + path +
+                         "\r\nThe file may be in use by another process or disk is write protected",
+                     "Document could not be saved !");
     return written;
 }
 
-void AfterWrite(frmDoc& document) {
+void MarkSaved(frmDoc& document) {
     document.NewFile = false;
     if (OptionsEdit::EmptyUndo) Mod_Sci::SendTo(document.SciEdi_WndData, SCI_EMPTYUNDOBUFFER);
     Mod_Sci::SendTo(document.SciEdi_WndData, SCI_SETSAVEPOINT);
 }
 
-void InvalidName(const std::string& path, const char* why) {
-    Critical("File named " + GetFileName(path) + why, "Invalid name");
+void ShowInvalidName(const std::string& path, const char* why) {
+    ShowCritical("File named " + GetFileName(path) + why, "Invalid name");
 }
 
 // A project's member stays in the project's folder, and its name is its own.
 bool AllowedInProject(const ClsProject& project, const std::string& path) {
     if (!path.starts_with(project.Path)) {
-        Critical("Project Files must be saved in the project's (sub)folder !", "File Not Saved !");
+        ShowCritical("Project Files must be saved in the project's (sub)folder !", "File Not Saved !");
         return false;
     }
     if (project.Files.Exist_Key(GetFileName(path))) {
-        InvalidName(path, " already exists in this project");
+        ShowInvalidName(path, " already exists in this project");
         return false;
     }
     return true;
@@ -93,16 +94,16 @@ bool AllowedInProject(const ClsProject& project, const std::string& path) {
 
 // Two documents of one path could not be told apart, nor could a file by itself be told from a member. The
 // file of a project or of the workspace would be written over with a source.
-bool TakenElsewhere(const frmDoc& document, const std::string& path) {
+bool UsedElsewhere(const frmDoc& document, const std::string& path) {
     const frmDoc* other = DocumentOfPath(path);
     if ((other != nullptr && other != &document) || ProjectOfPath(path) || SameFile(path, LastWorkspace())) {
-        InvalidName(path, " is already open");
+        ShowInvalidName(path, " is already open");
         return true;
     }
     std::string memberPath;
     const auto project = ProjectOfMember(path, memberPath);
     if (!project || project->FullPath == document.PrjFullPath) return false;
-    InvalidName(path, " already exists in this project");
+    ShowInvalidName(path, " already exists in this project");
     return true;
 }
 
@@ -130,7 +131,7 @@ void RenameMember(ClsProject& project, const std::string& oldName, const std::st
 }
 
 // Gives a document that was written under a new name that name everywhere.
-void Rebind(frmDoc& document, const std::string& path) {
+void RenameEverywhere(frmDoc& document, const std::string& path) {
     const auto project = gCurrentProject;
     const std::string oldName = document.Filename;
     const std::string oldPath = document.FullFilename;
@@ -140,7 +141,7 @@ void Rebind(frmDoc& document, const std::string& path) {
     }
     document.SetFullFilename(path);
     document.SetFilename(GetFileName(path));
-    AfterWrite(document);
+    MarkSaved(document);
     const auto record = project->Sources.Item(oldPath);
     project->Sources.RemoveKey(oldPath);
     project->Sources.Add(record, path);
@@ -179,7 +180,7 @@ bool SaveFile(frmDoc* document) {
         if (Options::gBackupEnabled && document->Dirty) BackupFile(path);
         document = DocumentOfSerial(serial);
         if (document == nullptr || !WriteDocument(*document, path, !document->IsSnippet)) return false;
-        AfterWrite(*document);
+        MarkSaved(*document);
         return true;
     });
 }
@@ -199,9 +200,9 @@ bool SaveFileAs(frmDoc* document) {
         if (document == nullptr) return false;
         if (!document->SingleFile && !AllowedInProject(*gProjects.Item(document->PrjFullPath), path))
             return false;
-        if (TakenElsewhere(*document, path) || !WriteDocument(*document, path, true)) return false;
-        const ActiveFor active(*document);
-        Rebind(*document, path);
+        if (UsedElsewhere(*document, path) || !WriteDocument(*document, path, true)) return false;
+        const TemporarilyActive active(*document);
+        RenameEverywhere(*document, path);
         if (document->SingleFile) AddRecentFile(path);
         return true;
     });

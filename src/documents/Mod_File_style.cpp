@@ -24,22 +24,22 @@ class Reader {
 public:
     explicit Reader(std::string_view bytes) : rest_(bytes) {}
 
-    std::string_view Take(std::size_t count) {
+    std::string_view TakeBytes(std::size_t count) {
         if (rest_.size() < count) throw Failure(FailureEndOfFile, "Input past end of file");
         const std::string_view taken = rest_.substr(0, count);
         rest_.remove_prefix(count);
         return taken;
     }
     template <class Number>
-    Number Take() {
-        const std::string_view bytes = Take(sizeof(Number));
+    Number TakeNumber() {
+        const std::string_view bytes = TakeBytes(sizeof(Number));
         std::uint32_t value = 0;
         for (std::size_t i = bytes.size(); i-- > 0;) value = value << 8 | static_cast<std::uint8_t>(bytes[i]);
         return static_cast<Number>(value);
     }
     template <class Array>
     void Fill(Array& array) {
-        for (auto& element : array) element = Take<typename Array::value_type>();
+        for (auto& element : array) element = TakeNumber<typename Array::value_type>();
     }
     std::string_view Rest() const { return rest_; }
 
@@ -48,24 +48,24 @@ private:
 };
 
 template <class Number>
-void Put(std::string& bytes, Number number) {
+void AppendNumber(std::string& bytes, Number number) {
     for (std::size_t i = 0; i < sizeof(Number); ++i)
         bytes += static_cast<char>(static_cast<std::uint32_t>(number) >> (8 * i) & 0xFF);
 }
 
 template <class Array>
-void PutAll(std::string& bytes, const Array& array) {
-    for (const auto& element : array) Put(bytes, element);
+void AppendAll(std::string& bytes, const Array& array) {
+    for (const auto& element : array) AppendNumber(bytes, element);
 }
 
 std::string StylePath(const std::string& name) { return AppPath("Styles\\" + name + ".style"); }
 
-void Show(std::string text, MessageIcon icon) { gHost.dialogs->Show({std::move(text), icon}); }
+void ShowMessage(std::string text, MessageIcon icon) { gHost.dialogs->Show({std::move(text), icon}); }
 
 // Reads all of a file before it touches the table: one that ends too early leaves the table alone.
 int ReadTable(const std::string& bytes) {
     Reader reader(bytes);
-    const int version = reader.Take<std::int16_t>();
+    const int version = reader.TakeNumber<std::int16_t>();
     auto fore = StyleTable::ForeColor;
     auto back = StyleTable::BackColor;
     auto fonts = StyleTable::FontName;
@@ -76,7 +76,7 @@ int ReadTable(const std::string& bytes) {
     auto other = StyleTable::OtherColor;
     reader.Fill(fore);
     reader.Fill(back);
-    for (std::string& font : fonts) font = std::string(reader.Take(reader.Take<std::uint16_t>()));
+    for (std::string& font : fonts) font = std::string(reader.TakeBytes(reader.TakeNumber<std::uint16_t>()));
     reader.Fill(sizes);
     reader.Fill(bold);
     reader.Fill(italic);
@@ -103,39 +103,39 @@ std::string LoadStyle(const std::string& name) {
     return Guarded("LoadStyle", "Mod_File", std::string(), [&]() -> std::string {
         std::string loaded = name;
         if (gHost.files->Kind(StylePath(loaded)) != PathKind::File) {
-            Show("Specified Style Not Found:\r\n" + StylePath(loaded) +
-                     "\r\nPress Ok to load the Default Style...",
-                 MessageIcon::Exclamation);
+            ShowMessage("Specified Style Not Found:\r\n" + StylePath(loaded) +
+                            "\r\nPress Ok to load the Default Style...",
+                        MessageIcon::Exclamation);
             if (EqualNoCase(loaded, OptionsEdit::SciStyleName)) {
                 OptionsEdit::SciStyleName = "Default";
                 WriteOption(OptionOf(OptionsEdit::SciStyleName));
             }
             loaded = "Default";
             if (gHost.files->Kind(StylePath(loaded)) != PathKind::File) {
-                Show("Default Style Not Found !", MessageIcon::Critical);
+                ShowMessage("Default Style Not Found !", MessageIcon::Critical);
                 return {};
             }
         }
         if (ReadTable(gHost.files->Read(StylePath(loaded))) == FormatVersion) return loaded;
-        Show("Incorrect Style Version !", MessageIcon::Critical);
+        ShowMessage("Incorrect Style Version !", MessageIcon::Critical);
         return {};
     });
 }
 
 void SaveStyle(const std::string& name, const std::string& description) {
     std::string bytes;
-    Put<std::int16_t>(bytes, FormatVersion);
-    PutAll(bytes, StyleTable::ForeColor);
-    PutAll(bytes, StyleTable::BackColor);
+    AppendNumber<std::int16_t>(bytes, FormatVersion);
+    AppendAll(bytes, StyleTable::ForeColor);
+    AppendAll(bytes, StyleTable::BackColor);
     for (const std::string& font : StyleTable::FontName) {
-        Put(bytes, static_cast<std::uint16_t>(font.size()));
+        AppendNumber(bytes, static_cast<std::uint16_t>(font.size()));
         bytes += font;
     }
-    PutAll(bytes, StyleTable::FontSize);
-    PutAll(bytes, StyleTable::Bold);
-    PutAll(bytes, StyleTable::Italic);
-    PutAll(bytes, StyleTable::Underline);
-    PutAll(bytes, StyleTable::OtherColor);
+    AppendAll(bytes, StyleTable::FontSize);
+    AppendAll(bytes, StyleTable::Bold);
+    AppendAll(bytes, StyleTable::Italic);
+    AppendAll(bytes, StyleTable::Underline);
+    AppendAll(bytes, StyleTable::OtherColor);
     bytes += description + std::string(1, '\0') + std::string(50, ' ');
     gHost.files->Write(StylePath(name), bytes);
     StyleTable::Description = description;

@@ -31,27 +31,24 @@ constexpr const char* KnownVersion = "1";
 
 bool loading = false;
 
-// Nothing is painted, and nobody saves a workspace, while windows come and go.
+// While documents are being loaded no workspace is saved, because it would hold only some of them.
 class LoadingScope {
 public:
     LoadingScope() { loading = true; }
     ~LoadingScope() { loading = false; }
     LoadingScope(const LoadingScope&) = delete;
     LoadingScope& operator=(const LoadingScope&) = delete;
-
-private:
-    const StillFrame still_;
 };
 
 WorkspaceView ViewOf(const frmDoc& document) {
-    const auto ask = [&](unsigned message, std::intptr_t w = 0) {
+    const auto send = [&](unsigned message, std::intptr_t w = 0) {
         return static_cast<long>(Mod_Sci::SendTo(document.SciEdi_WndData, message, w));
     };
-    return {document.FullFilename, ask(SCI_GETCURRENTPOS), ask(SCI_GETANCHOR),
-            ask(SCI_DOCLINEFROMVISIBLE, ask(SCI_GETFIRSTVISIBLELINE))};
+    return {document.FullFilename, send(SCI_GETCURRENTPOS), send(SCI_GETANCHOR),
+            send(SCI_DOCLINEFROMVISIBLE, send(SCI_GETFIRSTVISIBLELINE))};
 }
 
-Workspace Present() {
+Workspace CurrentWorkspace() {
     Workspace workspace;
     workspace.windows = gHost.dock->WindowsText();
     if (const frmDoc* document = ActiveForm()) workspace.caret = ViewOf(*document).caret;
@@ -65,24 +62,24 @@ Workspace Present() {
     return workspace;
 }
 
-bool Write(const std::string& path) {
+bool WriteWorkspace(const std::string& path) {
     return Guarded("SaveWorkSpace", "Mod_File", false, [&] {
         if (loading) return false;
         gHost.files->MakeFolders(GetFolder(path));
-        gHost.files->Write(path, WorkspaceText(Present()));
+        gHost.files->Write(path, WorkspaceText(CurrentWorkspace()));
         return true;
     });
 }
 
 // The text of an arrangement makes windows anew, so the help window's form waits outside meanwhile.
-void TakeHelpAside() {
+void DetachHelp() {
     DocumentWindow* help = gHost.dock->FindDocumentWindow(HelpWindowKey);
     if (help == nullptr) return;
     help->Attach(nullptr);
     gHost.dock->DropDocumentWindow(*help);
 }
 
-void Arrange(const Workspace& workspace, LoadMessages& messages) {
+void RestoreWindows(const Workspace& workspace, LoadMessages& messages) {
     if (workspace.windows.empty()) return;
     try {
         gHost.dock->SetWindowsText(workspace.windows);
@@ -91,7 +88,7 @@ void Arrange(const Workspace& workspace, LoadMessages& messages) {
     }
 }
 
-void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
+void OpenEntry(const WorkspaceEntry& entry, LoadMessages& messages) {
     messages.About(entry.path);
     // A document that was never saved has no file, whatever stands in the folder that the program runs in.
     const bool named = entry.path.find('/') != std::string::npos;
@@ -104,7 +101,7 @@ void Open(const WorkspaceEntry& entry, LoadMessages& messages) {
 }
 
 // Windows whose documents did not come go again.
-void CleanUp() {
+void FillOrDropEmptyWindows() {
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
         Form* form = window->HostedForm();
         if (form == nullptr && window->Key() == HelpWindowKey && gDocumentCalls.HelpForm) {
@@ -136,7 +133,7 @@ void ShowViews(const Workspace& workspace) {
 }
 
 // The window in front is so without having told of it, or it told before it had a document.
-void Activate(const Workspace& workspace) {
+void ActivateFrontWindow(const Workspace& workspace) {
     DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
     const auto windows = gHost.dock->DocumentWindows();
     if (window == nullptr && !windows.empty()) {
@@ -157,20 +154,21 @@ void Activate(const Workspace& workspace) {
     if (!known && workspace.caret < Mod_Sci::GetLength()) Mod_Sci::GotoPos(workspace.caret);
 }
 
-void Restore(const Workspace& workspace) {
+void RestoreWorkspace(const Workspace& workspace) {
     LoadMessages messages;
     {
         const LoadingScope scope;
-        TakeHelpAside();
+        const StillFrame still;
+        DetachHelp();
         if (!workspace.whole)
             messages.Add({"The workspace file is incomplete. What could be read of it was loaded."});
         else if (!workspace.version.empty() && workspace.version != KnownVersion)
             messages.Add({"The workspace file is of another version. What is known of it was loaded."});
-        Arrange(workspace, messages);
-        for (const WorkspaceEntry& entry : workspace.entries) Open(entry, messages);
-        CleanUp();
+        RestoreWindows(workspace, messages);
+        for (const WorkspaceEntry& entry : workspace.entries) OpenEntry(entry, messages);
+        FillOrDropEmptyWindows();
         ShowViews(workspace);
-        Activate(workspace);
+        ActivateFrontWindow(workspace);
     }
     gDocumentCalls.UpdateCommandUI();
     messages.Show();
@@ -178,7 +176,7 @@ void Restore(const Workspace& workspace) {
 
 } // namespace
 
-void SaveWorkSpace(const std::string& path) { Write(path); }
+void SaveWorkSpace(const std::string& path) { WriteWorkspace(path); }
 
 bool LoadWorkSpace(const std::string& path) {
     return Guarded("LoadWorkSpace", "Mod_File", false, [&] {
@@ -193,7 +191,7 @@ bool LoadWorkSpace(const std::string& path) {
             return false;
         }
         if (!CloseAllFiles()) return false;
-        Restore(*workspace);
+        RestoreWorkspace(*workspace);
         return true;
     });
 }
@@ -201,7 +199,7 @@ bool LoadWorkSpace(const std::string& path) {
 void SaveWorkSpaceAs() {
     const std::string path = gHost.dialogs->SaveFile({"Save Workspace As", Filter, {}, {}});
     if (path.empty()) return;
-    if (Write(path)) AddRecentWorkspace(path);
+    if (WriteWorkspace(path)) AddRecentWorkspace(path);
 }
 
 void OpenWorkspace() {

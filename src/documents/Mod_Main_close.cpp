@@ -62,17 +62,19 @@ Life life = Life::Runs;
 std::string ownHandle; // of this process's channel, while others may find it
 
 // Whether the settings name this process; another window may have written its own handle there since.
-bool NamesThis() { return !ownHandle.empty() && gHost.settings->Get("Instance", "Handle", "0") == ownHandle; }
+bool SettingsNameThisProcess() {
+    return !ownHandle.empty() && gHost.settings->Get("Instance", "Handle", "0") == ownHandle;
+}
 
 // Nobody finds this process any more. Answers whether somebody would have.
-bool HideHandle() {
-    const bool names = NamesThis();
+bool WithdrawHandle() {
+    const bool names = SettingsNameThisProcess();
     if (names) gHost.settings->Save("Instance", "Handle", "0");
     return names;
 }
 
 // Closes the channel. False when somebody handed over something meanwhile that nobody has opened yet.
-bool NothingCame() {
+bool CloseChannel() {
     const NestedLoop loop; // what comes now must not open in the middle of the end
     gHost.instances->Withdraw();
     return WaitingFromOutside() == 0;
@@ -119,8 +121,8 @@ void PlaceMainWindow() {
 
 void QueryUnload(bool& cancel) {
     Guarded("Form_QueryUnload", "frmMain", [&] {
-        const bool wasFound = HideHandle();
-        cancel = !Mod_File::AskForAll() || !NothingCame();
+        const bool wasFound = WithdrawHandle();
+        cancel = !Mod_File::AskForAll() || !CloseChannel();
         if (!cancel) {
             gDocumentCalls.UnloadFind();
             Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
@@ -151,9 +153,9 @@ void SaveSession() {
 
 void EndNow() {
     SaveSession();
-    HideHandle();
+    WithdrawHandle();
     const bool starts = std::exchange(life, Life::Ended) == Life::Starts;
-    NothingCame(); // what came opens no more
+    CloseChannel(); // what came opens no more
     // The start would go on to the end, and ask what it has to ask.
     if (starts) gHost.desktop->EndProcess(0);
 }

@@ -40,8 +40,8 @@ std::optional<std::string> BytesOf(const std::string& path) {
 }
 
 // The part of a path in the data's form up to its last backslash, and what stands behind it.
-std::string Behind(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
-std::string InFront(const std::string& path) {
+std::string LastPart(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+std::string WithoutLastPart(const std::string& path) {
     const std::size_t at = path.rfind('\\');
     return at == std::string::npos ? std::string() : path.substr(0, at);
 }
@@ -71,7 +71,7 @@ void ReadFile(ClsProject& project, const std::string& line) {
     file->Tip = std::atoi(BlockAttribute(line, "Tip").c_str());
     file->Visible = IsBlockTrue(BlockAttribute(line, "Visible"));
     file->TreeParent = project.Name + file->PrjFolder;
-    file->Name = Behind(file->AbsPath);
+    file->Name = LastPart(file->AbsPath);
     const std::string path = Mod_File::MemberPath(project, *file);
     if (gHost.files->Kind(path) == PathKind::None) {
         Mod_File::TellLoadFailure({" File " + path + " that is part of this project is missing " +
@@ -101,7 +101,7 @@ void OpenMembers(const std::shared_ptr<ClsProject>& project, bool fromWorkspace)
 
 // Brings the project's main file to the front, else its first file.
 void ShowMainFile(const ClsProject& project) {
-    auto file = project.Files.Find(Behind(ToData(project.MainFile)));
+    auto file = project.Files.Find(LastPart(ToData(project.MainFile)));
     if (!file && project.Files.Count() > 0) file = project.Files.Item(0);
     if (!file) return;
     Mod_File::ActivateOpen(Mod_File::MemberPath(project, *file));
@@ -128,7 +128,7 @@ private:
 };
 
 // A project that brought no document leaves the active one in front, with its own project and compiler.
-void BackToActive() {
+void ReturnToActive() {
     MakeActive(ActiveForm());
     if (gCurrentProject) Mod_Main::SetActiveCompiler(gCurrentProject->Compiler);
 }
@@ -171,14 +171,14 @@ std::shared_ptr<ClsProject> ReadProject(const std::string& path) {
 }
 
 // Adds a project to gProjects and opens its members.
-void OpenRead(const std::shared_ptr<ClsProject>& project, bool fromWorkspace) {
+void AddAndOpen(const std::shared_ptr<ClsProject>& project, bool fromWorkspace) {
     gProjects.Add(project, project->FullPath);
     {
         const PipelineRest rest;
         OpenMembers(project, fromWorkspace);
     }
     if (!fromWorkspace) ShowMainFile(*project);
-    if (project->Sources.Count() == 0) BackToActive();
+    if (project->Sources.Count() == 0) ReturnToActive();
 }
 
 template <class Collection, class Record>
@@ -196,8 +196,8 @@ int SortedPlace(const Collection& collection, const Record& record) {
 
 void CompleteFolder(clsFolder& folder, const ClsProject& project) {
     folder.FullPath = project.Path + ToDisk(folder.AbsPath);
-    folder.TreeParent = project.Name + InFront(folder.AbsPath);
-    folder.Name = Behind(folder.AbsPath);
+    folder.TreeParent = project.Name + WithoutLastPart(folder.AbsPath);
+    folder.Name = LastPart(folder.AbsPath);
 }
 
 void DodajFileSorted(std::shared_ptr<clsFile> file, ClsProject& project) {
@@ -251,7 +251,7 @@ bool LoadProject(const std::string& wanted, bool fromWorkspace) {
         const auto project = ReadProject(path);
         if (!project) return false;
         if (present) gProjects.RemoveKey(present->FullPath);
-        OpenRead(project, fromWorkspace);
+        AddAndOpen(project, fromWorkspace);
         Mod_File::AddRecentProject(path);
         gDocumentCalls.PopulateTreeView();
         gDocumentCalls.UpdateCommandUI();

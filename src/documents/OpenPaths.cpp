@@ -13,11 +13,11 @@ namespace Mod_File {
 namespace {
 
 // A path with what the disk says of it, which is asked once for many comparisons.
-class Place {
+class PathOnDisk {
 public:
-    explicit Place(const std::string& path) : path_(path), identity_(gHost.files->Identity(path)) {}
+    explicit PathOnDisk(const std::string& path) : path_(path), identity_(gHost.files->Identity(path)) {}
 
-    bool Is(const std::string& other) const {
+    bool IsSameFile(const std::string& other) const {
         if (path_ == other) return true;
         // What was never saved has a name, which may happen to be that of a file in the present folder.
         if (path_.find('/') == std::string::npos || other.find('/') == std::string::npos) return false;
@@ -31,13 +31,13 @@ private:
 
 } // namespace
 
-bool SameFile(const std::string& a, const std::string& b) { return Place(a).Is(b); }
+bool SameFile(const std::string& a, const std::string& b) { return PathOnDisk(a).IsSameFile(b); }
 
 frmDoc* DocumentOfPath(const std::string& path) {
-    const Place place(path);
+    const PathOnDisk wanted(path);
     for (const auto& project : gProjects)
         for (const auto& source : project.record->Sources)
-            if (place.Is(source.record->FullFilename)) return &FormOf(*source.record);
+            if (wanted.IsSameFile(source.record->FullFilename)) return &FormOf(*source.record);
     return nullptr;
 }
 
@@ -52,12 +52,12 @@ std::string MemberPath(const ClsProject& project, const clsFile& file) {
 }
 
 std::shared_ptr<ClsProject> ProjectOfMember(const std::string& path, std::string& memberPath) {
-    const Place place(path);
+    const PathOnDisk wanted(path);
     for (const auto& project : gProjects) {
         if (project.record->SingleFile) continue;
         for (const auto& file : project.record->Files) {
             memberPath = MemberPath(*project.record, *file.record);
-            if (place.Is(memberPath)) return project.record;
+            if (wanted.IsSameFile(memberPath)) return project.record;
         }
     }
     return nullptr;

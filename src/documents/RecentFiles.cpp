@@ -25,17 +25,17 @@ public:
     RecentList(const char* command, const char* section) : command_(command), section_(section) {}
 
     void Add(const std::string& path) {
-        Drop(path);
+        Remove(path);
         paths_.insert(paths_.begin(), path);
-        Changed();
+        SaveAndShow();
     }
     void Forget(const std::string& path) {
-        Drop(path);
-        Changed();
+        Remove(path);
+        SaveAndShow();
     }
     void Clear() {
         paths_.clear();
-        Changed();
+        SaveAndShow();
     }
     void Load() {
         std::vector<std::string> stored = ReadStoredList(section_);
@@ -45,11 +45,11 @@ public:
         for (std::string& path : stored)
             if (std::find(paths_.begin(), paths_.end(), path) == paths_.end())
                 paths_.push_back(std::move(path));
-        Cut();
+        CutToLength();
         Show();
     }
     void Save() {
-        Cut();
+        CutToLength();
         WriteStoredList(section_, paths_);
         gHost.settings->Save(section_, "Count", std::to_string(paths_.size()));
     }
@@ -67,14 +67,14 @@ public:
     }
 
 private:
-    void Drop(const std::string& path) {
+    void Remove(const std::string& path) {
         std::erase_if(paths_, [&](const std::string& entry) { return SameFile(entry, path); });
     }
-    void Cut() {
+    void CutToLength() {
         const auto most = static_cast<std::size_t>(std::max(0, Options::gRecentFiles));
         if (paths_.size() > most) paths_.resize(most);
     }
-    void Changed() {
+    void SaveAndShow() {
         Save();
         Show();
     }

@@ -26,10 +26,10 @@
 
 namespace {
 
-constexpr int Step = 21;
-constexpr int LastStep = 78;
+constexpr int ProgressPerLine = 21;
+constexpr int LastProgress = 78;
 
-void Append(const std::string& line) { gToolchainCalls.AppendOutput(line); }
+void AppendOutput(const std::string& line) { gToolchainCalls.AppendOutput(line); }
 
 struct ErrorLine {
     std::string file;
@@ -45,7 +45,7 @@ std::optional<int> Number(const std::string& text) {
 }
 
 // Takes an error line apart. Nothing for a line without a quoted file in front, a line and a column.
-std::optional<ErrorLine> Read(const std::string& line) {
+std::optional<ErrorLine> ReadErrorLine(const std::string& line) {
     const std::size_t second = line.find('"', 1);
     if (line.empty() || line[0] != '"' || second == std::string::npos) return std::nullopt;
     ErrorLine error;
@@ -61,7 +61,7 @@ std::optional<ErrorLine> Read(const std::string& line) {
 }
 
 // The file of an error on disk; a relative name counts from the compiled file. Empty where there is none.
-std::string OnDisk(const ErrorLine& error, const CompilerJob& job) {
+std::string FindOnDisk(const ErrorLine& error, const CompilerJob& job) {
     const std::string named = CollapseSeparators(ToDisk(error.file));
     const bool absolute = named.starts_with('/') || job.file.empty();
     const std::string found = gHost.files->Find(absolute ? named : GetFolder(job.file) + named);
@@ -71,7 +71,7 @@ std::string OnDisk(const ErrorLine& error, const CompilerJob& job) {
 // Brings the document of an error to the front. Null when there is none and the user named none either.
 frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
     DocumentWindow* window = gHost.dock->FindDocumentWindow(error.file);
-    const std::string path = OnDisk(error, job);
+    const std::string path = FindOnDisk(error, job);
     // A document that was never saved is compiled from a copy of its text.
     if (!job.document.empty() && path == job.file)
         window = gHost.dock->FindDocumentWindow(job.document);
@@ -96,11 +96,11 @@ std::string ShownFile(const ErrorLine& error, const frmDoc* document, const Comp
     return itself ? std::string() : document->FullFilename;
 }
 
-void Report(const ErrorLine& error, const std::string& file) {
+void ReportError(const ErrorLine& error, const std::string& file) {
     const std::string& message = error.fields[5];
     const std::string place = "Line: " + error.fields[1] + ", Column: " + error.fields[2];
-    if (!file.empty()) Append(file);
-    Append("Compile Error In " + place + " -->  " + message);
+    if (!file.empty()) AppendOutput(file);
+    AppendOutput("Compile Error In " + place + " -->  " + message);
     gToolchainCalls.ScrollOutputToEnd();
     gHost.dialogs->Show({message + "\r\n\r\nFile: " + file + "\r\n\r\n" + place + " ", MessageIcon::Critical,
                          gActiveCompiler->Name + " Compiling Error"});
@@ -126,8 +126,8 @@ public:
         if (compiling_ && !line.starts_with("Compiling") && !line.starts_with("Creating")) {
             const int value = value_;
             if (!line.starts_with("BlitzCC") && !line.starts_with("(C)"))
-                value >= LastStep ? EndCompile() : SetValue(value + Step);
-            if (value >= 1 && value < LastStep && Read(line)) {
+                value >= LastProgress ? EndCompile() : SetValue(value + ProgressPerLine);
+            if (value >= 1 && value < LastProgress && ReadErrorLine(line)) {
                 EndCompile();
                 FromOutside([line, job = job_] {
                     Mod_Compiler::ParseError(line, job);
@@ -136,7 +136,7 @@ public:
                 return;
             }
         }
-        Append(line);
+        AppendOutput(line);
     }
 
     void OnComplete(int exitCode) {
@@ -188,12 +188,12 @@ void CompilerOutput::Forget(frmDoc& document) {
 void CompilerOutput::StopShown() { Listener::StopShown(); }
 
 void Mod_Compiler::ParseError(const std::string& line, const CompilerJob& job) {
-    const auto error = Read(line);
+    const auto error = ReadErrorLine(line);
     if (!error) return;
     Guarded("ParseError", "Mod_Compiler", [&] {
         const frmDoc* document = ShowDocument(*error, job);
         const std::string file = ShownFile(*error, document, job);
-        if (document == nullptr) return Report(*error, file);
+        if (document == nullptr) return ReportError(*error, file);
         Mod_Sci::EnsureVisible(error->row - 1); // it may lie in a closed fold
         const auto start = Mod_Sci::PositionFromLine(error->row - 1);
         const auto caret = start + error->column - 1;
@@ -203,7 +203,7 @@ void Mod_Compiler::ParseError(const std::string& line, const CompilerJob& job) {
         else
             Mod_Sci::SetSel(start, caret);
         const std::string window = document->m_strDocumentWindowID;
-        Report(*error, file);
+        ReportError(*error, file);
         if (gActiveDoc == nullptr || gActiveDoc->m_strDocumentWindowID != window) return;
         Mod_Sci::SetSel(caret, caret);
         Mod_Sci::GrabFocus();

@@ -37,7 +37,7 @@ long lastCompiled = 0; // the serial number of the document behind gLastCompiled
 
 using Job = CompilerJob::Kind;
 
-void Exclaim(std::string text, std::string title = {}) {
+void ShowExclamation(std::string text, std::string title = {}) {
     gHost.dialogs->Show({std::move(text), MessageIcon::Exclamation, std::move(title)});
 }
 
@@ -58,7 +58,7 @@ bool ProjectFileToCompile(std::string& path) {
     const ClsProject& project = *gCurrentProject;
     const auto main = project.Files.Find(project.MainFile);
     if (!main) {
-        Exclaim("Please Set the 'Main File' for this project first...", "Operation aborted");
+        ShowExclamation("Please Set the 'Main File' for this project first...", "Operation aborted");
         return false;
     }
     Mod_File::SaveProjectFiles();
@@ -101,20 +101,20 @@ std::string AskForTarget(const std::string& path) {
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
-void Append(const std::string& line) { gToolchainCalls.AppendOutput(line); }
+void AppendOutput(const std::string& line) { gToolchainCalls.AppendOutput(line); }
 
-void TellProblem(const std::string& text) {
-    Append(text);
-    Exclaim(text);
+void ShowProblem(const std::string& text) {
+    AppendOutput(text);
+    ShowExclamation(text);
 }
 
 // A program with a console of its own. False, after a word in the Output pane, where there is no terminal.
 bool RunInTerminal(const ProcessStart& start) {
     if (!gHost.processes->HasTerminal()) {
-        Append("No terminal program was found: what runs is shown here.");
+        AppendOutput("No terminal program was found: what runs is shown here.");
         return false;
     }
-    if (const SystemError error = gHost.processes->StartInTerminal(start)) TellProblem(error.text);
+    if (const SystemError error = gHost.processes->StartInTerminal(start)) ShowProblem(error.text);
     return true;
 }
 
@@ -131,15 +131,15 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
     shell.Error = nullptr;
     if (started) return;
     CompilerOutput::Forget(document);
-    TellProblem(problem);
+    ShowProblem(problem);
 }
 
-void Notice(const std::string& text) { gEditorCalls.SetNotice(text); }
+void SetNotice(const std::string& text) { gEditorCalls.SetNotice(text); }
 
 // A document runs one child at a time. True, after a word in the status bar, while one runs.
-bool Busy(const frmDoc& document) {
+bool ReportIfBusy(const frmDoc& document) {
     if (!document.ShellClass->Running()) return false;
-    Notice("Process already running.");
+    SetNotice("Process already running.");
     return true;
 }
 
@@ -161,7 +161,7 @@ std::optional<JobFiles> Prepare(Job job, const std::string& path) {
 }
 
 void StartJob(Job job, const std::string& path, bool debug) {
-    if (!DocumentActive() || !gCurrentProject || Busy(*ActiveForm())) return;
+    if (!DocumentActive() || !gCurrentProject || ReportIfBusy(*ActiveForm())) return;
     if (!gActiveCompiler) throw Failure(FailureObjectNotSet, "No compiler is active");
     gHost.processes->SetEnvironment("BLITZPATH", gHost.desktop->ShortPath(gActiveCompiler->Folder()));
     const auto files = Prepare(job, path);
@@ -217,24 +217,24 @@ void CompileLast() {
 void RunLastCreated() {
     if (Options::gLastCreatedExe.empty()) return;
     if (gHost.files->Kind(Options::gLastCreatedExe) != PathKind::File) {
-        Exclaim("File " + Options::gLastCreatedExe + " not found !");
+        ShowExclamation("File " + Options::gLastCreatedExe + " not found !");
         return;
     }
     // A program finds its pictures and sounds beside itself.
     const ProcessStart start{Quoted(Options::gLastCreatedExe), GetFolder(Options::gLastCreatedExe)};
-    if (!gHost.processes->HasTerminal() && DocumentActive() && Busy(*ActiveForm())) return;
+    if (!gHost.processes->HasTerminal() && DocumentActive() && ReportIfBusy(*ActiveForm())) return;
     gToolchainCalls.ClearOutput();
     if (RunInTerminal(start)) return;
     if (DocumentActive())
         StartChild(*ActiveForm(), {Job::Run, Options::gLastCreatedExe, {}, {}, false}, start);
     else if (const SystemError error = gHost.processes->StartDetached(start.command))
-        TellProblem(error.text);
+        ShowProblem(error.text);
 }
 
 void StopRunning() {
     if (!DocumentActive()) return;
-    if (!ActiveForm()->ShellClass->Running()) return Notice("No process to terminate.");
-    if (ActiveForm()->ShellClass->Terminate()) Append("The program was stopped.");
+    if (!ActiveForm()->ShellClass->Running()) return SetNotice("No process to terminate.");
+    if (ActiveForm()->ShellClass->Terminate()) AppendOutput("The program was stopped.");
 }
 
 void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath) {
