@@ -1,4 +1,4 @@
-// The form of project and workspace files.
+// The syntax of project and workspace files.
 #include "documents/BlockText.h"
 
 #include "host/Text.h"

@@ -1,4 +1,4 @@
-// Closing what is open.
+// Closing documents and projects.
 #include "documents/CloseFiles.h"
 
 #include "documents/DocumentCalls.h"
@@ -33,7 +33,7 @@ bool BelongsTo(const frmDoc& document, const ClsProject* project) {
     return project == nullptr || project->Sources.Exist_Item(&document);
 }
 
-// The documents of a project, or all, in the order of their windows.
+// The serial numbers of the documents of a project, or of all documents, in the order of their windows.
 std::vector<long> SerialsOf(const ClsProject* project) {
     std::vector<long> serials;
     for (const DocumentWindow* window : gHost.dock->DocumentWindows())
@@ -46,7 +46,7 @@ DocumentWindow* WindowOf(const frmDoc& document) {
     return gHost.dock->FindDocumentWindow(document.m_strDocumentWindowID);
 }
 
-// The save prompt. False when the document has to stay open.
+// Asks whether to save a dirty document, and saves it. False if the document has to stay open.
 bool AskToSave(long serial) {
     frmDoc* document = DocumentOfSerial(serial);
     if (document == nullptr || !document->Dirty) return true;
@@ -63,7 +63,7 @@ bool AskToSave(long serial) {
     return SaveFile(document);
 }
 
-// A project is saved without being asked for. False when it could not be and has to stay.
+// Saves a dirty project without asking. False if that failed and the project has to stay open.
 bool SaveOrKeep(const std::shared_ptr<ClsProject>& project) {
     if (project->SingleFile || !project->Dirty) return true;
     try {
@@ -88,7 +88,7 @@ bool AskFor(const std::shared_ptr<ClsProject>& project) {
     return std::all_of(all.begin(), all.end(), SaveOrKeep);
 }
 
-// Closes documents that were asked for. False when one stayed.
+// Closes documents without asking again. False if one stayed open.
 bool CloseWindows(const ClsProject* project, bool singleOnly) {
     const QuestionsAnswered scope;
     for (const long serial : SerialsOf(project)) {
@@ -100,9 +100,9 @@ bool CloseWindows(const ClsProject* project, bool singleOnly) {
     return true;
 }
 
-// Closes a project that was saved and whose documents were asked for.
+// Closes a project that was saved, and its documents without asking again.
 bool CloseSavedProject(const std::shared_ptr<ClsProject>& project) {
-    // What could not be closed needs its project.
+    // A document that stayed open needs its project.
     if (!CloseWindows(project.get(), false) || project->Sources.Count() > 0) return false;
     if (gProjects.Exist_Key(project->FullPath)) gProjects.RemoveKey(project->FullPath);
     gDocumentCalls.RefreshCodeExplorer();

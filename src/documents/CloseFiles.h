@@ -1,4 +1,5 @@
-// Closing what is open. All questions come before anything closes, so a Cancel keeps everything.
+// Closing documents and projects. The user is asked everything before anything closes, so that Cancel keeps
+// everything.
 #pragma once
 
 #include <memory>
@@ -8,19 +9,19 @@ class DocumentWindow;
 
 namespace Mod_File {
 
-// Closes every single file and then every project, the last first; asks for each document that is dirty.
-// False when something stayed open.
+// Closes all single files and then all projects, the last one first. Asks about each dirty document. False if
+// something stayed open.
 bool CloseAllFiles();
-// Asks for each dirty document of a project, saves the project, and closes it with its documents. False when
+// Asks about each dirty document of a project, saves the project and closes it with its documents. False if
 // something stayed open.
 bool CloseProject(std::shared_ptr<ClsProject> project);
 
-// The save prompt for every open document that is dirty, then the saving of every project that is. False when
-// one was cancelled or could not be saved.
+// Asks about every dirty document, then saves every dirty project. False if the user cancelled or a save
+// failed.
 bool AskForAll();
-// Closes every document window, the help window excepted, without another question. False when one stayed.
+// Closes the windows of all documents without asking. False if one stayed open.
 bool CloseDocuments();
-// The save prompt of a document window that is about to close.
+// Asks about the dirty document of a window that is about to close. Sets `cancel` if it has to stay open.
 void DocumentWindowHiding(DocumentWindow& window, bool& cancel);
 
 } // namespace Mod_File

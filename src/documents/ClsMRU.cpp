@@ -1,4 +1,4 @@
-// A short list of texts that were used last.
+// A short list of recently used texts.
 #include "documents/ClsMRU.h"
 
 #include "documents/StoredList.h"

@@ -1,4 +1,4 @@
-// A short list of texts that were used last, kept in the settings store.
+// A short list of recently used texts, stored in the settings.
 #pragma once
 
 #include <string>
@@ -9,20 +9,20 @@ public:
     explicit ClsMRU(std::string name) : Name(std::move(name)) {}
 
     std::string Name;
-    int Number = 5;           // most entries
-    bool AsFavorites = false; // keeps its order, and refuses a new entry when full, with a message
+    int Number = 5;           // the greatest number of entries
+    bool AsFavorites = false; // a full list refuses new entries with a message, and the order never changes
 
-    // Puts a text first; one that differs from an entry only in case takes its place. In a list of favourites
-    // a new text comes last.
+    // Adds a text as the first entry and removes an entry that differs in case alone. In a list of
+    // favourites, a new text becomes the last entry.
     void Add(const std::string& text);
     void Remove(const std::string& text);
     void Clear() { items_.clear(); }
     int Count() const { return static_cast<int>(items_.size()); }
-    // From 1, newest first. Fails with FailureOutOfRange.
+    // Index from 1, newest entry first. Throws FailureOutOfRange.
     const std::string& IndexItem(int index) const;
     const std::vector<std::string>& Items() const { return items_; }
 
-    // Section "<Name>MRU", keys "1", "2" and so on. An empty section leaves the list as it is.
+    // Reads section "<Name>MRU" with keys "1", "2" and so on. An empty section leaves the list unchanged.
     void Load();
     void Save() const;
 
@@ -32,8 +32,8 @@ private:
     std::vector<std::string> items_;
 };
 
-// What was searched for, what replaced it, and the arguments of programs. Written by the find dialog and by
-// the command line box.
+// Searched texts, replacement texts and program arguments. Written by the find dialog and the command line
+// box.
 extern ClsMRU MRUFind;
 extern ClsMRU MRUReplace;
 extern ClsMRU MRUCommandLine;

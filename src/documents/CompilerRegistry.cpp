@@ -1,4 +1,4 @@
-// The registry of compilers: reading compilers.dat, and making one the active one.
+// Reading compilers.dat, and choosing the active compiler.
 #include "documents/CompilerRegistry.h"
 
 #include "documents/LoadMessages.h"
@@ -23,7 +23,7 @@ constexpr int FailureEndOfFile = 62;
 
 std::set<std::string> reportedNames; // names in upper case
 
-// Values in the order in which they stand, one a line: texts in quotes, numbers and booleans bare.
+// Reads one value from each line: texts in quotes, numbers and booleans without.
 class RecordReader {
 public:
     explicit RecordReader(std::string text) : text_(std::move(text)) {}
@@ -52,7 +52,7 @@ void LoadCompilers() {
         gHost.dialogs->Show({"File 'Compilers.dat' is missing or invalid !", MessageIcon::Critical});
         gHost.desktop->EndProcess(1);
     }
-    // A damaged file leaves what was read until then.
+    // The compilers in front of a damaged place are kept.
     Guarded("LoadCompilers", "Mod_Main", [&] {
         RecordReader reader(gHost.files->Read(path));
         reader.Next();
@@ -74,7 +74,7 @@ void LoadCompilers() {
 
 namespace {
 
-// A name is told of once, not each time a document of its project comes to the front.
+// Reports a name only once, and not each time a document of its project comes to the front.
 void ReportUnknownOnce(const std::string& name) {
     if (!reportedNames.insert(UCase(name)).second) return;
     Mod_File::TellLoadFailure(

@@ -12,17 +12,17 @@ class Form;
 inline constexpr const char* HelpWindowKey = "HELP WINDOW";
 
 struct DocumentCalls {
-    Request<void()> PopulateTreeView;    // the project tree shows gProjects anew
-    Request<void()> UpdateCommandUI;     // commands enable by the active document
-    Request<void()> RefreshCodeExplorer; // its list of files or its current project changed
-    // A window is the active one without its event having come, or before it had its document.
+    Request<void()> PopulateTreeView;    // fills the project tree from gProjects
+    Request<void()> UpdateCommandUI;     // enables commands as the active document requires
+    Request<void()> RefreshCodeExplorer; // after a change of the files or of the current project
+    // Handles a window that became active without an event, or before it had its document.
     Request<void(DocumentWindow& window)> DocumentWindowActivated;
-    // The form of the help window, made where there is none; null where it cannot be had.
+    // The form of the help window, created if there is none; null if it cannot be created.
     Request<Form*()> HelpForm;
     Request<void()> UnloadFind;
     Request<void(const std::string& path)> OpenBrowser;
     Request<void(const std::string& text)> SplashStatus; // shows a line on the splash window
-    Request<void()> CreateMainWindow;                    // its Form_Load runs
+    Request<void()> CreateMainWindow;                    // and runs its Form_Load
     Request<void()> ShowMainWindow;
     Request<bool()> StrictModeChecked;
 };

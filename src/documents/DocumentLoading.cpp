@@ -26,7 +26,7 @@ namespace Mod_File {
 
 namespace {
 
-// Puts a file's bytes into a view as they are.
+// Loads the bytes of a file into a view without converting them.
 void LoadText(frmDoc& document, const std::string& bytes) {
     const std::intptr_t view = document.SciEdi_WndData;
     document.LfEnds = HasOnlyLf(bytes);
@@ -34,7 +34,7 @@ void LoadText(frmDoc& document, const std::string& bytes) {
     const bool wide = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
     document.View->SetUtf8(wide && IsUtf8(bytes));
     Mod_Sci::SendTo(view, SCI_SETMODEVENTMASK,
-                    0); // nobody listens yet, and the library would count characters
+                    0); // for an unused notification the library would count characters
     Mod_Sci::SendTo(view, SCI_SETUNDOCOLLECTION, 0);
     if (bytes.find('\0') == std::string::npos) {
         Mod_Sci::SendTo(view, SCI_SETTEXT, 0, Mod_Sci::Address(bytes.c_str()));
@@ -65,12 +65,12 @@ void BindWindow(frmDoc& document, bool documentWindow) {
     const bool cameBack = window != nullptr;
     if (cameBack) {
         window->Attach(&document);
-        window->SetCaption(document.Caption()); // an arrangement remembers the star of a dirty document
+        window->SetCaption(document.Caption()); // the stored caption may have the star of a dirty document
     } else {
         window = &gHost.dock->AddDocumentWindow(document.FullFilename, document.Caption(), &document);
     }
     document.m_strDocumentWindowID = window->Key();
-    // Showing a window puts it in front; one that came back stands where it was.
+    // SetVisible would bring a restored window to the front.
     if (!cameBack || !window->Visible()) window->SetVisible(true);
 }
 
@@ -87,7 +87,7 @@ void ParseUnheard(frmDoc& document, const std::function<void()>& parse) {
 
 namespace {
 
-// A window that shows nobody's text goes.
+// Removes the window of a document.
 void LeaveWindow(frmDoc& document) {
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
         if (window->HostedForm() != &document) continue;
@@ -120,7 +120,8 @@ void PutBack(const std::shared_ptr<frmDoc>& document, const std::shared_ptr<ClsP
     MakeActive(document.get());
     Mod_Main::SetActiveCompiler(project->Compiler);
     if (!document->SingleFile) {
-        // Its symbols count as those of a closed file. The text and its undo history stay.
+        // UnloadDocument has made its symbols those of a closed file. The text and its undo history are
+        // unchanged.
         const Unheard unheard;
         Mod_Sci::MarkerDeleteAll(-1);
         Mod_Parse::ParseOwn(*project);
@@ -141,7 +142,7 @@ bool ActivateOpen(const std::string& path) {
 bool OpenProjectsFile(const std::shared_ptr<ClsProject>& project, const std::string& path,
                       bool documentWindow) {
     return Guarded("OpenProjectsFile", "Mod_File", false, [&] {
-        // A second name of a file that is open would be a second document of it.
+        // A second path of an open file must not open a second document.
         if (ActivateOpen(path)) return true;
         const long before = ActiveForm() == nullptr ? 0 : ActiveForm()->Serial;
         std::string reason;

@@ -1,4 +1,4 @@
-// Messages about what could not be loaded, at once or gathered.
+// Messages about files that could not be loaded.
 #include "documents/LoadMessages.h"
 
 #include "host/Host.h"
@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* Unloadable = "Could not load file:\r\n";
 constexpr const char* UnloadableTitle = "File Could Not Be Loaded!";
-constexpr std::size_t MostShown = 12; // more lines than this don't fit every screen
+constexpr std::size_t MostShown = 12; // lines; more do not fit on every screen
 
 LoadMessages* gathering = nullptr;
 
@@ -40,7 +40,7 @@ void LoadMessages::Show() {
     gathering = nullptr;
     if (messages_.size() == 1) gHost.dialogs->Show(messages_.front());
     if (messages_.size() < 2) return;
-    // Files that are gone are named in one list, the other messages stand behind it.
+    // The missing files come first, in one list; the other messages follow.
     std::string files, others;
     std::size_t shown = 0;
     for (const Message& message : messages_) {

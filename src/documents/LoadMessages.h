@@ -1,5 +1,5 @@
-// What could not be loaded: said at once, or, where many things are loaded together, all of it in one
-// message.
+// Messages about files that could not be loaded: shown at once, or collected into one message while many
+// files are loaded.
 #pragma once
 
 #include "host/Dialogs.h"
@@ -9,13 +9,12 @@
 
 namespace Mod_File {
 
-// Shows a message with one button about something that could not be loaded, or hands it to the gathering
-// that is under way.
+// Shows a message about a failed load, or adds it to the present LoadMessages.
 void TellLoadFailure(const Message& message);
-// The same for a file that is missing or cannot be read.
+// The same with the standard text for a missing or unreadable file.
 void TellUnloadable(const std::string& path);
 
-// Gathers these messages for as long as it lives. One at a time.
+// Collects the messages during its lifetime. There is at most one at a time.
 class LoadMessages {
 public:
     LoadMessages();
@@ -24,9 +23,9 @@ public:
     LoadMessages& operator=(const LoadMessages&) = delete;
 
     void Add(const Message& message);
-    // Names what the messages to come are about, for those that don't say it.
+    // Sets the path that is added to messages that do not name one.
     void About(const std::string& path) { about_ = path; }
-    // Shows what was gathered: a single message as it is, several as one, none not at all.
+    // Shows the collected messages: one unchanged, several as one.
     void Show();
 
 private:

@@ -36,7 +36,7 @@ namespace Mod_File {
 
 namespace {
 
-constexpr std::size_t ShortestNamedPath = 3; // such a path is tried whatever its extension
+constexpr std::size_t ShortestNamedPath = 3; // a path of this length is opened whatever its extension
 
 constexpr const char* OpenFilter = "All Supported Formats|*.bb;*.zpf|Zolto Project Files (*.zpf)|*.zpf|Blitz "
                                    "Basic File (*.bb)|*.bb|All Files|*.*";
@@ -50,7 +50,7 @@ bool CanBeRead(const std::string& path) {
     }
 }
 
-// What is no source goes to the desktop. True when the call is done.
+// Opens a file that is not a source with the desktop's program for it. False for a source.
 bool ForeignFile(const std::string& path) {
     if (path.size() <= ShortestNamedPath || GetExtension(path) == ".BB") return false;
     switch (gHost.files->Kind(path)) {
@@ -58,7 +58,7 @@ bool ForeignFile(const std::string& path) {
     case PathKind::None:
         TellLoadFailure({"File: " + path + " does not exists !", MessageIcon::Exclamation});
         return true;
-    default: return false; // a folder or a device is refused by the attempt to load it
+    default: return false; // loading a folder or a device fails with a message
     }
 }
 
@@ -81,7 +81,7 @@ void ShowSingle(frmDoc& document, ClsProject& project, bool documentWindow) {
     MakeActive(&document);
     document.Initialise(GetFileName(document.FullFilename));
     gHost.desktop->Pump();
-    MakeActive(&document); // a focus that moved in the pump may have made another one active
+    MakeActive(&document); // the pump may have moved the focus to another document
     const WaitCursor wait;
     project.Compiler = CheckFileCompilerUsed();
     Mod_Main::SetActiveCompiler(project.Compiler);
@@ -111,13 +111,13 @@ bool LoadDocument(const std::string& path, bool documentWindow, bool isSnippet) 
     }
     MakeActive(document.get());
     Mod_Sci::EmptyUndoBuffer();
-    if (!documentWindow) Mod_Sci::GrabFocus(); // a workspace gives it to one document at its end
+    if (!documentWindow) Mod_Sci::GrabFocus(); // a workspace sets the focus at its end
     AddRecentFile(path);
     gDocumentCalls.UpdateCommandUI();
     return true;
 }
 
-// Loads an open document anew. Where that fails, the text in the window is all that is left of it, and stays.
+// Loads an open document again. If that fails, the open text stays: there may be no other copy of it.
 bool Reload(const std::shared_ptr<frmDoc>& document) {
     const auto project = gProjects.Item(document->PrjFullPath);
     const std::string path = document->FullFilename;
@@ -134,12 +134,11 @@ bool Reload(const std::shared_ptr<frmDoc>& document) {
     return loaded;
 }
 
-// An open file comes to the front; with changes the user may have it loaded anew, and the answer is true
-// then.
+// Brings an open file to the front. If it is dirty, asks whether to load it again; true if it was loaded.
 bool OpenAgain(const frmDoc& document) {
     const long serial = document.Serial;
     const bool dirty = document.Dirty;
-    ActivateOpen(document.FullFilename); // who is asked sees what about
+    ActivateOpen(document.FullFilename); // so that the user sees the file of the question
     if (!dirty) return false;
     const MessageAnswer answer = gHost.dialogs->Show(
         {"File " + document.Filename +
@@ -151,7 +150,7 @@ bool OpenAgain(const frmDoc& document) {
         gProjects.Item(still->PrjFullPath)->Sources.Item(still->FullFilename)));
 }
 
-// What is open or belongs to an open project is opened as that. Nothing for any other file.
+// Opens a file that is open already or belongs to an open project. Returns nothing for any other file.
 std::optional<bool> OpenKnown(const std::string& path, bool documentWindow) {
     if (const frmDoc* document = DocumentOfPath(path)) return OpenAgain(*document);
     std::string memberPath;
@@ -160,7 +159,7 @@ std::optional<bool> OpenKnown(const std::string& path, bool documentWindow) {
     return std::nullopt;
 }
 
-// A name that no open document has: with a number behind it where that is wanted, or where it is taken.
+// A name that no open document has. It ends with a number if the option asks for one or the name is in use.
 std::string NewName() {
     static int counter = 0; // never reset while the program runs
     std::string name = Options::gDefNewName;
@@ -169,7 +168,7 @@ std::string NewName() {
     return name;
 }
 
-// Asks for files; all but a single one are opened here.
+// Asks for files. Returns the path of a single one; opens several at once and returns an empty path.
 std::string AskForFile() {
     FileQuestion question{"Open File", OpenFilter, {}, {}, true};
     const std::vector<std::string> chosen = gHost.dialogs->OpenFiles(question);
@@ -184,8 +183,8 @@ std::string WithoutQuotes(std::string token) {
     return token;
 }
 
-// What stands between the quote that opens a token and the next one at a token's end, which is the one at
-// `last`; empty where there are no such two.
+// The text in quotes that begins with token `first`; `last` becomes the index of its last token. Empty if the
+// token does not begin with a quote or no later token ends with one.
 std::string QuotedFrom(const std::vector<std::string>& tokens, std::size_t first, std::size_t& last) {
     if (!tokens[first].starts_with('"')) return {};
     std::string whole;
@@ -235,7 +234,7 @@ void NewFile() {
             project->Compiler = gActiveCompiler ? gActiveCompiler->Name : DefaultCompiler;
             Mod_Main::SetActiveCompiler(project->Compiler);
         } catch (...) {
-            gHost.dock->DropDocumentWindow(window); // a name that is taken leaves nothing behind
+            gHost.dock->DropDocumentWindow(window); // the name is in use after all
             throw;
         }
         MakeActive(document.get());
@@ -256,7 +255,7 @@ void OpenFilesFromCommand(const std::string& commandLine) {
         const auto open = [&](const std::string& path) {
             if (path.empty() || gHost.desktop->ShortPath(path).empty()) return false;
             if (OpenFile(path) && line > 0) {
-                Mod_Sci::EnsureVisible(line - 1); // it may lie in a closed fold
+                Mod_Sci::EnsureVisible(line - 1); // the line may be folded
                 Mod_Sci::GotoLine(line - 1);
             }
             line = 0;
@@ -264,13 +263,13 @@ void OpenFilesFromCommand(const std::string& commandLine) {
         };
         for (std::size_t i = 0; i < tokens.size(); ++i) {
             std::size_t last = i;
-            // What stands in quotes is tried whole, for its first part may be the name of something else.
+            // Quoted text is tried as a whole first, because its first word may be the name of another file.
             if (open(QuotedFrom(tokens, i, last))) {
                 i = last;
                 continue;
             }
             const std::string token =
-                WithoutQuotes(tokens[i]); // untrimmed: a path may hold two blanks in a row
+                WithoutQuotes(tokens[i]); // not trimmed: a path may hold two blanks in a row
             const std::string option = UCase(TrimBlanks(token));
             if (option.starts_with("/L:"))
                 line = std::lrint(std::strtod(option.c_str() + 3, nullptr));

@@ -1,4 +1,4 @@
-// Text between disk and editor: opening, saving, naming, and the parameter block at a file's end.
+// Opening, naming and saving of source files, and the files of colour styles.
 #pragma once
 
 #include "documents/DocumentLoading.h"
@@ -11,32 +11,33 @@ class frmDoc;
 
 namespace Mod_File {
 
-// Opens a source file or a project; an empty path asks for files. True when a document was loaded.
-// `documentWindow`: its window came back with a layout. Writes gActiveDoc, gCurrentProject, SciWndData.
+// Opens a source file or a project; an empty path asks for files. True if a document was loaded.
+// `documentWindow`: a restored layout has its window already. Writes gActiveDoc, gCurrentProject and
+// SciWndData.
 bool OpenFile(const std::string& path, bool documentWindow = false, bool isSnippet = false);
-// Opens a file as a source whatever its extension, as one that an Include, a compiler's error, a recent list
-// or a workspace names. OpenFile hands what is neither source nor project to the desktop.
+// Opens a file as a source, whatever its extension; for files named by an Include, a compiler's error, a
+// recent list or a workspace. OpenFile leaves other files than sources and projects to the desktop.
 bool OpenHere(const std::string& path, bool documentWindow = false);
-// Makes a new, unnamed document and activates it.
+// Creates a new document without a file and activates it.
 void NewFile();
-// Saves the text of one document, whichever is the active one. False when nothing was written.
+// Saves one document, which need not be the active one. False if nothing was written.
 bool SaveFile(frmDoc* document);
 bool SaveFileAs(frmDoc* document);
-bool SaveAllFiles();     // every dirty document that has a file
+bool SaveAllFiles();     // every dirty document with a file
 bool SaveProjectFiles(); // every dirty document of gCurrentProject
-// Writes the active editor's text without a parameter block.
+// Writes the text of the active document without a parameter block. False if that failed.
 bool WriteTextFile(const std::string& path);
 bool CreateEmptyFile(const std::string& path);
 
-// Opens what a command line names: paths, quoted or not, and /L:<line> in front of one.
+// Opens the paths of a command line, quoted or not. /L:<line> in front of a path goes to that line, from 1.
 void OpenFilesFromCommand(const std::string& commandLine);
 
-// Opens files that were dropped on the program; a folder is passed over.
+// Opens files that were dropped on the program, and ignores folders.
 void FilesDropped(const std::vector<std::string>& paths);
 
-// Reads a .style file into the style table. Answers the name that was loaded, empty when none was.
+// Reads a .style file into the style table. Returns the name of the loaded style; empty if none was loaded.
 std::string LoadStyle(const std::string& name);
-// Writes the style table with a description. Fails when it cannot be written.
+// Writes the style table with a description. Throws a Failure if the file cannot be written.
 void SaveStyle(const std::string& name, const std::string& description);
 
 } // namespace Mod_File

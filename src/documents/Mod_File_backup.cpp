@@ -1,4 +1,5 @@
-// Backups: stamped with date and time, all of them kept; or numbered, the newest with 1, and a few kept.
+// Backup copies: either named with date and time, and all kept; or numbered with 1 as the newest, and a few
+// kept.
 #include "documents/Mod_File_backup.h"
 
 #include "documents/Options.h"
@@ -20,8 +21,8 @@ namespace {
 
 std::string StoreFolder() { return CollapseSeparators(Options::gBackupStoreFolder + "/"); }
 
-// One level only: where the folder above is missing, a disk may not be there, and the copies would lie hidden
-// below its place.
+// Makes one level only: if the parent folder is missing, a disk may not be mounted, and the copies would be
+// hidden by it later.
 void MakeStoreFolder(const std::string& folder) {
     if (gHost.files->Kind(folder) == PathKind::Folder) return;
     const std::string above = GetFolder(std::string_view(folder).substr(0, folder.size() - 1));
@@ -30,7 +31,7 @@ void MakeStoreFolder(const std::string& folder) {
     gHost.files->MakeFolders(folder);
 }
 
-// From the clock's year-month-day and hour:minute:second.
+// Date and time of now, for a file name.
 std::string Stamp() {
     const std::string date = gHost.desktop->Date();
     const std::string time = gHost.desktop->Time();
@@ -40,8 +41,8 @@ std::string Stamp() {
            "." + time.substr(3, 2) + ".bak";
 }
 
-// The numbers behind a stem that files in its folder have, the greatest first: one look into the folder,
-// because the setting may ask for more copies than could be tried one by one.
+// The numbers of the existing copies, the greatest first. The folder is listed once, because the option may
+// allow more copies than could be tried one by one.
 std::vector<int> NumbersBehind(const std::string& stem) {
     std::vector<int> numbers;
     const std::string folder = GetFolder(stem);
@@ -58,13 +59,14 @@ std::vector<int> NumbersBehind(const std::string& stem) {
     return numbers;
 }
 
-// Makes room for a new copy 1: each moves up by one, and the oldest goes. What cannot move stays.
+// Makes room for a new copy 1: each copy gets the next number, and the oldest is deleted. Failures are
+// ignored.
 void Rotate(const std::string& stem) {
     const auto ignoring = [](const auto& step) {
         try {
             step();
         } catch (const Failure&) {
-            // An older copy that stays in the way is no reason to have no new one.
+            // An older copy that cannot be moved must not prevent the new one.
         }
     };
     const int most = Options::gBackupBakIncrement;
@@ -86,12 +88,12 @@ void BackupFile(const std::string& path) {
         const bool inFolder = Options::gBackupStoreType == Options::BackupInFolder;
         const std::string name = GetFileName(path);
         const std::string folder = inFolder ? StoreFolder() : std::string();
-        // Read first: a file that cannot be read costs no older copy its place.
+        // The file is read first, so that an unreadable file does not cost an older copy.
         const std::string bytes = gHost.files->Read(path);
         const bool stamped = Options::gBackupType == Options::BackupStamped;
         if (!stamped) Rotate((inFolder ? folder + name : path) + ".bak");
         if (inFolder) MakeStoreFolder(folder);
-        // Without a folder in front the copy goes to the folder that the program runs in.
+        // A name without a folder puts the copy into the program's current folder.
         gHost.files->Write(folder + name + (stamped ? Stamp() : ".bak1"), bytes);
     });
 }

@@ -1,12 +1,11 @@
-// Copies of a file as it is on disk, made before it is overwritten.
+// Backup copies of a file, made before the file is overwritten.
 #pragma once
 
 #include <string>
 
 namespace Mod_File {
 
-// Copies a file as gBackupType, gBackupBakIncrement, gBackupStoreType and gBackupStoreFolder say. A failure
-// is reported; the caller goes on and saves.
+// Copies a file as the options gBackup... say. A failure is reported; the caller saves all the same.
 void BackupFile(const std::string& path);
 
 } // namespace Mod_File

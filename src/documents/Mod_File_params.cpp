@@ -1,4 +1,4 @@
-// The block of comment lines behind a saved source: folded lines, bookmarks, arguments, compiler.
+// The parameter block at the end of a saved source: folded lines, bookmarks, arguments, compiler.
 #include "documents/Mod_File_params.h"
 
 #include "engine/ClsCompiler.h"
@@ -36,7 +36,7 @@ std::string Hex(int number) {
     return UCase(std::string_view(digits, static_cast<std::size_t>(end - digits)));
 }
 
-// A line number in hexadecimal, with one sign allowed in front; anything else is 0.
+// Reads a hexadecimal line number with an optional sign; anything else is 0.
 int FromHex(std::string_view text) {
     text = text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
     bool negative = false;
@@ -50,7 +50,7 @@ int FromHex(std::string_view text) {
     return negative ? -number : number;
 }
 
-// The lines with a marker, in rows of entries behind a prefix; nothing when there are too many rows.
+// The lines with a marker, as rows of entries that begin with `prefix`. Nothing if there are too many rows.
 std::optional<std::string> MarkedLines(int marker, const std::string& prefix, int mostRows,
                                        const std::function<bool(int)>& counts) {
     std::string block;
@@ -98,14 +98,14 @@ void ApplyLine(std::string_view text) {
     }
 }
 
-// The block's lines end as those of its file do. A CR anywhere makes it CR LF, because one at the text's end
-// would be taken for a part of the block's first line end.
+// The line end of the file. One CR in the text makes it CR LF, because a CR at the end of the text would
+// become part of the first line end of the block.
 std::string BlockLineEnd() {
     const bool lf = OptionsEdit::KeepLineEnds && gActiveDoc->LfEnds;
     return lf && Mod_Sci::GetText().find('\r') == std::string::npos ? "\n" : "\r\n";
 }
 
-// Bytes of the line end in front of a position: 2 for CR LF, 1 for a CR or an LF alone.
+// The bytes of the line end before a position: 2 for CR LF, 1 for a single CR or LF, else 0.
 std::size_t LineEndBefore(std::string_view text, std::size_t position) {
     text = text.substr(0, position);
     if (text.ends_with("\r\n")) return 2;
@@ -116,7 +116,7 @@ std::size_t LineEndAt(std::string_view text, std::size_t position) {
     return std::min(text.find_first_of("\r\n", position), text.size());
 }
 
-// The start of the next line, from the end of one; the text's end where there is none.
+// The start of the line after a line end; the end of the text if there is none.
 std::size_t NextLineStart(std::string_view text, std::size_t end) {
     return std::min(text.size(), end + (text.substr(end).starts_with("\r\n") ? 2 : 1));
 }
@@ -128,16 +128,15 @@ std::size_t FindHeader(std::string_view text, std::size_t from) {
     return std::string_view::npos;
 }
 
-// What goes from a text with a block: the line end in front of the header, which was written with it (one
-// byte where a program has turned the file's line ends to LF), and what another program put behind a last
-// line.
+// A block with the line end before its header, which was written with it. The last block includes line ends
+// that another program has added after it.
 struct Block {
     std::size_t from;
     std::size_t to;
-    std::vector<std::string_view> lines; // behind the header, without their line ends
+    std::vector<std::string_view> lines; // after the header, without their line ends
 };
 
-// The blocks of a text in their order. A header alone is a block only as the last one.
+// The blocks of a text in their order. A header without lines is a block only if it is the last one.
 std::vector<Block> FindBlocks(std::string_view text) {
     std::vector<Block> blocks;
     for (std::size_t at = FindHeader(text, 0); at != std::string_view::npos; at = FindHeader(text, at + 1)) {
@@ -158,7 +157,7 @@ std::vector<Block> FindBlocks(std::string_view text) {
 void RemoveBlock(const Block& block) {
     const auto from = static_cast<std::intptr_t>(block.from);
     const auto to = static_cast<std::intptr_t>(block.to);
-    // A line that goes would leave its markers to the line before it and take the fold point there.
+    // Deleting a line moves its markers to the line before and removes the fold point of that line.
     const auto first = Mod_Sci::LineFromPosition(from);
     const auto level = Mod_Sci::GetFoldLevel(first);
     for (auto line = Mod_Sci::LineFromPosition(to); line > first; --line) Mod_Sci::MarkerDelete(line, -1);
@@ -212,7 +211,7 @@ std::string GetFileParameters() {
 
 void CheckFileParameters() {
     Guarded("CheckFileParameters", "Mod_File", [&] {
-        // Searched in a copy: the view's own search takes longer than to read the file.
+        // Searching a copy is faster: the view's own search takes longer than reading the file.
         const std::string text = gActiveDoc->MayHaveParameters ? Mod_Sci::GetText() : std::string();
         const std::vector<Block> blocks = FindBlocks(text);
         if (blocks.empty()) {
@@ -222,7 +221,7 @@ void CheckFileParameters() {
         const ColoringScope own;
         for (const std::string_view line : blocks.back().lines) ApplyLine(line);
         std::for_each(blocks.rbegin(), blocks.rend(), RemoveBlock);
-        // Nobody hears of lines that move.
+        // There are no notifications for lines that moved.
         if (blocks.front().to < text.size()) ForgetLines(SciWndData);
     });
 }

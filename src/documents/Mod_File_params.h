@@ -1,4 +1,4 @@
-// The block of comment lines behind a saved source.
+// The parameter block: comment lines at the end of a saved source.
 #pragma once
 
 #include <cstddef>
@@ -7,16 +7,16 @@
 
 namespace Mod_File {
 
-// The position of the first header in a text that begins a line, whatever its case; npos where there is none.
+// The position of the first block header at the start of a line, in any letter case; npos if there is none.
 std::size_t FindParameters(std::string_view text);
-// Whether the lines of a file end in LF alone, whatever the line ends of its blocks.
+// Whether all lines of a file end in LF. Its blocks do not count.
 bool HasOnlyLf(std::string_view text);
 
-// The parameter block of the active editor, empty when there is nothing to remember.
+// The parameter block for the active document; empty if there is nothing to store.
 std::string GetFileParameters();
-// Applies the last block in the active editor and removes all blocks.
+// Applies the last block of the active document and removes all blocks.
 void CheckFileParameters();
-// The compiler that the last line of the active editor names that is not empty, else DefaultCompiler.
+// The compiler named in the last non-empty line of the active document, else DefaultCompiler.
 std::string CheckFileCompilerUsed();
 
 } // namespace Mod_File

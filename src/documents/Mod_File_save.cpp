@@ -1,4 +1,4 @@
-// Saving documents. A failed write leaves the old file and the dirty document.
+// Saving documents. After a failed write the old file is unchanged and the document still dirty.
 #include "documents/Mod_File.h"
 
 #include "documents/DocumentCalls.h"
@@ -29,7 +29,7 @@ namespace {
 constexpr int FailureSaveWithoutDocument = 99020;
 constexpr int FailureSaveAsWithoutDocument = 93320;
 
-// Works on a document as the active one and puts back which one was, if that is still open.
+// Makes a document the active one for a scope. At the end the former one is active again if it is still open.
 class TemporarilyActive {
 public:
     explicit TemporarilyActive(frmDoc& document)
@@ -53,7 +53,7 @@ std::string BytesOf(frmDoc& document, bool withBlock) {
     return Mod_Sci::GetText() + (withBlock ? GetFileParameters() : std::string());
 }
 
-// Writes the text of a document, whichever is the active one, with a block behind it or without.
+// Writes the text of a document, which need not be the active one, with or without a parameter block.
 bool WriteDocument(frmDoc& document, const std::string& path, bool withBlock) {
     bool written = true;
     try {
@@ -79,7 +79,7 @@ void ShowInvalidName(const std::string& path, const char* why) {
     ShowCritical("File named " + GetFileName(path) + why, "Invalid name");
 }
 
-// A project's member stays in the project's folder, and its name is its own.
+// Whether a member may have that path: below the folder of the project, with a name that no other member has.
 bool AllowedInProject(const ClsProject& project, const std::string& path) {
     if (!path.starts_with(project.Path)) {
         ShowCritical("Project Files must be saved in the project's (sub)folder !", "File Not Saved !");
@@ -92,8 +92,8 @@ bool AllowedInProject(const ClsProject& project, const std::string& path) {
     return true;
 }
 
-// Two documents of one path could not be told apart, nor could a file by itself be told from a member. The
-// file of a project or of the workspace would be written over with a source.
+// Whether the path belongs to another document, to a member of a project, or to the file of a project or
+// workspace, which a source must not overwrite. Shows a message then.
 bool UsedElsewhere(const frmDoc& document, const std::string& path) {
     const frmDoc* other = DocumentOfPath(path);
     if ((other != nullptr && other != &document) || ProjectOfPath(path) || SameFile(path, LastWorkspace())) {
@@ -111,7 +111,7 @@ void RenameSingle(frmDoc& document, const std::shared_ptr<ClsProject>& project, 
     const std::string oldKey = project->FullPath;
     project->FullPath = path;
     document.PrjFullPath = path;
-    document.PrjName = path; // the key under which a whole-file parse looks the project up
+    document.PrjName = path; // the key with which ParseFile finds the project
     document.IsSnippet = false;
     gProjects.RemoveKey(oldKey);
     gProjects.Add(project, path);
@@ -130,7 +130,7 @@ void RenameMember(ClsProject& project, const std::string& oldName, const std::st
     gDocumentCalls.PopulateTreeView();
 }
 
-// Gives a document that was written under a new name that name everywhere.
+// Renames a document in its project, its window and the recent files, after it was written under a new name.
 void RenameEverywhere(frmDoc& document, const std::string& path) {
     const auto project = gCurrentProject;
     const std::string oldName = document.Filename;
@@ -154,14 +154,15 @@ void RenameEverywhere(frmDoc& document, const std::string& path) {
     gDocumentCalls.UpdateCommandUI();
 }
 
-// Where the dialog starts: beside the file; a new one of a project in the project's folder.
+// The initial folder of the dialog: that of the file, or that of the project for a new member.
 std::string StartFolder(const frmDoc& document) {
     const std::string own = GetFolder(document.FullFilename);
     if (!own.empty() || document.SingleFile) return own;
     return gProjects.Item(document.PrjFullPath)->Path;
 }
 
-// A save can ask for a name, so each document is looked up when its turn comes.
+// Saves the dirty ones of these documents. A save may ask the user, so each document is looked up in its
+// turn.
 void SaveDirty(const std::vector<long>& serials) {
     const StillWindow still;
     for (const long serial : serials)

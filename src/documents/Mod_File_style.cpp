@@ -1,4 +1,4 @@
-// Colour styles on disk: little-endian, no padding, one array after the other.
+// The files of colour styles: arrays of little-endian numbers without padding.
 #include "documents/Mod_File.h"
 
 #include "documents/OptionTable.h"
@@ -62,7 +62,8 @@ std::string StylePath(const std::string& name) { return AppPath("Styles\\" + nam
 
 void ShowMessage(std::string text, MessageIcon icon) { gHost.dialogs->Show({std::move(text), icon}); }
 
-// Reads all of a file before it touches the table: one that ends too early leaves the table alone.
+// Reads a whole file before the table is changed, so that a file that ends too early changes nothing. Returns
+// the version of the file.
 int ReadTable(const std::string& bytes) {
     Reader reader(bytes);
     const int version = reader.TakeNumber<std::int16_t>();

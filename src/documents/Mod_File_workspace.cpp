@@ -71,7 +71,7 @@ bool WriteWorkspace(const std::string& path) {
     });
 }
 
-// The text of an arrangement makes windows anew, so the help window's form waits outside meanwhile.
+// Removes the help window, because the stored arrangement creates it anew.
 void DetachHelp() {
     DocumentWindow* help = gHost.dock->FindDocumentWindow(HelpWindowKey);
     if (help == nullptr) return;
@@ -90,7 +90,7 @@ void RestoreWindows(const Workspace& workspace, LoadMessages& messages) {
 
 void OpenEntry(const WorkspaceEntry& entry, LoadMessages& messages) {
     messages.About(entry.path);
-    // A document that was never saved has no file, whatever stands in the folder that the program runs in.
+    // A name without a folder is that of a document that was never saved, even if such a file exists.
     const bool named = entry.path.find('/') != std::string::npos;
     if (!named || (!entry.single && gHost.files->Kind(gHost.files->Find(entry.path)) == PathKind::None))
         return TellUnloadable(entry.path);
@@ -100,7 +100,7 @@ void OpenEntry(const WorkspaceEntry& entry, LoadMessages& messages) {
         Mod_Project::LoadProject(entry.path, true);
 }
 
-// Windows whose documents did not come go again.
+// Gives an empty help window its form, and removes windows whose documents could not be loaded.
 void FillOrDropEmptyWindows() {
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) {
         Form* form = window->HostedForm();
@@ -112,7 +112,8 @@ void FillOrDropEmptyWindows() {
     }
 }
 
-// A place that the text no longer has is left out, since the file may have been changed meanwhile.
+// Restores selection and first visible line. Places beyond the end of the text are ignored: the file may have
+// changed since.
 void ShowView(frmDoc& document, const WorkspaceView& view) {
     const auto send = [&](unsigned message, std::intptr_t w = 0, std::intptr_t l = 0) {
         return Mod_Sci::SendTo(document.SciEdi_WndData, message, w, l);
@@ -121,7 +122,7 @@ void ShowView(frmDoc& document, const WorkspaceView& view) {
     if (view.caret <= length && view.anchor <= length) send(SCI_SETSEL, view.anchor, view.caret);
     if (view.top < send(SCI_GETLINECOUNT))
         send(SCI_SETFIRSTVISIBLELINE, send(SCI_VISIBLEFROMDOCLINE, view.top));
-    // Without the focus, as all but one will be; what its first paint tells of the caret is no news.
+    // All documents but one have no focus, and the first paint must not report a new caret line.
     document.m_oSubclass->OnKillFocus();
     document.Callback_OldLine = static_cast<int>(send(SCI_LINEFROMPOSITION, send(SCI_GETCURRENTPOS)));
 }
@@ -132,7 +133,7 @@ void ShowViews(const Workspace& workspace) {
             ShowView(*document, view);
 }
 
-// The window in front is so without having told of it, or it told before it had a document.
+// Activates the front window, whose event is missing or came before it had its document.
 void ActivateFrontWindow(const Workspace& workspace) {
     DocumentWindow* window = gHost.dock->ActiveDocumentWindow();
     const auto windows = gHost.dock->DocumentWindows();

@@ -1,4 +1,4 @@
-// Process entry, the load sequence, and what another instance sends.
+// Start of the program, and texts from other instances.
 #include "documents/Mod_Main.h"
 
 #include "documents/CompilerRegistry.h"
@@ -24,12 +24,12 @@ namespace Mod_Main {
 
 namespace {
 
-constexpr int WaitRounds = 31; // for a first instance that has not published its handle yet
+constexpr int WaitRounds = 31; // until a first instance has published its handle
 constexpr const char* BringForward = "Aktiviraj";
 
 int lastWindowState = 0; // the last state of the main window that was not minimised
 
-// True when another instance took what this one was given, and this one has to end.
+// Whether another instance accepted the command line, so that this one has to end.
 bool HandedOver(const std::string& commandLine) {
     Options::MultipleInstances = std::atoi(gHost.settings->Get("Options", "MultipleInstances", "0").c_str());
     if (!gHost.instances->AnotherRuns() || Options::MultipleInstances != 0) return false;
@@ -38,7 +38,7 @@ bool HandedOver(const std::string& commandLine) {
         gHost.desktop->Pump();
         const std::string handle = gHost.settings->Get("Instance", "Handle", "0");
         if (std::atoi(handle.c_str()) == 0) continue;
-        // A channel where nobody listens was left by an instance that was killed.
+        // Sending fails if the instance was killed and has left its handle in the settings.
         if (gHost.instances->Send(handle, commandLine.empty() ? BringForward : commandLine)) return true;
     }
     return false; // two windows are better than a file that does not open
@@ -59,7 +59,8 @@ bool Main(const std::string& commandLine) {
     const bool runs = Guarded("Main", "Mod_Main", true, [&] {
         if (HandedOver(commandLine)) return false;
         Start();
-        // Painting stays frozen until the first document is there: an empty window is painted for nothing.
+        // The window does not paint before the first document is open, because painting an empty window takes
+        // time.
         if (!commandLine.empty())
             Mod_File::OpenFilesFromCommand(commandLine);
         else if (Options::gStartUp == Options::StartRestoresWorkspace)

@@ -1,43 +1,43 @@
-// The spine: from the instance check over the load sequence to the order of shutdown.
+// Start and end of the program: the check for another instance, the load sequence, the steps of shutdown.
 #pragma once
 
 #include <string>
 
 namespace Mod_Main {
 
-// Process entry with the raw command line. False when this process must end at once because another
-// instance took over.
+// Starts the program with the raw command line. False if another instance took over and this process has to
+// end.
 bool Main(const std::string& commandLine);
-// The load sequence that the splash window shows. Leaves the painting of the main window frozen; Main thaws
-// it.
+// Loads everything, with the steps shown on the splash window. The main window does not paint until Main
+// unlocks it.
 void Start();
 
-// What another instance sent: "Aktiviraj", or a command line.
+// Handles the text of another instance: "Aktiviraj", or a command line.
 void TextReceived(const std::string& text);
 
-// Opens the channel for hand-offs and tells the settings its name.
+// Opens the channel for other instances and stores its name in the settings.
 void Publish();
 
-// Between these two the program starts: nothing that is remembered between runs is written.
+// The program starts between these two calls; meanwhile nothing is written that the next run would read.
 void BeginStart();
 void EndStart();
 
-// Places the main window from its section of the settings store, and keeps it there.
+// Moves the main window to its place in the settings.
 void PlaceMainWindow();
-// The whole of shutdown; `cancel` becomes true when a document would not close, a project could not be saved,
-// or another start handed over something meanwhile.
+// Shuts the program down. Sets `cancel` if a document stayed open, a project could not be saved, or another
+// instance sent a file meanwhile.
 void QueryUnload(bool& cancel);
-// Writes what is remembered between runs, without a question and without ending: the session may end soon.
+// Writes everything that the next run will read, without asking. Called when the desktop session may end.
 void SaveSession();
-// The same for a process that is told to end at once. Texts that were not saved are not written over their
-// files. The caller leaves the event loop; while the program starts, the process ends here.
+// The same for a process that has to end at once; unsaved texts are not written. The caller leaves the event
+// loop, but during the start of the program this call ends the process.
 void EndNow();
-// Destroys every document that is left, without a question, and kills their programs: what they are made of
-// needs the platform, so its owner calls this first.
+// Destroys all documents without asking and kills their programs. Called before the platform services end,
+// because documents need them.
 void TakeDown();
-// Whether shutdown or EndNow has been through.
+// Whether QueryUnload or EndNow has completed.
 bool Ended();
-// Keeps the last state of the main window that was not minimised.
+// Remembers the state of the main window, unless it is minimised.
 void Resized();
 
 } // namespace Mod_Main

@@ -1,4 +1,4 @@
-// The window's place in the settings, and the fixed order of shutdown.
+// The place of the main window in the settings, and the order of the steps of shutdown.
 #include "documents/Mod_Main.h"
 
 #include "documents/CloseFiles.h"
@@ -32,7 +32,7 @@ namespace {
 constexpr const char* LayoutSection = "Layout0.8_0";
 constexpr const char* LayoutFile = "Layouts\\Layout0.8_0.mp";
 constexpr int Minimised = 1;
-constexpr int OffScreen = 300; // twips that must be left of the window
+constexpr int OffScreen = 300; // twips of the window that must be on the screen
 
 int ReadPlace(const char* key, int byDefault) {
     const std::string text = gHost.settings->Get(LayoutSection, key, std::to_string(byDefault));
@@ -54,28 +54,28 @@ void SavePlace(const WindowPlace& place) {
     save("MainState", place.state);
 }
 
-// What is remembered between runs is written while the program runs: before that it isn't known yet, and
-// behind the end there is less of it.
+// Lists and workspace are written only while the program runs: they are not loaded before, and incomplete
+// after.
 enum class Life { Starts, Runs, Ended };
 Life life = Life::Runs;
 
-std::string ownHandle; // of this process's channel, while others may find it
+std::string ownHandle; // names the channel of this process while other instances may use it
 
-// Whether the settings name this process; another window may have written its own handle there since.
+// Another instance may have replaced the handle in the settings by its own.
 bool SettingsNameThisProcess() {
     return !ownHandle.empty() && gHost.settings->Get("Instance", "Handle", "0") == ownHandle;
 }
 
-// Nobody finds this process any more. Answers whether somebody would have.
+// Hides this process from other instances. Returns whether they could have found it.
 bool WithdrawHandle() {
     const bool names = SettingsNameThisProcess();
     if (names) gHost.settings->Save("Instance", "Handle", "0");
     return names;
 }
 
-// Closes the channel. False when somebody handed over something meanwhile that nobody has opened yet.
+// Closes the channel. False if another instance has sent something that is not opened yet.
 bool CloseChannel() {
-    const NestedLoop loop; // what comes now must not open in the middle of the end
+    const NestedLoop loop; // a file that arrives now must not open during shutdown
     gHost.instances->Withdraw();
     return WaitingFromOutside() == 0;
 }
@@ -86,7 +86,7 @@ void SaveLists() {
     MRUCommandLine.Save();
     const WindowPlace place = gHost.dock->Place();
     if (place.state == Minimised) return;
-    // The place is kept even where the arrangement cannot be written.
+    // The place is stored even if the arrangement cannot be written.
     Guarded("Form_QueryUnload", "frmMain", [] {
         gHost.files->MakeFolders(AppPath("Layouts"));
         gHost.dock->SaveLayout(AppPath(LayoutFile));
@@ -125,11 +125,11 @@ void QueryUnload(bool& cancel) {
         cancel = !Mod_File::AskForAll() || !CloseChannel();
         if (!cancel) {
             gDocumentCalls.UnloadFind();
-            Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while all is still open
+            Mod_File::SaveWorkSpace(Mod_File::LastWorkspace()); // while everything is still open
             cancel = !Mod_File::CloseDocuments();
         }
         if (cancel) {
-            // Who starts the program again must find this one, unless it was told to end meanwhile.
+            // Other instances must be able to find this one again, unless it was told to end meanwhile.
             if (wasFound && life != Life::Ended) Publish();
             return;
         }
@@ -141,10 +141,10 @@ void QueryUnload(bool& cancel) {
 
 void SaveSession() {
     if (life != Life::Runs) return;
-    // Nobody may be there to close a report, and who ends the session doesn't wait.
+    // No error dialog: the desktop does not wait for the user when it ends a session.
     const auto report = std::exchange(gHostCalls.ShowErrorDialog, nullptr);
     Mod_File::SaveWorkSpace(Mod_File::LastWorkspace());
-    // As on closing it: a project is saved without being asked for.
+    // Projects are saved without asking, as when they are closed.
     for (const auto& entry : gProjects)
         if (!entry.record->SingleFile && entry.record->Dirty) Mod_Project::SaveProject(*entry.record);
     Guarded("SaveSession", "Mod_Main", SaveLists);
@@ -156,7 +156,7 @@ void EndNow() {
     WithdrawHandle();
     const bool starts = std::exchange(life, Life::Ended) == Life::Starts;
     CloseChannel(); // what came opens no more
-    // The start would go on to the end, and ask what it has to ask.
+    // Otherwise the start would continue and could ask the user something.
     if (starts) gHost.desktop->EndProcess(0);
 }
 
@@ -164,11 +164,11 @@ void TakeDown() {
     gHost.dock->SetEvents(nullptr);
     for (DocumentWindow* window : gHost.dock->DocumentWindows()) window->Attach(nullptr);
     ForgetOutside();
-    std::vector<std::shared_ptr<ClsProject>> projects; // a list that is looked at must not be half gone
+    std::vector<std::shared_ptr<ClsProject>> projects; // keeps them alive while gProjects is emptied
     for (const auto& entry : gProjects) {
         projects.push_back(entry.record);
         for (const auto& source : entry.record->Sources)
-            FormOf(*source.record).View->SetEvents(nullptr); // the focus will wander
+            FormOf(*source.record).View->SetEvents(nullptr); // closing a window moves the focus
     }
     MakeActive(nullptr);
     gProjects.RemoveAll();

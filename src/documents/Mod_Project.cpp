@@ -1,4 +1,4 @@
-// Project files: plain text, blocks found by whole lines, values between quotes without escaping.
+// Reading, opening and writing of project files.
 #include "documents/Mod_Project.h"
 
 #include "documents/BlockText.h"
@@ -30,7 +30,7 @@ namespace {
 
 constexpr const char* Header = "[Zolto Project file]";
 
-// Nothing for what cannot be read, as a folder.
+// The content of a file; nothing if it cannot be read.
 std::optional<std::string> BytesOf(const std::string& path) {
     try {
         return gHost.files->Read(path);
@@ -39,7 +39,7 @@ std::optional<std::string> BytesOf(const std::string& path) {
     }
 }
 
-// The part of a path in the data's form up to its last backslash, and what stands behind it.
+// The two parts of a path around its last backslash.
 std::string LastPart(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 std::string WithoutLastPart(const std::string& path) {
     const std::size_t at = path.rfind('\\');
@@ -82,7 +82,7 @@ void ReadFile(ClsProject& project, const std::string& line) {
     DodajFileSorted(std::move(file), project);
 }
 
-// The first member that is open already as something else; empty where none is.
+// The first member that is open already, alone or in another project; empty if there is none.
 std::string AlreadyOpenMember(const ClsProject& project) {
     for (const auto& entry : project.Files) {
         std::string path = Mod_File::MemberPath(project, *entry.record);
@@ -99,7 +99,7 @@ void OpenMembers(const std::shared_ptr<ClsProject>& project, bool fromWorkspace)
         if (!Mod_File::OpenProjectsFile(project, path, fromWorkspace)) Mod_File::TellUnloadable(path);
 }
 
-// Brings the project's main file to the front, else its first file.
+// Brings the main file to the front, or the first file if there is no main file.
 void ShowMainFile(const ClsProject& project) {
     auto file = project.Files.Find(LastPart(ToData(project.MainFile)));
     if (!file && project.Files.Count() > 0) file = project.Files.Item(0);
@@ -107,7 +107,7 @@ void ShowMainFile(const ClsProject& project) {
     Mod_File::ActivateOpen(Mod_File::MemberPath(project, *file));
 }
 
-// The pipeline of the active document rests while other documents are loaded.
+// Stops the event pipeline of the active document while other documents are loaded.
 class PipelineRest {
 public:
     PipelineRest() : window_(ActiveForm() == nullptr ? std::string() : ActiveForm()->m_strDocumentWindowID) {
@@ -127,7 +127,7 @@ private:
     std::string window_;
 };
 
-// A project that brought no document leaves the active one in front, with its own project and compiler.
+// Makes the compiler of the active document current again, after a project without documents was loaded.
 void ReturnToActive() {
     MakeActive(ActiveForm());
     if (gCurrentProject) Mod_Main::SetActiveCompiler(gCurrentProject->Compiler);
@@ -228,7 +228,7 @@ bool BuildProjectFromFile(const std::string& path, ClsProject& project) {
             if (head != "<Settings>" && head != "<Folders>" && head != "<Files>") continue;
             const std::string end = "</" + head.substr(1);
             for (++i; i < lines.size() && lines[i] != end; ++i) {
-                // One line that cannot be taken is reported and the others still are.
+                // A faulty line is reported, and the other lines are still read.
                 Guarded("BuildProjectFromFile", "Mod_File", [&] {
                     if (head == "<Settings>") settings += lines[i];
                     if (head == "<Folders>") ReadFolder(project, lines[i]);

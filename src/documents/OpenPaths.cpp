@@ -1,4 +1,4 @@
-// What a path means among all that is open.
+// Finds the open document or project of a path.
 #include "documents/OpenPaths.h"
 
 #include "editor/frmDoc.h"
@@ -12,14 +12,14 @@ namespace Mod_File {
 
 namespace {
 
-// A path with what the disk says of it, which is asked once for many comparisons.
+// A path with its identity on disk, which is read once for many comparisons.
 class PathOnDisk {
 public:
     explicit PathOnDisk(const std::string& path) : path_(path), identity_(gHost.files->Identity(path)) {}
 
     bool IsSameFile(const std::string& other) const {
         if (path_ == other) return true;
-        // What was never saved has a name, which may happen to be that of a file in the present folder.
+        // The name of a document that was never saved may happen to exist in the current folder.
         if (path_.find('/') == std::string::npos || other.find('/') == std::string::npos) return false;
         return gHost.files->Identity(other) == identity_ && (!identity_.empty() || EqualNoCase(path_, other));
     }

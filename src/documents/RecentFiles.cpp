@@ -1,4 +1,4 @@
-// The recent lists: paths here, their captions in the command that shows them.
+// The recent lists. The paths are kept here, the captions by the command that shows them.
 #include "documents/RecentFiles.h"
 
 #include "documents/OpenPaths.h"
@@ -53,7 +53,7 @@ public:
         WriteStoredList(section_, paths_);
         gHost.settings->Save(section_, "Count", std::to_string(paths_.size()));
     }
-    // The path of an entry that is still there; nothing where it is gone.
+    // The path of an entry; nothing if the file is missing.
     std::optional<std::string> Choose(int item) {
         if (item < 0 || item >= static_cast<int>(paths_.size())) return {};
         const std::string path = paths_[static_cast<std::size_t>(item)];

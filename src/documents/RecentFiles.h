@@ -1,5 +1,5 @@
-// The files, projects and workspaces that were open last, in lists of the menus. Each change is stored at
-// once, so that a program that dies forgets none.
+// The menu lists of recent files, projects and workspaces. Each change is stored at once, so that a crash
+// loses nothing.
 #pragma once
 
 #include <optional>
@@ -10,16 +10,17 @@ namespace Mod_File {
 void AddRecentFile(const std::string& path);
 void AddRecentProject(const std::string& path);
 void AddRecentWorkspace(const std::string& path);
-// Empty the lists, in the menus and in the store.
+// Empty a list in the menu and in the settings.
 void ClearRecentFiles();
 void ClearRecentProjects();
 
-// Reads all lists from the store and fills the menus, with full paths or names as gShowRecentFull says.
+// Reads all lists from the settings and fills the menus with full paths or names, as gShowRecentFull says.
 void LoadRecentFilesProjects();
-// Stores them, cut to gRecentFiles.
+// Stores all lists, each with at most gRecentFiles entries.
 void SaveRecentFilesProjects();
 
-// The path of an entry, from 0. For one that is gone nothing, after the question whether to forget it.
+// The path of an entry, index from 0. If the file is missing: nothing, after the user was asked whether to
+// remove the entry.
 std::optional<std::string> RecentFile(int item);
 std::optional<std::string> RecentProject(int item);
 std::optional<std::string> RecentWorkspace(int item);

@@ -1,4 +1,4 @@
-// A list of texts in a section of the settings store.
+// A list of texts in a section of the settings.
 #include "documents/StoredList.h"
 
 #include "host/Host.h"
@@ -6,9 +6,9 @@
 
 namespace {
 
-// No stored text, for it could not be typed or be a path.
+// Marks a missing key. No stored text holds a NUL byte.
 const std::string Missing("\0missing", 8);
-constexpr int LongestGap = 10; // keys in a row that somebody may have taken out by hand
+constexpr int LongestGap = 10; // successive keys that a user may have deleted by hand
 
 } // namespace
 

@@ -1,5 +1,4 @@
-// A workspace as text. Whoever doesn't know the block of views passes over it, as over any block it doesn't
-// know.
+// A workspace as text. Readers skip blocks that they do not know, so older versions skip the block of views.
 #include "documents/WorkspaceText.h"
 
 #include "documents/BlockText.h"
@@ -18,8 +17,8 @@ long Number(const std::string& text) {
     return error == std::errc() ? std::max(0L, number) : 0;
 }
 
-// Splits a line into its path and the rest from `next` on. The last place of that key counts, because a path
-// may hold anything, a double quote too.
+// Splits a line into its path and the rest from `next` on. The last occurrence of that key counts, because a
+// path may hold any character, even a double quote.
 bool SplitAtPath(const std::string& line, const char* next, std::string& path, std::string& rest) {
     constexpr const char* Start = " Path=\"";
     const std::size_t from = line.find(Start);
@@ -37,7 +36,7 @@ void ReadEntry(Workspace& workspace, const std::string& line) {
     std::string rest;
     if (!SplitAtPath(line, "Single", entry.path, rest)) return;
     const std::string single = BlockAttribute(rest, "Single");
-    if (single.empty()) return; // cut in the middle
+    if (single.empty()) return; // the line is truncated
     entry.single = IsBlockTrue(single);
     if (std::find(workspace.entries.begin(), workspace.entries.end(), entry) == workspace.entries.end())
         workspace.entries.push_back(std::move(entry));
@@ -55,7 +54,7 @@ void ReadView(Workspace& workspace, const std::string& line) {
     workspace.views.push_back(std::move(view));
 }
 
-// A line end would cut the path in two, and the rest of the file could be taken for something else.
+// A path with a line end would make the rest of the file ambiguous.
 bool FitsALine(const std::string& path) { return path.find_first_of("\r\n") == std::string::npos; }
 
 } // namespace
@@ -99,7 +98,7 @@ std::optional<Workspace> ReadWorkspaceText(const std::string& text) {
             if (head == "<Projects>") ReadEntry(workspace, lines[i]);
             if (head == "<Views>") ReadView(workspace, lines[i]);
         }
-        // The last block that every version has; one behind it that was begun must be ended too.
+        // Every version has this block last; a block of a newer version after it must be complete too.
         if (head == "<Projects>" || head == "<Views>") workspace.whole = i < lines.size();
     }
     workspace.version = BlockAttribute(settings, "Version");

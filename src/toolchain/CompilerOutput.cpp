@@ -1,5 +1,5 @@
-// The classifier of output lines. While the compiler is at work, lines that are no banner count 21 each, and
-// an error line between the first and the fourth ends the compile. Everything behind it is the program's own.
+// Reads the output of the compiler. Each of its lines, banners excepted, moves the progress bar; an error
+// line among the first four ends the compile. All later lines come from the program that was compiled.
 #include "toolchain/CompilerOutput.h"
 
 #include "documents/Mod_File.h"
@@ -33,18 +33,18 @@ void AppendOutput(const std::string& line) { gToolchainCalls.AppendOutput(line);
 
 struct ErrorLine {
     std::string file;
-    std::array<std::string, 6> fields; // as they stand between colons; the first is empty
+    std::array<std::string, 6> fields; // the texts between colons; the first one is empty
     int row = 0, column = 0;           // from 1
 };
 
-// Nothing when the text is no number.
+// Nothing if the text is not a number.
 std::optional<int> Number(const std::string& text) {
     int number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     return result.ec == std::errc() ? std::optional(number) : std::nullopt;
 }
 
-// Takes an error line apart. Nothing for a line without a quoted file in front, a line and a column.
+// Nothing for a line that does not begin with a quoted file, a row and a column.
 std::optional<ErrorLine> ReadErrorLine(const std::string& line) {
     const std::size_t second = line.find('"', 1);
     if (line.empty() || line[0] != '"' || second == std::string::npos) return std::nullopt;
@@ -60,7 +60,8 @@ std::optional<ErrorLine> ReadErrorLine(const std::string& line) {
     return error;
 }
 
-// The file of an error on disk; a relative name counts from the compiled file. Empty where there is none.
+// The path of the file of an error; a relative name starts from the folder of the source. Empty if it is
+// missing.
 std::string FindOnDisk(const ErrorLine& error, const CompilerJob& job) {
     const std::string named = CollapseSeparators(ToDisk(error.file));
     const bool absolute = named.starts_with('/') || job.file.empty();
@@ -68,11 +69,12 @@ std::string FindOnDisk(const ErrorLine& error, const CompilerJob& job) {
     return gHost.files->Kind(found) == PathKind::File ? found : std::string();
 }
 
-// Brings the document of an error to the front. Null when there is none and the user named none either.
+// Brings the document of an error to the front, and opens or asks for the file if necessary. Null if none
+// opened.
 frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
     DocumentWindow* window = gHost.dock->FindDocumentWindow(error.file);
     const std::string path = FindOnDisk(error, job);
-    // A document that was never saved is compiled from a copy of its text.
+    // The source is a copy if the document was never saved.
     if (!job.document.empty() && path == job.file)
         window = gHost.dock->FindDocumentWindow(job.document);
     else if (const frmDoc* open = window == nullptr ? Mod_File::DocumentOfPath(path) : nullptr)
@@ -88,7 +90,7 @@ frmDoc* ShowDocument(const ErrorLine& error, const CompilerJob& job) {
     return opened || ActiveForm() != before ? ActiveForm() : nullptr;
 }
 
-// How the message names the file: a single file that was compiled itself is not named.
+// The name of the file in the message; empty for a single file that was compiled itself.
 std::string ShownFile(const ErrorLine& error, const frmDoc* document, const CompilerJob& job) {
     if (document == nullptr) return error.file;
     const bool itself =
@@ -106,7 +108,7 @@ void ReportError(const ErrorLine& error, const std::string& file) {
                          gActiveCompiler->Name + " Compiling Error"});
 }
 
-// One child of a document's console runner. It lives as long as the runner listens to it.
+// Receives the output of one child. The console runner of the document owns it.
 class Listener {
 public:
     Listener(StdShell& shell, CompilerJob job, const std::string& label)
@@ -116,7 +118,7 @@ public:
         gToolchainCalls.ShowCompiling(label);
         SetValue(0);
     }
-    // A document that is closed takes its child along, and what tells of it.
+    // Closing a document kills its child, so the progress window has to close too.
     ~Listener() { EndCompile(); }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
@@ -159,12 +161,12 @@ private:
     }
     void EndCompile() {
         compiling_ = false;
-        if (shown != this) return; // another document's compile has the window
+        if (shown != this) return; // the window shows the compile of another document
         shown = nullptr;
         gToolchainCalls.CloseCompiling();
     }
 
-    inline static Listener* shown = nullptr; // the one that the progress window tells of
+    inline static Listener* shown = nullptr; // the one in the progress window
 
     StdShell& shell_;
     const CompilerJob job_;
@@ -194,7 +196,7 @@ void Mod_Compiler::ParseError(const std::string& line, const CompilerJob& job) {
         const frmDoc* document = ShowDocument(*error, job);
         const std::string file = ShownFile(*error, document, job);
         if (document == nullptr) return ReportError(*error, file);
-        Mod_Sci::EnsureVisible(error->row - 1); // it may lie in a closed fold
+        Mod_Sci::EnsureVisible(error->row - 1); // the line may be folded
         const auto start = Mod_Sci::PositionFromLine(error->row - 1);
         const auto caret = start + error->column - 1;
         Mod_Sci::GotoPos(caret);

@@ -1,4 +1,4 @@
-// What a started child prints, line by line: the compiler's progress and errors, and what the program prints
+// The output lines of a child process: progress and errors of the compiler, then the output of the program
 // that it runs.
 #pragma once
 
@@ -6,31 +6,31 @@
 
 class frmDoc;
 
-// What a child was started for.
+// The purpose of a child process.
 struct CompilerJob {
     enum class Kind { Run, Check, Build };
 
     Kind kind = Kind::Run;
-    std::string file;     // what the compiler was given
-    std::string document; // the key of the window that shows this file's text; empty for a project
-    std::string target;   // the executable that is built
+    std::string file;     // the source that the compiler reads
+    std::string document; // the key of the window with that source; empty for a project
+    std::string target;   // the executable to build
     bool compiles = true; // false: the child is a program that was built earlier
 };
 
 namespace CompilerOutput {
 
-// Takes the output of a document's console runner from now on, and shows `label` in the progress window.
+// Receives the output of a document's console runner from now on, and shows `label` in the progress window.
 void Listen(frmDoc& document, const CompilerJob& job, const std::string& label);
-// Ends what Listen began, for a child that could not be started.
+// Undoes Listen for a child that could not be started.
 void Forget(frmDoc& document);
-// Kills the child that the progress window tells of.
+// Kills the child of the progress window.
 void StopShown();
 
 } // namespace CompilerOutput
 
 namespace Mod_Compiler {
 
-// Reads one error line of the compiler, opens its file, selects the place and shows the message.
+// Reads an error line of the compiler, opens the file, selects the place of the error and shows the message.
 void ParseError(const std::string& line, const CompilerJob& job = {});
 
 } // namespace Mod_Compiler

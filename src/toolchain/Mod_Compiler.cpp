@@ -1,4 +1,4 @@
-// The common front of the compiler's commands: save, choose the file, find the compiler, start it.
+// The steps of a compile: save, choose the source, find the compiler, start it.
 #include "toolchain/Mod_Compiler.h"
 
 #include "documents/Mod_File.h"
@@ -33,7 +33,7 @@ namespace {
 
 constexpr int FailureObjectNotSet = 91;
 
-long lastCompiled = 0; // the serial number of the document behind gLastCompiledFile
+long lastCompiled = 0; // the serial number of the document of gLastCompiledFile
 
 using Job = CompilerJob::Kind;
 
@@ -41,7 +41,7 @@ void ShowExclamation(std::string text, std::string title = {}) {
     gHost.dialogs->Show({std::move(text), MessageIcon::Exclamation, std::move(title)});
 }
 
-// The file of a document that belongs to no project; nothing when a save was cancelled.
+// Saves a single file and sets `path` to the source. False if the save failed or was cancelled.
 bool SingleFileToCompile(Job job, std::string& path) {
     frmDoc& document = *ActiveForm();
     if (job != Job::Build && document.NewFile) {
@@ -49,7 +49,7 @@ bool SingleFileToCompile(Job job, std::string& path) {
         return Mod_File::WriteTextFile(path);
     }
     if ((document.Dirty || document.NewFile) && !Mod_File::SaveFile(&document)) return false;
-    // A new document has got its name only now.
+    // A new document has no path before it was saved.
     if (job == Job::Build || path.empty()) path = document.FullFilename;
     return true;
 }
@@ -62,14 +62,15 @@ bool ProjectFileToCompile(std::string& path) {
         return false;
     }
     Mod_File::SaveProjectFiles();
-    // What could not be saved would be compiled as it was before.
+    // The compiler would read the old version of a file that could not be saved.
     for (const auto& source : project.Sources)
         if (source.record->Dirty) return false;
     path = gHost.files->Find(CollapseSeparators(project.Path + ToDisk(main->AbsPath)));
     return true;
 }
 
-// The compiler's executable: a Windows one where it is there, else a native one; empty when neither is.
+// The executable of the compiler: the Windows one if it exists, else the native one; empty if both are
+// missing.
 std::string CompilerFile(const std::string& folder) {
     const std::string windows = gHost.files->Find(CollapseSeparators(folder + "/bin/blitzcc.exe"));
     if (gHost.files->Kind(windows) == PathKind::File) return windows;
@@ -108,7 +109,7 @@ void ShowProblem(const std::string& text) {
     ShowExclamation(text);
 }
 
-// A program with a console of its own. False, after a word in the Output pane, where there is no terminal.
+// Runs a program in a terminal of its own. False, after a line in the Output pane, if there is no terminal.
 bool RunInTerminal(const ProcessStart& start) {
     if (!gHost.processes->HasTerminal()) {
         AppendOutput("No terminal program was found: what runs is shown here.");
@@ -118,7 +119,7 @@ bool RunInTerminal(const ProcessStart& start) {
     return true;
 }
 
-// Starts a child whose output the document's runner captures; what is in the way is told.
+// Starts a child whose output the console runner of the document captures. Shows a message if that failed.
 void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& start) {
     constexpr const char* labels[] = {"Compiling program...", "Checking for errors...",
                                       "Creating executable..."};
@@ -136,7 +137,7 @@ void StartChild(frmDoc& document, const CompilerJob& job, const ProcessStart& st
 
 void SetNotice(const std::string& text) { gEditorCalls.SetNotice(text); }
 
-// A document runs one child at a time. True, after a word in the status bar, while one runs.
+// Whether the document runs a child already; says so in the status bar.
 bool ReportIfBusy(const frmDoc& document) {
     if (!document.ShellClass->Running()) return false;
     SetNotice("Process already running.");
@@ -176,7 +177,8 @@ void StartJob(Job job, const std::string& path, bool debug) {
     StartChild(document, {job, files->source, window, files->target}, start);
 }
 
-// Starts a job as the routine of that name. Always false: the result comes later, as output.
+// Starts a job; failures are reported under the name of the routine. Always false: the result arrives as
+// output.
 bool Start(const char* routine, Job job, const std::string& path, bool debug = false) {
     Guarded(routine, "Mod_Compiler", [&] { StartJob(job, path, debug); });
     return false;
@@ -207,7 +209,7 @@ bool CreateExe(const std::string& path) { return Start("CreateExe", Job::Build, 
 
 void CompileLast() {
     if (gHost.dock == nullptr) return;
-    // A document that was saved under another name since is still the one that was compiled.
+    // The document may have been saved under another name since it was compiled.
     frmDoc* document = DocumentOfSerial(lastCompiled);
     if (document == nullptr) document = Mod_File::DocumentOfPath(gLastCompiledFile);
     if (document != nullptr) BringToFront(*document);
@@ -220,7 +222,7 @@ void RunLastCreated() {
         ShowExclamation("File " + Options::gLastCreatedExe + " not found !");
         return;
     }
-    // A program finds its pictures and sounds beside itself.
+    // The program starts in its own folder, where its pictures and sounds are.
     const ProcessStart start{Quoted(Options::gLastCreatedExe), GetFolder(Options::gLastCreatedExe)};
     if (!gHost.processes->HasTerminal() && DocumentActive() && ReportIfBusy(*ActiveForm())) return;
     gToolchainCalls.ClearOutput();

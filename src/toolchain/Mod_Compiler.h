@@ -1,5 +1,4 @@
-// The compile driver: saves what must be saved, calls the compiler, reads what it prints and puts the
-// caret on its error.
+// The commands that compile and run: they save the files, start the compiler and show its output.
 #pragma once
 
 #include "toolchain/CompilerOutput.h"
@@ -11,19 +10,20 @@ namespace Mod_Compiler {
 // The path argument of the last Compile. Written by Compile alone.
 extern std::string gLastCompiledFile;
 
-// Each starts the compiler for the active document or project and answers false; output comes later.
+// Each starts the compiler for the active document or project and returns false: the result arrives as
+// output.
 bool Compile(const std::string& path, bool debug);
 bool CheckForErrors(const std::string& path);
 bool CreateExe(const std::string& path);
 
-// Has a compiler write its keyword file and loads it.
+// Lets a compiler write its keyword file and loads that file. Shows a message with the result.
 void RefreshDefinitions(const std::string& compilerName, const std::string& compilerPath);
 
-// Activates the document of the last compile and compiles it again.
+// Activates the document of the last Compile and compiles it again.
 void CompileLast();
-// Starts the executable that was built last.
+// Starts the executable that was built last (gLastCreatedExe).
 void RunLastCreated();
-// Kills the compiler or the program that the active document runs.
+// Kills the child process of the active document.
 void StopRunning();
 
 } // namespace Mod_Compiler

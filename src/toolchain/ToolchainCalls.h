@@ -1,4 +1,4 @@
-// What the compile driver asks of the windows that show its progress. Empty by default.
+// What the compile commands may ask of the windows that show their progress. Empty by default.
 #pragma once
 
 #include "host/Request.h"
