@@ -10,7 +10,8 @@ std::string Absolute(const std::string& argument, const std::string& startFolder
     const std::filesystem::path path = std::filesystem::path(startFolder) / argument;
     std::error_code error;
     if (!std::filesystem::exists(path, error)) return argument;
-    // A ".." behind a link leads out of the folder that the link names, so the disk is asked for the way.
+    // A ".." after a symbolic link leaves the folder that the link points to, so the path is resolved on
+    // disk.
     const auto folder = std::filesystem::canonical(path.parent_path(), error);
     const bool climbs = argument.find("..") != argument.npos && path.has_filename();
     return climbs && !error ? (folder / path.filename()).string() : path.lexically_normal().string();

@@ -4,6 +4,6 @@
 #include <string>
 #include <vector>
 
-// Joins arguments by blanks; one that holds a blank stands in double quotes. A name of something that is
-// there below `startFolder` becomes absolute, because another instance may read it from elsewhere.
+// Joins arguments with blanks; an argument with a blank is quoted. The name of a file that exists below
+// `startFolder` becomes absolute, because another instance may have another current folder.
 std::string JoinCommandLine(const std::vector<std::string>& arguments, const std::string& startFolder);

@@ -1,5 +1,5 @@
-// The ends that nobody asks for. A signal arrives between any two instructions, so its handler only writes a
-// byte; the event loop reads it.
+// Ends the program on signals. A signal may arrive between any two instructions, so its handler only writes a
+// byte, which the event loop reads.
 #include "app/EndSignals.h"
 
 #include "documents/Mod_Main.h"
@@ -31,7 +31,7 @@ void Catch(int signal) {
 
 void End() {
     Mod_Main::EndNow();
-    // Every nested event loop ends with this; who asked something takes it for a Cancel.
+    // Every nested event loop ends with this; open questions take it for Cancel.
     QCoreApplication::exit(0);
 }
 

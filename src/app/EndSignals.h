@@ -1,4 +1,4 @@
-// The ends that nobody asks for: signals, and the end of the user's session.
+// Ends the program on signals, and at the end of the user's session.
 #pragma once
 
 // From here on a signal that ends the process, or the end of the session, first writes what is remembered

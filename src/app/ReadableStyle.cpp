@@ -24,7 +24,7 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
     return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
 }
 
-// The colour, moved no further towards another one than is needed to stand out from `ground`.
+// Returns the colour, moved towards another one only as far as needed to contrast with `ground`.
 QColor Readable(const QColor& colour, const QColor& towards, const QColor& ground) {
     for (int step = 0; step < Steps; ++step) {
         const QColor moved = Mixed(towards, colour, static_cast<double>(step) / Steps);

@@ -4,10 +4,10 @@
 #include <QPalette>
 #include <QProxyStyle>
 
-// How far two colours stand apart: from 1, the same, to 21, black on white.
+// The contrast of two colours: from 1 (equal) to 21 (black on white).
 double Contrast(const QColor& one, const QColor& other);
 
-// Follows every change of the desktop's colours, because the toolkit asks the style for each new palette.
+// Called for each new palette, so that it follows every change of the desktop's colours.
 class ReadableStyle : public QProxyStyle {
 public:
     using QProxyStyle::polish;

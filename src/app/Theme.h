@@ -1,4 +1,4 @@
-// The icon theme, where the desktop names none that has what is asked for.
+// Chooses an icon theme if the desktop's theme lacks the needed icons.
 #pragma once
 
 // Chooses the fallback icons by how light the palette is, now and whenever the palette changes.

@@ -16,13 +16,13 @@ public:
     void Replace(const std::vector<LayoutCommand>& records);
     const std::vector<std::unique_ptr<QtCommand>>& All() const { return commands_; }
 
-    // Tells the owner that a command was chosen; a disabled one is not.
+    // Called when a command is chosen; never for a disabled one.
     void Fire(QtCommand& command, int item = -1) const;
     void FireByKey(QtCommand& command) const;
     // The enabled command of a key, null where there is none.
     QtCommand* OfKey(QKeyCombination key) const;
 
-    // The command that has a key, enabled or not; null where none has it.
+    // Returns the command with a key, enabled or not; null if no command has it.
     QtCommand* OwnerOf(QKeyCombination key) const;
 
     DockStudioEvents* events = nullptr; // written by the frame alone

@@ -5,8 +5,8 @@
 
 #include <QComboBox>
 
-// A combo box for a command. Picking or entering a text is told to the owner; a text that the program set
-// is only shown.
+// A combo box for a command. The owner is notified of text that the user selects or enters, not of text that
+// the program sets.
 class CommandCombo : public QComboBox {
     Q_OBJECT
 

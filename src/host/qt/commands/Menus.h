@@ -7,7 +7,7 @@
 
 class Menus {
 public:
-    // `windows` answers the captions of the open documents for the list of windows.
+    // `windows` returns the captions of the open documents for the list of windows.
     Menus(CommandTable& table, std::function<std::vector<std::string>()> windows)
         : table_(table), windows_(std::move(windows)) {}
 

@@ -105,7 +105,7 @@ void QtBar::FillToolBar() {
     ShowSeparators(*toolBar_);
 }
 
-// A separator stands only between two entries that are shown.
+// A separator is shown only between two visible entries.
 void QtBar::ShowSeparators(QToolBar& bar) {
     QAction* waiting = nullptr;
     bool any = false;
@@ -133,7 +133,7 @@ void QtBar::FillStatusBar() {
         QtCommand* command = table_.Find(entry.command);
         if (!command) continue;
         QWidget* widget = MakeStatusWidget(*command, &bar);
-        // The first pane takes the room that is left; the others stand at the right end.
+        // The first pane gets the remaining room; the others are at the right end.
         if (statusWidgets_.empty())
             bar.addWidget(widget, 1);
         else

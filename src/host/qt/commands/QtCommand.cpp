@@ -1,5 +1,5 @@
-// One named command. Its shortcut stands behind the caption as a text, because an action that owned the
-// key would take it away from every widget.
+// One named command. Its shortcut is shown after the caption as text, because an action with the shortcut
+// would take the key away from every widget.
 #include "host/qt/commands/QtCommand.h"
 
 #include "host/qt/system/QtText.h"

@@ -11,7 +11,7 @@
 #include <memory>
 
 struct MarkedText {
-    std::string left; // all of the text where nothing is marked
+    std::string left; // the whole text if no part is marked
     std::string hot;
     std::string right;
     int colour = 0;

@@ -1,5 +1,5 @@
-// The one filter in which shortcuts are matched. A shortcut that is cancelled goes on to the focused
-// widget, which the toolkit's own shortcuts cannot do.
+// The only filter that matches shortcuts. A cancelled shortcut continues to the focused widget, which the
+// toolkit's own shortcuts cannot do.
 #include "host/qt/commands/ShortcutFilter.h"
 
 #include <QAbstractSpinBox>
@@ -41,7 +41,7 @@ bool IsFieldKey(const QKeyEvent& event) {
 }
 
 bool KeyLag::IsLateRepeat(const QKeyEvent& event) {
-    if (event.timestamp() == 0) return false; // nobody says when it was made
+    if (event.timestamp() == 0) return false; // the event has no time
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     const qint64 lag = std::chrono::duration_cast<std::chrono::milliseconds>(now).count() -
                        static_cast<qint64>(event.timestamp());

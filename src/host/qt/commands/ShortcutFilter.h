@@ -8,8 +8,8 @@
 #include <QPointer>
 #include <optional>
 
-// Tells the repeats of a held key that come late: the program has fallen behind, and would run on after the
-// key was let go.
+// Detects late repeats of a held key: the program has fallen behind and would continue after the key is
+// released.
 class KeyLag {
 public:
     bool IsLateRepeat(const QKeyEvent& event);

@@ -32,7 +32,7 @@ void StatusText::Show(const QString& left, const QString& hot, const QString& ri
     update();
 }
 
-// The colour in a lightness that stands out from the bar.
+// Returns the colour with a lightness that contrasts with the bar.
 QColor StatusText::Readable() const {
     const bool dark = palette().color(backgroundRole()).lightness() < MiddleLightness;
     QColor colour = colour_;

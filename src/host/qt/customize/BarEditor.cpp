@@ -29,7 +29,7 @@ BarEditor::~BarEditor() {
         if (QWidget* bar = target_.WidgetOf(place.name)) bar->setAcceptDrops(false);
 }
 
-// The bar that a widget is or stands in, and its name; empty for a widget of something else.
+// Returns the name of the bar that a widget is or belongs to, and the bar itself; empty for any other widget.
 std::string BarEditor::PlaceOf(QObject* watched, QWidget*& bar) const {
     for (QObject* at = watched; at; at = at->parent()) {
         if (!qobject_cast<QToolBar*>(at) && !qobject_cast<QMenuBar*>(at)) continue;
@@ -132,7 +132,7 @@ bool BarEditor::Mouse(const std::string& place, QWidget* bar, QEvent& event) {
     return event.type() != QEvent::MouseMove || mouse.buttons() != Qt::NoButton;
 }
 
-// Pulled to another place the entry moves there; let go where nothing takes it, it goes.
+// An entry dragged to another place moves there; dropped outside every place, it is removed.
 void BarEditor::DragEntry(const std::string& place, int index, QWidget* bar) {
     const LayoutEntry entry = (*target_.EntriesOf(place))[static_cast<std::size_t>(index)];
     const QtCommand* command = target_.Table().Find(entry.command);
@@ -188,7 +188,7 @@ void BarEditor::Insert(const Spot& spot, const std::string& command) {
     const QtCommand* dropped = target_.Table().Find(command);
     if (!dropped) return;
     if (qobject_cast<QMenuBar*>(spot.bar) && !dropped->Menu()) {
-        // What is no menu goes into the menu on whose title it is dropped.
+        // An entry other than a menu goes into the menu on whose title it is dropped.
         const int title = EntryAt(place, spot.bar, spot.bar->mapFromGlobal(QCursor::pos()));
         if (title < 0) return;
         place = (*target_.EntriesOf(place))[static_cast<std::size_t>(title)].command;

@@ -22,11 +22,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // A bar or menu under the pointer and the index of the entry in front of which it is.
+    // The bar or menu under the pointer, and the index of the entry that the pointer is before.
     struct Spot {
         std::string place;
         int index = -1;
-        QRect line; // where a dropped command would stand, in the bar
+        QRect line; // where a dropped command would be inserted, in the bar
         QWidget* bar = nullptr;
     };
 
@@ -41,8 +41,8 @@ private:
     QRect RectOf(QWidget* bar, const LayoutEntry& entry) const;
 
     CustomizeTarget& target_;
-    QPointer<QWidget> line_; // shows where a dropped command would stand
-    std::string fromPlace_;  // where the dragged entry stands; empty for one from the list
+    QPointer<QWidget> line_; // shows where a dropped command would be inserted
+    std::string fromPlace_;  // the place of the dragged entry; empty for an entry of the list
     bool dropped_ = false;
     QPoint press_;
 };

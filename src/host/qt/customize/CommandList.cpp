@@ -17,7 +17,7 @@ namespace {
 
 enum Column { Name, Menu, Keys, Columns };
 
-constexpr QChar Into(0x25B8); // stands between a menu and one within it
+constexpr QChar Into(0x25B8); // separates a menu from a menu within it
 
 // A list whose items are dragged as commands.
 class Tree : public QTreeWidget {
@@ -29,7 +29,7 @@ protected:
         mime->setData(CommandMime, items.front()->data(Name, Qt::UserRole).toString().toUtf8());
         return mime;
     }
-    // The name alone is dragged, beside the pointer: a picture of the row would cover where it goes.
+    // Only the name is dragged, beside the pointer: a picture of the whole row would cover the target.
     void startDrag(Qt::DropActions) override {
         QMimeData* mime = currentItem() ? mimeData({currentItem()}) : nullptr;
         if (!mime) return;
@@ -87,7 +87,7 @@ CommandList::CommandList(CustomizeTarget& target, QWidget* parent)
     Reload();
 }
 
-// The first menu in which a command stands, with the menus round it.
+// Returns the first menu with a command, preceded by the menus that contain this menu.
 void CommandList::FindMenus(const std::string& place, const QString& path,
                             std::map<std::string, QString>& menus) {
     const LayoutEntries* entries = target_.EntriesOf(place);

@@ -1,5 +1,5 @@
-// All commands with their keys and the menus that they stand in, narrowed by words and by menu. A command can
-// be dragged out of it.
+// All commands with their keys and menus, filtered by words and by menu. A command can be dragged out of the
+// list.
 #pragma once
 
 #include "host/qt/customize/CustomizeTarget.h"
@@ -15,7 +15,7 @@ class CommandList : public QWidget {
 public:
     CommandList(CustomizeTarget& target, QWidget* parent);
 
-    // Null where none is selected.
+    // Returns null if no command is selected.
     QtCommand* Selected() const;
     void Select(const std::string& name);
     // Shows the keys as they are now, or after a new arrangement the commands as well.

@@ -33,9 +33,9 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(parts, 1);
     column->addWidget(buttons);
-    // Tab comes into the box at its first button, and would pass over what stands behind in the order.
+    // Tab enters the button box at its first button and would skip the widgets after it in the order.
     setTabOrder(revert, buttons->button(QDialogButtonBox::Close));
-    // Enter belongs to the fields and lists, not to a button that happens to stand first.
+    // The fields and lists use Enter themselves, so no button is the default.
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);
     resize(wanted.boundedTo(parent->screen()->availableSize() - QSize(Border, Border)));

@@ -22,10 +22,10 @@ public:
     virtual LayoutEntries* EntriesOf(const std::string& place) = 0;
     // Shows the entries of a place after they changed.
     virtual void EntriesChanged(const std::string& place) = 0;
-    // Makes an empty tool bar and answers its name, which is unique.
+    // Creates an empty tool bar and returns its unique name.
     virtual std::string AddBar(const QString& caption) = 0;
     virtual void RemoveBar(const std::string& name) = 0;
-    // What the factory's arrangement says of a command; null where it doesn't know it.
+    // Returns the command's entry in the factory's arrangement; null if there is none.
     virtual const LayoutCommand* Factory(const std::string& command) const = 0;
     // Puts everything back as it was when customising began.
     virtual void Revert() = 0;

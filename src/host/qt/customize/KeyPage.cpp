@@ -168,7 +168,7 @@ void KeyPage::Remove() {
     emit KeysChanged();
 }
 
-// A key that stands with another command by now moves back.
+// Takes the key back from the command that has it now.
 void KeyPage::PutBack() {
     const LayoutCommand* record = command_ ? target_.Factory(command_->Name()) : nullptr;
     if (!record) return;

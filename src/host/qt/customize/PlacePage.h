@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <functional>
 
-// The entries in their order. What is dropped is told, and the list itself is filled anew.
+// The entries in order. A drop is reported to the owner, which fills the list again.
 class EntryList : public QListWidget {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit EntryList(QWidget* parent = nullptr);
 
 signals:
-    // `row`: in front of which entry.
+    // `row` is the entry to insert before.
     void CommandDropped(const QString& command, int row);
     void EntryMoved(int from, int row);
 
@@ -35,7 +35,7 @@ class PlacePage : public QWidget {
     Q_OBJECT
 
 public:
-    // `selected` answers the command that is selected in the list of commands, null for none.
+    // `selected` returns the command selected in the command list, null for none.
     PlacePage(CustomizeTarget& target, std::function<QtCommand*()> selected, QWidget* parent);
 
     // Fills the page anew after places or entries changed from outside.

@@ -74,7 +74,7 @@ private:
     const LayoutCommand* Factory(const std::string& command) const override;
     void Revert() override;
     QWidget* WidgetOf(const std::string& place) override;
-    // An arrangement that comes or goes as a whole is none that is being changed.
+    // True while an arrangement is loaded or saved as a whole, which does not count as a change of it.
     void EndCustomizing();
 
     QtBar* Bar(const std::string& name);

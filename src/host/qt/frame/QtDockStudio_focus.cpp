@@ -7,7 +7,7 @@
 
 namespace {
 
-// What Tab reaches in a tool bar: boxes, but not the buttons, whose commands stand in menus.
+// Tab reaches the boxes of a tool bar but not its buttons, whose commands are in menus.
 std::vector<QWidget*> BoxesOf(const QToolBar& bar) {
     std::vector<QWidget*> boxes;
     for (QAction* action : bar.actions()) {

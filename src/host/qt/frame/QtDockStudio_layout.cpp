@@ -17,7 +17,8 @@ enum : int { Normal = 0, Minimised = 1, Maximised = 2 };
 }
 
 void QtDockStudio::LoadLayout(const std::string& path) {
-    // Also where it cannot be read: then its text comes from elsewhere, and no later file takes its place.
+    // Set before the file is read: if that fails the text comes from elsewhere, and a later file must not
+    // replace it.
     if (factoryPath_.empty()) factoryPath_ = path;
     Layout layout = ParseLayout(QtFiles().Read(path));
     EndCustomizing();
@@ -46,7 +47,7 @@ Layout QtDockStudio::Present() {
 }
 
 void QtDockStudio::Apply(const Layout& layout) {
-    // Whoever stopped the painting before is also the one to let it go on.
+    // If painting was already stopped, the code that stopped it also resumes it.
     const bool paints = window_.updatesEnabled();
     SetPainting(window_, false);
     window_.menuBar()->clear();
@@ -113,9 +114,8 @@ void QtDockStudio::RestoreSizes() {
     area_->RestoreSizes(documents_);
 }
 
-// The desktop gives the window its size some time after it was asked for, and each change of the size scales
-// panes and groups. So for a moment each new size gives the loaded arrangement's sizes again, once the
-// toolkit is done with that change: in the middle of it, it still looks at what a record replaces.
+// The desktop resizes the window some time after the request, and each resize scales panes and groups. For a
+// moment the loaded sizes are therefore restored after each resize, once the toolkit has finished it.
 void QtDockStudio::Settle() {
     constexpr int Milliseconds = 1500;
     if (settling_.isValid() && settling_.elapsed() < Milliseconds) settle_.start();
@@ -142,7 +142,7 @@ WindowPlace QtDockStudio::Place() {
 }
 
 void QtDockStudio::SetPlace(const WindowPlace& place) {
-    // What a maximised window is told of its normal size is lost on some desktops.
+    // Some desktops ignore the normal size set on a maximised window.
     if (place.state == Normal && window_.isVisible() && window_.isMaximized()) window_.showNormal();
     const WindowPlace now = Place();
     // A maximised window that is moved falls back to its normal size on some desktops.

@@ -1,4 +1,4 @@
-// The main window itself: it asks before it closes, and takes dropped files.
+// The main window itself: asks its owner before it closes, and accepts dropped files.
 #include "host/qt/frame/StudioWindow.h"
 
 #include "host/Paths.h"

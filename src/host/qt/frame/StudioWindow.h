@@ -1,4 +1,4 @@
-// The main window itself: it asks before it closes, and takes dropped files.
+// The main window itself: asks its owner before it closes, and accepts dropped files.
 #pragma once
 
 #include <QMainWindow>

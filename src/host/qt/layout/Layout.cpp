@@ -1,5 +1,5 @@
-// Arrangements as JSON. A file is checked as a whole before anything of it is used, so that a damaged one
-// cannot leave half a window behind.
+// Arrangements as JSON. A file is checked completely before any of it is used, so that a damaged file cannot
+// leave half a window.
 #include "host/qt/layout/Layout.h"
 
 #include "host/Failure.h"
@@ -51,7 +51,7 @@ QString NameOf(const std::pair<const char*, Kind> (&names)[Count], Kind kind) {
 
 QString FromUtf8(const std::string& text) { return QString::fromStdString(text); }
 
-// "-" in front of a name begins a group.
+// A "-" before a name begins a group.
 LayoutEntries ReadEntries(const QJsonValue& value) {
     LayoutEntries entries;
     bool beginGroup = false;

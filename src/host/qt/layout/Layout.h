@@ -1,4 +1,4 @@
-// An arrangement of the main window as it stands in a layout file: commands, bars, panes and where they are.
+// An arrangement of the main window as in a layout file: commands, bars, panes and their places.
 #pragma once
 
 #include "host/qt/layout/LayoutDocuments.h"
@@ -51,7 +51,7 @@ struct LayoutPane {
     std::string icon = {};
     std::string area = "bottom"; // left, right, top or bottom
     bool visible = true;
-    std::string tabbedWith = {}; // a pane of the same area onto which it stands as a tab
+    std::string tabbedWith = {}; // a pane of the same area that it shares a tab bar with
     bool autoHidden = false;     // rolled away to the edge of its area
     int extent = 0;              // pixels that it takes of the window; 0: as it needs
     bool operator==(const LayoutPane&) const = default;
@@ -72,7 +72,7 @@ struct Layout {
 Layout ParseLayout(std::string_view bytes);
 std::string WriteLayout(const Layout& layout);
 
-// The commands that stand in a bar or a pop-up, each once.
+// Returns the commands of a bar or pop-up, each once.
 std::vector<std::string> PlacedCommands(const Layout& layout);
 // Adds to a stored arrangement what the factory's has and it does not know: commands, bars and panes that
 // are newer than the file. So an arrangement of an older version of the program keeps working, and what the

@@ -1,4 +1,4 @@
-// Where the document windows stand, as JSON.
+// The places of the document windows, as JSON.
 #include "host/qt/layout/LayoutDocuments.h"
 
 #include "host/Failure.h"

@@ -1,4 +1,4 @@
-// Where the document windows stand: the part of an arrangement that divides the document area.
+// The places of the document windows: the part of an arrangement that divides the document area.
 #pragma once
 
 #include <string>
@@ -14,17 +14,17 @@ struct LayoutWindow {
 
 // A group of tabs, or a division of the area into several parts.
 struct LayoutArea {
-    bool rows = false;           // the parts stand one above the other, else side by side
+    bool rows = false;           // the parts are one above the other, else side by side
     std::vector<int> sizes = {}; // pixels, of the parts
     std::vector<LayoutArea> parts = {};
     std::vector<LayoutWindow> windows = {}; // of a group
-    int front = 0;                          // index of the window that is in front of its group
+    int front = 0;                          // index of the visible window of its group
     bool operator==(const LayoutArea&) const = default;
 };
 
 struct LayoutDocuments {
     LayoutArea area;
-    std::string active = {}; // key; empty where no window is the active one
+    std::string active = {}; // key; empty if no window is active
     bool operator==(const LayoutDocuments&) const = default;
 };
 

@@ -13,7 +13,7 @@ Record* Named(std::vector<Record>& records, const std::string& name) {
     return at == records.end() ? nullptr : &*at;
 }
 
-// Adds the factory's entries that the stored arrangement was never offered, each behind its neighbour.
+// Adds the factory's entries that the stored arrangement was never offered, each after its neighbour.
 void AddEntries(const LayoutEntries& present, LayoutEntries& stored, const std::set<std::string>& offered) {
     for (auto entry = present.begin(); entry != present.end(); ++entry) {
         if (offered.count(entry->command) != 0) continue;

@@ -5,7 +5,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
-// A tab of the strip. On the left and right edge it stands upright.
+// A tab of the strip; vertical on the left and right edge.
 class EdgeTab : public QToolButton {
     Q_OBJECT
 

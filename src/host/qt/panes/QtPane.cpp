@@ -157,7 +157,7 @@ void QtPane::RollBack() {
 bool QtPane::Visible() const {
     if (rolled_) return true;
     if (dock_->isHidden()) return false;
-    // Behind another tab it counts as not visible, so that a toggle brings it to the front.
+    // A pane hidden by another tab counts as invisible, so that a toggle brings it to the front.
     return !window_.isVisible() || !dock_->visibleRegion().isEmpty();
 }
 
@@ -205,7 +205,7 @@ void QtPane::MoveTo(Qt::DockWidgetArea area) {
     Show();
 }
 
-// In the middle of the window: where it stood docked it would look docked.
+// A floating pane appears in the middle of the window: at its docked place it would look docked.
 void QtPane::Float() {
     // On its way it would give the focus to the pane that comes next.
     if (HasFocus()) owner_.leave();
@@ -239,7 +239,7 @@ void QtPane::ShowMenu(const QPoint& global) {
     menu.exec(global);
 }
 
-// The toolkit tells nothing of a pane that is being dragged: it has begun once the pressed title has moved.
+// The toolkit does not report a pane being dragged: the drag begins once the pressed title has moved.
 bool QtPane::eventFilter(QObject* watched, QEvent* event) {
     // With a title of its own the toolkit leaves a floating pane without its frame.
     if (watched == dock_ && event->type() == QEvent::Paint && dock_->isFloating()) {

@@ -14,7 +14,7 @@
 #include <map>
 #include <memory>
 
-// What a pane tells, and what it needs of the window.
+// What a pane reports, and what it needs of the window.
 struct PaneOwner {
     std::function<void(const std::string& pane, bool shown)> shown;
     std::function<void(const std::string& pane, bool begins)> dragged;
@@ -41,7 +41,7 @@ public:
     void Attach(Form& form, const std::string& caption, const std::string& icon);
     const std::string& Name() const { return record_.name; }
     const std::string& Caption() const { return record_.caption; }
-    // Shown at all, be it behind another tab or rolled away.
+    // True if the pane is open, even under another tab or rolled away.
     bool Present() const { return rolled_ || !dock_->isHidden(); }
     // Shown or hidden as a check mark says.
     void SetPresent(bool present) { present ? Show() : Hide(); }

@@ -107,7 +107,7 @@ QRect RolledPane::PlaceOut() const {
     }
 }
 
-// Behind its strip, which stands above it.
+// The pane is below its strip in the stacking order.
 QPoint RolledPane::PlaceIn() const {
     const QRect out = PlaceOut();
     switch (Edge()) {

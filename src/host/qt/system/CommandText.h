@@ -10,6 +10,6 @@
 // The arguments of a command: divided by blanks and tabs, with double quotes holding blanks together.
 std::vector<std::string> SplitCommand(std::string_view command);
 
-// Makes arguments startable: the program by its absolute path, looked up in PATH where it has no folder,
-// and a Windows executable handed to wine. Answers what is in the way, empty when nothing is.
+// Makes arguments startable: finds the program in PATH if it has no folder, makes its path absolute, and runs
+// a Windows executable with wine. Returns the obstacle, empty if there is none.
 SystemError PrepareCommand(std::vector<std::string>& arguments);

@@ -1,4 +1,4 @@
-// Lock files that nobody is known to have left.
+// Lock files whose owner no longer exists.
 #include "host/qt/system/OrphanedLock.h"
 
 #include <QFile>

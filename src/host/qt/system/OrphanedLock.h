@@ -1,4 +1,4 @@
-// Lock files that nobody is known to have left.
+// Lock files whose owner no longer exists.
 #pragma once
 
 class QString;

@@ -4,8 +4,8 @@
 #include <QDockWidget>
 #include <QMainWindow>
 
-// A pane that comes to float while painting is stopped takes the stop with it, and as a window of its own
-// would not hear of the end.
+// Resumes painting of a pane that was detached while painting was stopped: as a window of its own it is not
+// reached when the main window resumes.
 inline void SetPainting(QMainWindow& window, bool paints) {
     window.setUpdatesEnabled(paints);
     if (!paints) return;

@@ -26,7 +26,7 @@ QMainWindow* MainWindow() {
     return nullptr;
 }
 
-// The physical state where the platform can tell it, else that of the last event.
+// Returns the physical state if the platform reports it, else the state at the last event.
 bool KeyDown(Qt::KeyboardModifier key) {
     if (QGuiApplication::platformName() == "xcb") return QGuiApplication::queryKeyboardModifiers() & key;
     return QGuiApplication::keyboardModifiers() & key;

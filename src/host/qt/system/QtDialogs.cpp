@@ -15,8 +15,8 @@
 
 namespace {
 
-// The window that a question stands over. Whoever froze its painting gets on without: a question over a
-// window that shows nothing would frighten people.
+// Returns the window for a question and resumes its painting, because a question over an empty window would
+// frighten people.
 QWidget* Parent() {
     for (QWidget* window : QApplication::topLevelWidgets())
         if (!window->updatesEnabled()) window->setUpdatesEnabled(true);
@@ -59,7 +59,8 @@ QMessageBox::StandardButton DefaultButton(const Message& message) {
     return asksYes ? QMessageBox::Yes : QMessageBox::Ok;
 }
 
-// Where a file dialog starts: its folder, or where the last one ended, with the name in its box.
+// Returns the folder in which a file dialog starts (given, or that of the last dialog), with the name for its
+// box.
 QString StartPath(const FileQuestion& question, const QString& lastFolder) {
     const QString name = PathText(question.fileName);
     if (QFileInfo(name).isAbsolute()) return name;

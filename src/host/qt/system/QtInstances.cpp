@@ -1,4 +1,4 @@
-// The single instance of a user: a lock file tells who is first, a local socket carries one text.
+// The single instance of a user: a lock file decides who is first, a local socket transfers one text.
 #include "host/qt/system/QtInstances.h"
 
 #include "host/qt/system/OrphanedLock.h"
@@ -61,7 +61,7 @@ std::string QtInstances::Publish(std::function<void(const std::string&)> receive
     Withdraw();
     const QString id = QString::number(QCoreApplication::applicationPid());
     const QString path = folder_ + '/' + id + ".socket";
-    // Nobody else has this process id, so a socket of that name was left by a process that is gone.
+    // The name contains this process id, so an existing socket was left by an ended process.
     QLocalServer::removeServer(path);
     server_ = std::make_unique<QLocalServer>();
     server_->setSocketOptions(QLocalServer::UserAccessOption);
@@ -90,8 +90,8 @@ bool QtInstances::Send(const std::string& handle, const std::string& text) {
 
 void QtInstances::Withdraw() {
     if (!server_) return;
-    QFile::remove(server_->fullServerName()); // nobody finds it any more
-    // Whoever was quicker takes his text for delivered.
+    QFile::remove(server_->fullServerName()); // no other instance finds the socket from here on
+    // A text that arrived before counts as delivered for its sender, so it is handled.
     for (bool nobody = false; server_->isListening() && !nobody;) server_->waitForNewConnection(0, &nobody);
     for (QLocalSocket* socket : server_->findChildren<QLocalSocket*>())
         if (socket->state() == QLocalSocket::ConnectedState)

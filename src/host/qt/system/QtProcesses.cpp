@@ -1,4 +1,4 @@
-// Child processes of this host: started here, polled by whoever started them.
+// Child processes of this host: started here, polled by their owner.
 #include "host/qt/system/QtProcesses.h"
 
 #include "host/Outside.h"
@@ -98,7 +98,7 @@ SystemError QtProcesses::StartInTerminal(const ProcessStart& start) {
     return Release(request);
 }
 
-// Starts what nobody waits for.
+// Starts a process that nobody waits for.
 SystemError QtProcesses::Release(SpawnRequest request) {
     request.output = STDOUT_FILENO;
     request.error = STDERR_FILENO;

@@ -28,7 +28,7 @@ bool Readable(const QString& path) {
     return probe.status() == QSettings::NoError;
 }
 
-// A free name behind the old one. Empty when the file would not move.
+// Moves the file to a free name derived from its own. Returns that name, empty if the move failed.
 QString PutAside(const QString& path) {
     for (int number = 1; number < 1000; ++number) {
         const QString aside = path + ".damaged-" + QString::number(number);
@@ -66,7 +66,7 @@ QtSettingsStore::QtSettingsStore(const std::string& path, const Notice& notice) 
 
 QtSettingsStore::~QtSettingsStore() = default;
 
-// What somebody wrote into the file by hand stands there in any case; what the program writes is folded.
+// Keys written by hand may have any case, so they are mapped to the folded keys that the program writes.
 void QtSettingsStore::FindOtherSpellings() {
     for (const QString& key : settings_->allKeys())
         if (const QString folded = Folded(Typed(key.section('/', 0, 0)), Typed(key.section('/', 1)));

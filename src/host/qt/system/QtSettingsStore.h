@@ -29,5 +29,5 @@ private:
     QString KeyFor(const QString& folded) const;
 
     std::unique_ptr<QSettings> settings_;
-    std::map<QString, QString> asWritten_; // the folded key of one that stands in the file otherwise
+    std::map<QString, QString> asWritten_; // maps a folded key to the key as spelled in the file
 };

@@ -1,5 +1,5 @@
-// Two ways to replace a file. The usual one writes a new file beside it and renames it over the old one.
-// Where the old file carries what a rename would lose, it is overwritten in place behind a copy of it.
+// Two ways to replace a file: usually a new file beside it is renamed over it. If a rename would lose
+// attributes of the old file, it is overwritten in place after a backup copy.
 #include "host/qt/system/SafeWrite.h"
 
 #include "host/Failure.h"
@@ -102,7 +102,7 @@ void WriteInPlace(const std::string& path, std::string_view bytes, off_t oldSize
     unlink(backup.c_str());
 }
 
-// The mode that a new file gets, which only asking for it by changing it can tell.
+// Returns the mode of a new file. The process mask can only be read by changing it.
 mode_t NewFileMode() {
     const mode_t mask = umask(0);
     umask(mask);

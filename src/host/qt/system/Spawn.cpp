@@ -16,7 +16,7 @@ namespace {
 
 constexpr int LowPriority = 10;
 
-// Puts one end in its place. A descriptor that stands there already only loses its close-on-exec mark.
+// Puts a descriptor in its place. If it is there already it only loses its close-on-exec flag.
 bool PutEnd(int from, int place, int nullDevice) {
     if (from < 0) from = nullDevice;
     return from == place ? fcntl(from, F_SETFD, 0) == 0 : dup2(from, place) >= 0;

@@ -10,7 +10,7 @@
 struct SpawnRequest {
     std::vector<std::string> arguments; // the first is the program's path
     std::string directory;              // empty: the present one
-    int input = -1;                     // the child's three ends; -1 stands for the null device
+    int input = -1;                     // the child's three standard streams; -1 means the null device
     int output = -1;
     int error = -1;
     bool lowPriority = true;

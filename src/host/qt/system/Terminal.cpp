@@ -1,4 +1,4 @@
-// Terminal programs differ in how they are told what to run.
+// Terminal programs, which differ in how they receive a command.
 #include "host/qt/system/Terminal.h"
 
 #include "host/qt/system/CommandText.h"
@@ -12,7 +12,7 @@ namespace {
 
 struct TerminalRow {
     const char* name;
-    const char* option; // stands before the command; empty for none
+    const char* option; // precedes the command; empty for none
 };
 
 // In the order in which they are tried. What is not named here takes "-e", as xterm does.

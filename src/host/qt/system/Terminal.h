@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-// The terminal program of this desktop with the arguments that come before a command; empty where there is
-// none. $TERMINAL goes first.
+// Returns the desktop's terminal program with the arguments before a command; empty if there is none.
+// $TERMINAL has priority.
 std::vector<std::string> FindTerminal();
 
-// `arguments` run in that terminal, which stays open behind their end until Enter is pressed.
+// Returns a command that runs `arguments` in that terminal and waits for Enter afterwards.
 std::vector<std::string> InTerminal(std::vector<std::string> terminal,
                                     const std::vector<std::string>& arguments);

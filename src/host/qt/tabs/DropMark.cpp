@@ -1,4 +1,4 @@
-// Shows where a dragged tab would go.
+// Shows where a dragged tab would be dropped.
 #include "host/qt/tabs/DropMark.h"
 
 #include <QPainter>

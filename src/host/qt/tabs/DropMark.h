@@ -1,4 +1,4 @@
-// Shows where a dragged tab would go: a tinted rectangle over the document area.
+// Shows where a dragged tab would be dropped: a tinted rectangle over the document area.
 #pragma once
 
 #include <QWidget>

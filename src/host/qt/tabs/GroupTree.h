@@ -15,15 +15,15 @@ public:
 
     // All groups in reading order.
     std::vector<TabGroup*> Groups() const;
-    // Puts a group before or behind an old one; the two share its room. Without an old one it takes all of
-    // it.
+    // Inserts a group before or after an old one, with which it shares the room. Without an old one it gets
+    // all of it.
     void Add(TabGroup* group, TabGroup* old, Qt::Orientation direction, bool before);
     // Takes a group out; its neighbours get its room. The caller deletes it.
     void Remove(TabGroup* group);
 
-    // `record` fills in what stands in one group.
+    // `record` fills in the contents of one group.
     LayoutArea Record(const std::function<LayoutArea(TabGroup&)>& record) const;
-    // Builds the divisions anew, which must be empty. `make` answers the group of a record, null for none.
+    // Builds the divisions of an empty tree. `make` returns the group of a record, null for none.
     void Restore(const LayoutArea& area, const std::function<TabGroup*(const LayoutArea&)>& make);
     // Gives the parts the sizes of a record that has the same divisions; another record changes nothing.
     void SetSizes(const LayoutArea& area);

@@ -33,8 +33,8 @@ QtDocumentArea::QtDocumentArea(QWidget* parent)
 
 QtDocumentArea::~QtDocumentArea() {
     events = nullptr;
-    // While a window goes its group shows another one, which must not be looked for among those that are
-    // gone.
+    // When a window is removed its group shows another one, which must not be looked up in the list being
+    // changed.
     arranging_ = true;
     const auto windows = std::exchange(windows_, {});
 }
@@ -159,7 +159,7 @@ void QtDocumentArea::Drop(DocumentWindow& window) {
     TabGroup* group = (*at)->Group();
     TakeOut(**at);
     (*at)->Attach(nullptr);
-    // Whoever asked for this may still be looking at the window.
+    // Deleted later, because the caller may still use the window.
     at->release()->deleteLater();
     windows_.erase(at);
     if (group) RemoveIfEmpty(group);

@@ -19,7 +19,7 @@ public:
     explicit QtDocumentArea(QWidget* parent = nullptr);
     ~QtDocumentArea() override;
 
-    // Null where no window has that key.
+    // Returns null if no window has that key.
     QtDocumentWindow* Find(const std::string& key) const;
     QtDocumentWindow& Add(const std::string& key, const std::string& caption, Form* form);
     QtDocumentWindow* Active() const { return active_; }
@@ -31,17 +31,17 @@ public:
     void Hide(QtDocumentWindow& window) override;
     void Activate(QtDocumentWindow& window) override;
     void NextTab(int step);
-    // Gives the focus to the active document, or to what stands where there is none.
+    // Focuses the active document, or the start page if there is none.
     void FocusActive();
 
     // Moves the active window into a new group, beside its own one or below it.
     void NewTabGroup(bool vertical);
     // Moves the active window into the next group in reading order, or the one before.
     void MoveToGroup(int step);
-    // Where every window stands.
+    // Returns the places of all windows.
     LayoutDocuments Record() const;
-    // Puts the windows where a record has them. One that it doesn't know joins the first group; with `create`
-    // one that isn't there is made, without a form.
+    // Moves the windows to their places in a record. An unknown window joins the first group; `create` makes
+    // missing windows, without a form.
     void Restore(const LayoutDocuments& documents, bool create);
     // Gives the groups the sizes of a record, where they are divided as it says.
     void RestoreSizes(const LayoutDocuments& documents);
@@ -55,7 +55,7 @@ signals:
     void Changed();
 
 private:
-    // Where a dragged tab would go.
+    // The place at which a dragged tab would be dropped.
     struct Target {
         TabGroup* group = nullptr; // null: nowhere
         bool split = false;        // into a new group at a side of it

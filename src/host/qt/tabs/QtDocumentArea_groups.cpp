@@ -58,7 +58,7 @@ void QtDocumentArea::NewTabGroup(bool vertical) {
     {
         const QScopedValueRollback<bool> guard(arranging_, true);
         TabGroup* group = NewGroup();
-        // A vertical group stands beside the old one, a horizontal one below it.
+        // A vertical group is beside the old one, a horizontal one below it.
         tree_->Add(group, old, vertical ? Qt::Horizontal : Qt::Vertical, false);
         AddToGroup(*window, group, -1);
     }
@@ -136,7 +136,7 @@ void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
     }
     ShowRightPage();
     ShowActive();
-    // Whoever works in a document goes on there; a workspace says itself which one is meant.
+    // The active document stays active, except that a workspace names the one to activate.
     QtDocumentWindow* window = active_ && !create ? active_ : Find(documents.active);
     if (window && window->Group())
         Activate(*window);
@@ -209,7 +209,7 @@ QtDocumentArea::Target QtDocumentArea::TargetAt(QWidget* page, const QPoint& glo
         else
             target =
                 IntoPage(group, at, group->rect().adjusted(0, barHeight, 0, 0), !own || group->count() > 1);
-        // The middle of its own group is where it already is.
+        // In the middle of its own group a tab is already at its place.
         if (own && !target.split && at.y() >= barHeight) return {};
         target.mark.translate(group->mapTo(this, QPoint()));
         return target;
@@ -228,7 +228,7 @@ void QtDocumentArea::DropAt(QWidget* page, const QPoint& global) {
             group = NewGroup();
             tree_->Add(group, target.group, target.direction, target.before);
         }
-        // Taking it out of its own bar moves the places behind it.
+        // Removing the tab from its own bar shifts the places after it.
         const int own = group->indexOf(page);
         if (own >= 0 && target.index > own) --target.index;
         AddToGroup(*window, group, target.index);

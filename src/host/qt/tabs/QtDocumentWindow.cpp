@@ -41,7 +41,7 @@ void QtDocumentWindow::ShowCaption() {
     if (!group) return;
     const int index = group->indexOf(page_);
     group->setTabText(index, Shown(caption_).replace('&', "&&"));
-    // A window that stands for no file has a key that means nothing to a person.
+    // A window without a file has a key that means nothing to a person.
     group->setTabToolTip(index, Shown(key_.empty() || key_.front() == '{' ? caption_ : key_));
     area_.CaptionsChanged();
 }

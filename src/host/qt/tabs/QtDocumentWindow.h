@@ -11,7 +11,7 @@
 class QtDocumentWindow;
 class TabGroup;
 
-// The area that a document window stands in, as the window sees it.
+// The area of a document window, as the window sees it.
 class DocumentWindowOwner {
 public:
     virtual ~DocumentWindowOwner() = default;
@@ -22,7 +22,7 @@ public:
     virtual void CaptionsChanged() = 0;
 
     DockStudioEvents* events = nullptr; // written by the frame alone
-    // Where (on the screen) the context menu belongs that is being asked for.
+    // The place (on the screen) of the requested context menu.
     std::optional<QPoint> menuPlace;
 };
 
@@ -43,7 +43,7 @@ public:
 
     const std::string& Caption() const { return caption_; }
     QWidget* Page() const { return page_; }
-    // The group of tabs that it stands in; null while it is hidden.
+    // Returns its group of tabs; null while it is hidden.
     TabGroup* Group() const;
     // Puts caption and tool tip on its tab.
     void ShowCaption();

@@ -58,7 +58,7 @@ private:
     int index_;
 };
 
-// Its tabs come first, then the buttons that stand in it.
+// The tabs come first, then the buttons of the bar.
 class TabBar : public QAccessibleWidget {
 public:
     explicit TabBar(QTabBar& bar) : QAccessibleWidget(&bar, QAccessible::PageTabList), bar_(bar) {}

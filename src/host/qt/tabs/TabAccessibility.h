@@ -1,5 +1,5 @@
 // Tabs for assistive technology.
 #pragma once
 
-// From here on a tab says that it is the one in front, which the toolkit's own does not. May be called again.
+// Makes tabs report which one is selected, which the toolkit's own objects do not. May be called again.
 void InstallTabAccessibility();

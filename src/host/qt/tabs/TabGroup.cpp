@@ -17,7 +17,7 @@ constexpr int LeaveDistance = 12; // pixels beyond the bar at which a tab comes 
 }
 
 DocumentTabBar::DocumentTabBar(QWidget* parent) : QTabBar(parent) {
-    InstallTabAccessibility(); // in front of all that asks for this bar's object
+    InstallTabAccessibility(); // before anything asks for this bar's accessible object
     setExpanding(false);
     setAccessibleName(tr("Open documents"));
 }
@@ -55,7 +55,7 @@ void DocumentTabBar::mouseMoveEvent(QMouseEvent* event) {
     QTabBar::mouseMoveEvent(event);
 }
 
-// The bar's own moving of the tab is ended first, as if the button were let go.
+// Ends the bar's own drag first, as if the button were released.
 void DocumentTabBar::LeaveBar(const QMouseEvent& event) {
     QMouseEvent release(QEvent::MouseButtonRelease, event.position(), event.globalPosition(), Qt::LeftButton,
                         Qt::NoButton, event.modifiers());

@@ -16,7 +16,7 @@ public:
 signals:
     void CloseAsked(int index);
     void ContextAsked(int index, const QPoint& global);
-    // A tab that left the bar: where the pointer is, and where it was let go.
+    // A tab was dragged out of the bar: the pointer's position, and where it was released.
     void DraggedOut(int index, const QPoint& global);
     void DroppedOut(int index, const QPoint& global);
     void DragCancelled();

@@ -1,5 +1,5 @@
-// The notification behind a change is due as soon as the library speaks again or the message that made the
-// change returns; nothing of the program runs in between, so its owner sees the order of the library.
+// The notification after a change is delivered with the library's next notification or when the changing
+// message returns. No code of the program runs in between, so its owner sees the library's order.
 #include "host/qt/view/ChangeEvents.h"
 
 #include "host/qt/view/NotificationCodes.h"
@@ -106,8 +106,7 @@ std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std:
     return answer;
 }
 
-// The library asks the screen under the caret how large a list may be, and ends the program where there is
-// none.
+// The library asks the screen under the caret for the maximum size of a list and crashes without a screen.
 bool ChangeEvents::CaretOnScreen() const {
     const auto caret = view_.SendScintilla(Base::SCI_GETCURRENTPOS);
     const auto x = view_.SendScintilla(Base::SCI_POINTXFROMPOSITION, 0L, caret);
@@ -119,7 +118,8 @@ bool ChangeEvents::CaretOnScreen() const {
 
 void ChangeEvents::ApplyMask() {
     if (mask_ < 0) return;
-    // Bits that tell who made a change would let the narrowed ones through as well.
+    // The bits for the origin of a change are left out, because they would also enable the notifications left
+    // out here.
     narrowed_ = (mask_ & Change) == Change && (mask_ & BeforeChange) == BeforeChange;
     const int heard = narrowed_ ? BeforeChange : mask_;
     // What the history holds beside the text is the view's own matter.
@@ -135,7 +135,7 @@ void ChangeEvents::FlushPending() {
 }
 
 void ChangeEvents::Take(const SciNotification& notification) {
-    // The text has changed when the save point goes, and nothing else of the view has followed yet.
+    // When the save point is left the text has changed, but nothing else of the view has followed yet.
     if (owing && notification.code != SavePointLeft) FlushPending();
     const bool change = notification.code == Modified;
     if (!change || !(notification.modificationType & BeforeChange)) return hand_(notification);

@@ -1,5 +1,5 @@
-// The change notifications of one view. The library is not asked for those behind a change, because it would
-// count characters from the start of the text on each of them; the view hands them on itself.
+// The change notifications of one view. The library would count characters from the start of the text for
+// each notification after a change, so it sends none, and this class makes them.
 #pragma once
 
 #include "host/EditorView.h"
@@ -13,23 +13,23 @@ class ChangeEvents {
 public:
     using Hand = std::function<void(const SciNotification&)>;
 
-    // `hand` takes what the owner of the view is to see; `unheard` runs when the owner asked for no changes
-    // and for as long as it did there may have been some; `travelled` runs behind each undo and redo.
+    // `hand` receives what the view's owner is to see. `unheard` runs after changes for which the owner
+    // wanted no notifications. `travelled` runs after each undo and redo.
     ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
                  std::function<void()> travelled);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;
     ChangeEvents& operator=(const ChangeEvents&) = delete;
 
-    // The one entry to every view: the library's direct function with the pending notification delivered
-    // before and behind each message.
+    // The only entry to every view: the library's direct function, with the pending notification delivered
+    // before and after each message.
     static SciDirectFunction DirectFunction(SciDirectFunction library);
 
     // Takes a notification of the library and hands it on. What a change before it owes comes first.
     void Take(const SciNotification& notification);
 
-    // Tells for as long as it lives what is about to be inserted, because the notification in front of an
-    // insertion carries no text.
+    // Announces the text to be inserted while it lives, because the notification before an insertion carries
+    // no text.
     class Inserting {
     public:
         Inserting(ChangeEvents& events, QByteArray text);
@@ -40,7 +40,7 @@ public:
     private:
         ChangeEvents& events_;
     };
-    // The same for a paste, whose text is asked for while it is under way.
+    // The same for a paste, whose text is only known during the paste.
     void Insert(const QByteArray& text) { inserting_ = text; }
 
 private:
@@ -56,7 +56,7 @@ private:
     std::function<void()> unheard_;
     std::function<void()> travelled_;
     std::intptr_t pointer_;
-    int mask_ = -1; // -1: none was asked for, the library's own is in force
+    int mask_ = -1; // -1: not set, the library's own value is in force
     bool narrowed_ = false;
     QByteArray inserting_;
     SciNotification after_;

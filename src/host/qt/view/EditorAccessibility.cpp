@@ -1,4 +1,4 @@
-// The accessible text of a view: lines and words are read where they are asked for, never the whole text.
+// The accessible text of a view. It reads single lines and words, never the whole text.
 #include "host/qt/view/EditorAccessibility.h"
 
 #include "host/qt/view/EditorWidget.h"
@@ -93,7 +93,7 @@ public:
     void deleteText(int start, int end) override { replaceText(start, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override {
-        const QByteArray bytes = view_.Take(text); // in front of all else: places may move
+        const QByteArray bytes = view_.Take(text); // first, because offsets may change
         setSelection(0, start, end);
         view_.ReplaceSelection(bytes);
     }
@@ -123,8 +123,8 @@ QTextBoundaryFinder::BoundaryType FinderOf(QAccessible::TextBoundaryType type) {
     return type == QAccessible::WordBoundary ? QTextBoundaryFinder::Word : QTextBoundaryFinder::Sentence;
 }
 
-// The piece of the text that holds an offset, or the one before or behind it. Words and characters are looked
-// for in one line; behind its last piece comes the next line's first.
+// Returns the unit of text at an offset, or the one before or after it. Words and characters are searched in
+// one line; the line's last unit is followed by the next line's first.
 QString EditorText::Piece(int offset, int step, QAccessible::TextBoundaryType type, int* start,
                           int* end) const {
     const long position = At(offset);

@@ -2,6 +2,6 @@
 // text on every caret move; this one takes its place.
 #pragma once
 
-// Call once an edit control exists: its library registers its own part then, and the later one is asked
-// first.
+// To be called when the first edit control exists: its library registers its own factory then, and the
+// factory registered last is asked first.
 void InstallEditorAccessibility();

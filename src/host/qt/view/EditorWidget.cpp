@@ -76,7 +76,8 @@ bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf
 
 void EditorWidget::Notify(const SciNotification& notification) { changes_.Take(notification); }
 
-// A question mark in place of what a code page lacks would be a silent loss, so its owner is asked first.
+// The library would silently insert "?" for a character without a byte in the code page, so the owner is
+// asked first.
 bool EditorWidget::TakesCharacter(const QString& character) const {
     std::string byte;
     if (IsUtf8() || FromUtf8ToSingleBytes(Typed(character), byte)) return true;
@@ -195,7 +196,7 @@ QMimeData* EditorWidget::toMimeData(const QByteArray& text, bool rectangular) co
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event) { event->ignore(); }
 
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event) {
-    // What it could not take must not leave a caret where it passed by.
+    // A drag that is refused must leave no drop caret behind.
     if (!event->mimeData()->hasUrls() && !canInsertFromMimeData(event->mimeData())) return event->ignore();
     if (event->mimeData()->hasUrls())
         event->acceptProposedAction();
@@ -212,7 +213,7 @@ void EditorWidget::dragMoveEvent(QDragMoveEvent* event) {
 
 void EditorWidget::dropEvent(QDropEvent* event) {
     if (!event->mimeData()->hasUrls()) {
-        // The text may grow in front of the place where the pointer is.
+        // The text may grow before the drop position.
         Offer(event->mimeData()->text());
         QDragMoveEvent there(event->position().toPoint(), event->possibleActions(), event->mimeData(),
                              event->buttons(), event->modifiers());
@@ -269,8 +270,8 @@ void EditorWidget::InsertTyped(const QString& text) {
     }
 }
 
-// What is composed stands beside the text where the document lacks bytes for it: a composition that is
-// cancelled must change nothing.
+// A composition may be cancelled and must change nothing then, so text without bytes in the document is
+// composed beside it.
 void EditorWidget::ShowComposed(const QString& text) {
     if (!composed_) {
         composed_ = new QLabel(viewport());

@@ -1,5 +1,5 @@
-// The edit control as this program uses it: its signals become notifications, text in a single-byte code
-// page is Windows-1252, and dropped files are told instead of inserted.
+// The edit control as this program uses it: signals become notifications, text in a single-byte code page is
+// Windows-1252, and dropped files are reported instead of inserted.
 #pragma once
 
 #include "host/EditorView.h"

@@ -1,5 +1,5 @@
-// The control draws single bytes as Latin-1, where 0x80 to 0x9F have no character. Each box on the screen is
-// wiped with the colour behind it and gets its character in the same cell.
+// The control draws single bytes as Latin-1, which has no characters at 0x80 to 0x9F. Each such box is
+// painted over with its background, and the character is drawn in the same cell.
 #include "host/qt/view/HighBytes.h"
 
 #include "host/Text.h"
@@ -41,7 +41,7 @@ QFont FontOf(Base& view, long style) {
     return font;
 }
 
-// The lines of the screen stand on one base line for all styles.
+// All styles of a line on the screen share one base line.
 int Ascent(Base& view) {
     double ascent = QFontMetricsF(FontOf(view, Base::STYLE_DEFAULT)).ascent();
     for (int style = 0; style <= LastTextStyle; ++style)
@@ -49,7 +49,7 @@ int Ascent(Base& view) {
     return static_cast<int>(ascent); // rounded as the control does it
 }
 
-// The colour at a place of what is being painted; `otherwise` where that is no picture in memory.
+// Returns the colour at a position of the picture being painted; `otherwise` if it is not in memory.
 QColor Painted(const QPainter& painter, QPoint at, QColor otherwise) {
     const QPaintDevice* device = painter.paintEngine()->paintDevice();
     if (device->devType() != QInternal::Image) return otherwise;

@@ -1,4 +1,4 @@
-// The edit control's own widget behind the seam that the editor speaks to.
+// Implements the editor's view interface with the edit control's widget.
 #include "host/qt/view/QtEditorView.h"
 
 #include "host/qt/view/EditorAccessibility.h"
@@ -10,7 +10,7 @@ constexpr unsigned long Utf8 = 65001;
 }
 
 QtEditorView::QtEditorView() : widget_(new EditorWidget) {
-    // In front of all that asks for this view's object.
+    // Before anything asks for this view's accessible object.
     InstallEditorAccessibility();
     widget_->setAccessibleName(QObject::tr("Source text"));
 }

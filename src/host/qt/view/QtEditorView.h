@@ -1,4 +1,4 @@
-// The edit control's own widget behind the seam that the editor speaks to.
+// Implements the editor's view interface with the edit control's widget.
 #pragma once
 
 #include "host/EditorView.h"

@@ -6,8 +6,8 @@
 
 class QsciScintillaBase;
 
-// In a single-byte text both are the same. In UTF-8 units are counted from the place that was asked for last,
-// so that a key costs the same wherever the caret stands.
+// In single-byte text both are equal. In UTF-8 units are counted from the last position asked for, so that
+// the cost of a key does not depend on the caret's place.
 class TextOffsets {
 public:
     explicit TextOffsets(QsciScintillaBase& view) : view_(view) {}
@@ -18,8 +18,8 @@ public:
     int Count();
     QString Text(long from, long to) const;
 
-    // What is counted stays right when it hears of each change: in front of it where it happens, and behind
-    // it how many units came or went.
+    // Keep the count right: called before each change with its place, and after it with the number of units
+    // added or removed.
     void BeforeChange(long position) { OffsetOf(position); }
     void Changed(int units) {
         if (count_) *count_ += units;

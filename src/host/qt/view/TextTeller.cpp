@@ -1,4 +1,4 @@
-// Text that came and went, the caret and the selection, each told once.
+// Reports inserted and deleted text, the caret and the selection to assistive technology, each once.
 #include "host/qt/view/TextTeller.h"
 
 #include "host/qt/view/NotificationCodes.h"
@@ -11,7 +11,7 @@ namespace {
 
 using Base = QsciScintillaBase;
 
-// Whether anybody listens. Kept here, because the toolkit answers it with a walk through the platform.
+// Whether assistive technology is active; cached, because the toolkit's answer walks through the platform.
 class Listeners : public QAccessible::ActivationObserver {
 public:
     Listeners() : active(QAccessible::isActive()) { QAccessible::installActivationObserver(this); }
@@ -59,7 +59,7 @@ void TextTeller::Change(const SciNotification& notification) {
     }
 }
 
-// The first look at a view tells nothing: nobody has moved yet.
+// The first look at a view reports nothing, because nothing has moved yet.
 void TextTeller::Caret() {
     const std::pair now(view_.SendScintilla(Base::SCI_GETANCHOR),
                         view_.SendScintilla(Base::SCI_GETCURRENTPOS));

@@ -16,7 +16,7 @@ public:
 
     // Hears each notification of the view, in the library's order.
     void Hear(const SciNotification& notification);
-    // Changes went by that nobody heard of.
+    // Changes happened without notifications.
     void Unheard();
     TextOffsets& Offsets() { return offsets_; }
 
@@ -30,5 +30,5 @@ private:
     QsciScintillaBase& view_;
     TextOffsets offsets_;
     QString going_;                                  // the text that is about to be deleted
-    std::optional<std::pair<long, long>> selection_; // anchor and caret (bytes) as told last
+    std::optional<std::pair<long, long>> selection_; // anchor and caret (bytes) as last reported
 };
