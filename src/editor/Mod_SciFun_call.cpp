@@ -19,7 +19,7 @@ public:
 
     CallAtCaret Run() {
         for (int i = count_; i >= 1; --i) {
-            const Token& token = Tokens[static_cast<std::size_t>(i)];
+            const Token& token = TokenAt(i);
             switch (token.Kind) {
             case ',':
                 if (depth_ >= 0) ++call_.param;

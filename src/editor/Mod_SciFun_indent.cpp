@@ -5,6 +5,7 @@
 #include "editor/SciOptions.h"
 #include "editor/frmDoc.h"
 #include "engine/Keywords.h"
+#include "engine/Levels.h"
 #include "engine/Markers.h"
 #include "engine/Mod_Lexer.h"
 #include "engine/Mod_Parse.h"
@@ -51,8 +52,7 @@ void Shift(int columns) {
 
 // What a line means for its own indentation and for that of the next.
 struct Scopes {
-    int opens = 0;
-    int closes = 0;
+    Levels levels;
     bool function = false; // a function begins or ends here: whatever was open is not any more
     bool keeps = false;    // a comment or a label stays where it is
 };
@@ -71,10 +71,10 @@ public:
     const Scopes& Result() const { return scopes_; }
 
 private:
-    std::uint8_t Kind(int index) const { return Tokens[static_cast<std::size_t>(index)].Kind; }
+    std::uint8_t Kind(int index) const { return TokenAt(index).Kind; }
     Word WordAt(int index) const {
         if (index > count_ || Kind(index) != TOK_IDENT) return Word::Other;
-        const ClsBBFunkcija* keyword = KeywordOf(Tokens[static_cast<std::size_t>(index)]);
+        const ClsBBFunkcija* keyword = KeywordOf(TokenAt(index));
         return keyword == nullptr ? Word::Other : keyword->word;
     }
     // Whether only a comment follows the word.
@@ -86,12 +86,13 @@ private:
 
     void Count() {
         if (Kind(index_) != TOK_IDENT) return;
-        const ClsBBFunkcija* keyword = KeywordOf(Tokens[static_cast<std::size_t>(index_)]);
+        const ClsBBFunkcija* keyword = KeywordOf(TokenAt(index_));
         if (keyword == nullptr) return;
         if (keyword->word == Word::End) return End();
         if (keyword->word == Word::Function) scopes_.function = true;
-        if (keyword->IsStartScope) scopes_.opens += keyword->word == Word::Select ? 2 : 1;
-        if (keyword->IsEndScope) Closer(keyword->word);
+        if (keyword->IsStartScope) scopes_.levels.Open(keyword->word);
+        if (keyword->IsEndScope)
+            scopes_.levels.Close(keyword->word, index_ == 1, EndsHere(), WordAt(index_ + 1) == Word::If);
     }
 
     // An "End" alone ends the program, not a scope. A second word of an end opens nothing.
@@ -99,40 +100,11 @@ private:
         switch (WordAt(index_ + 1)) {
         case Word::Function: scopes_.function = true; [[fallthrough]];
         case Word::Type:
-        case Word::If: scopes_.closes += 1; break;
-        case Word::Select: scopes_.closes += 2; break;
+        case Word::If: scopes_.levels.closes += 1; break;
+        case Word::Select: scopes_.levels.closes += 2; break;
         default: return;
         }
         ++index_;
-    }
-
-    void Closer(Word word) {
-        switch (word) {
-        case Word::Then:
-            if (!EndsHere()) General(); // an "If" of one line
-            break;
-        case Word::Else:
-            if (EndsHere()) {
-                ++scopes_.closes;
-                ++scopes_.opens;
-            } else if (index_ == 1 && WordAt(2) == Word::If) {
-                ++scopes_.closes; // the "If" after it opens again
-            }
-            break;
-        case Word::ElseIf:
-            if (index_ == 1) ++scopes_.closes;
-            break;
-        case Word::Case:
-        case Word::Default: ++scopes_.closes; break;
-        default: General();
-        }
-    }
-
-    void General() {
-        if (scopes_.opens > 0)
-            --scopes_.opens;
-        else
-            ++scopes_.closes;
     }
 
     int count_ = 0;
@@ -146,9 +118,9 @@ void AutoIndent(LineSpan lines) {
     for (int line = lines.first; line <= lines.last; ++line) {
         const Scopes scopes = ScopeCount(line).Result();
         if (scopes.function) level = 1;
-        level = std::max(1, level - scopes.closes);
+        level = std::max(1, level - scopes.levels.closes);
         if (!scopes.keeps) SetIndentation(line, (level - 1) * OptionsEdit::TabValue);
-        level += scopes.opens;
+        level += scopes.levels.opens;
     }
 }
 

@@ -6,22 +6,8 @@
 #include "engine/DocumentRecord.h"
 #include "host/Text.h"
 
-namespace {
-
-template <class Visit>
-void ForEachTable(ClsProject& project, Visit visit) {
-    for (clsHash* table : {&project.Globals, &project.Arrays, &project.Labels, &project.Includes,
-                           &project.Constants, &project.Funkcii, &project.Types})
-        visit(*table);
-    // The main program is a function, too.
-    project.Funkcii.ForEach([&](Symbol& symbol) { visit(*static_cast<ClsFunkcija&>(symbol).Locals); });
-    project.Types.ForEach([&](Symbol& symbol) { visit(*static_cast<ClsType&>(symbol).Fields); });
-}
-
-}
-
 void CloseSymbols(ClsProject& project, std::intptr_t view) {
-    ForEachTable(project, [&](clsHash& table) {
+    project.ForEachTable([&](clsHash& table) {
         table.ForEach([&](Symbol& symbol) {
             if (symbol.SciWndData != view) return;
             symbol.SciWndData = 0;
@@ -32,7 +18,7 @@ void CloseSymbols(ClsProject& project, std::intptr_t view) {
 
 void DropClosedSymbols(ClsProject& project) {
     if (!project.HasClosedSymbols) return;
-    ForEachTable(project, [&](clsHash& table) {
+    project.ForEachTable([&](clsHash& table) {
         for (const SymbolPointer& symbol : table.Items())
             if (symbol->SciWndData == 0 && symbol->Handle != 0 && symbol->File == gActiveDoc->Filename)
                 table.RemoveRecord(symbol->Key(), *symbol);

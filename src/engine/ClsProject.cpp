@@ -21,20 +21,26 @@ ClsProject::ClsProject() {
     SetLocals(MainFunLocals);
 }
 
+void ClsProject::ForEachTable(const std::function<void(clsHash&)>& visit) {
+    for (clsHash* table : {&Funkcii, &Globals, &Types, &Arrays, &Labels, &Includes, &Constants})
+        visit(*table);
+    Funkcii.ForEach([&](Symbol& symbol) { visit(*static_cast<ClsFunkcija&>(symbol).Locals); });
+    Types.ForEach([&](Symbol& symbol) { visit(*static_cast<ClsType&>(symbol).Fields); });
+}
+
+void ClsProject::MarkAllDirty() {
+    GlobalsDirty = ConstantsDirty = TypesDirty = FunctionsDirty = ArraysDirty = LabelsDirty = FieldsDirty =
+        LocalsDirty = IncludesDirty = true;
+}
+
 bool DocumentActive() { return gActiveDoc != nullptr && gActiveDoc->SciEdi_WndData != 0; }
 
 void UpdateVarFileNames(const std::string& oldName, const std::string& newName) {
     Guarded("UpdateVarFileNames", "Mod_Funkcii", [&] {
-        ClsProject& project = *gCurrentProject;
-        const auto follow = [&](clsHash& table) {
+        gCurrentProject->ForEachTable([&](clsHash& table) {
             table.ForEach([&](Symbol& symbol) {
                 if (symbol.File == oldName) symbol.File = newName;
             });
-        };
-        for (clsHash* table : {&project.Funkcii, &project.Globals, &project.Types, &project.Arrays,
-                               &project.Labels, &project.Includes, &project.Constants})
-            follow(*table);
-        project.Funkcii.ForEach([&](Symbol& symbol) { follow(*static_cast<ClsFunkcija&>(symbol).Locals); });
-        project.Types.ForEach([&](Symbol& symbol) { follow(*static_cast<ClsType&>(symbol).Fields); });
+        });
     });
 }

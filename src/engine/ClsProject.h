@@ -4,6 +4,7 @@
 #include "engine/CollectionTools.h"
 #include "engine/clsHash.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,6 +35,12 @@ class ClsProject {
 public:
     // Makes the entry of the main program and makes its locals the current ones.
     ClsProject();
+
+    // Visits the seven tables, then the locals of every function, the main program's too, and the fields of
+    // every type.
+    void ForEachTable(const std::function<void(clsHash& table)>& visit);
+    // Raises all nine dirty flags, so that every list is updated when it is shown next.
+    void MarkAllDirty();
 
     clsHash Funkcii;
     clsHash Globals;

@@ -15,7 +15,7 @@ public:
         : tokens_(tokens), count_(count), length_(length), events_(events) {}
 
     void Run() {
-        while (index_ <= count_) One();
+        while (index_ <= count_) NextToken();
     }
 
 private:
@@ -26,7 +26,7 @@ private:
         return events_.emplace_back(LineEvent{kind, token, 0, 0, 0});
     }
 
-    void One() {
+    void NextToken() {
         switch (At(index_).Kind) {
         case TOK_IDENT: Identifier(); return;
         case TOK_BLOCK_START: Add(LineEvent::BlockStart, index_); break;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/ClsCompiler.h"
+#include "engine/Levels.h"
 #include "engine/Mod_Lexer.h"
 #include "engine/Mod_Parse_walk.h"
 #include "engine/clsHash.h"
@@ -25,11 +26,10 @@ private:
     int AddMarker(int marker);
     void Rewrite(int index, const std::string& spelling);
 
-    void One();
+    void NextToken();
     void Identifier();
     void Block(const std::string& word, int foldMarker, int delta);
     void EndScope(Word word);
-    void General();
     void Indent();
 
     void Dispatch(Word word);
@@ -58,8 +58,7 @@ private:
     static std::string text_; // parses do not nest
     int index_ = 1;
     int count_ = 0;
-    int opens_ = 0;         // levels that the line opens for the next
-    int closes_ = 0;        // levels that it closes before itself
+    Levels levels_;
     int foldDelta_ = 0;     // fold blocks opened less those closed
     int functionWords_ = 0; // that begin or end a function so far
     int typeWords_ = 0;

@@ -56,7 +56,7 @@ public:
             while (IsBlank[At(column_)]) ++column_;
             token_ = &tokens_[static_cast<std::size_t>(count_)];
             token_->StartPos = column_;
-            if (!One(At(column_))) {
+            if (!ScanToken(At(column_))) {
                 token_->Kind = TOK_NONE;
                 return --count_;
             }
@@ -85,7 +85,7 @@ private:
     }
 
     // Scans one token at the column; false at the line's end.
-    bool One(std::uint8_t c) {
+    bool ScanToken(std::uint8_t c) {
         if (IsIdStart[c]) {
             RunOver(IsIdChar);
             Take(TOK_IDENT, token_->StartPos, column_);
@@ -210,7 +210,7 @@ public:
                 ++column_;
             }
         }
-        LightTokens[static_cast<std::size_t>(count_) + 1].Kind = TOK_NONE;
+        LightTokenAt(count_ + 1).Kind = TOK_NONE;
         return count_;
     }
 
@@ -219,7 +219,7 @@ private:
 
     Token& Next() {
         if (++count_ > MostTokens) OutOfRange();
-        Token& token = LightTokens[static_cast<std::size_t>(count_)];
+        Token& token = LightTokenAt(count_);
         token.StartPos = column_;
         return token;
     }

@@ -38,6 +38,9 @@ extern std::array<std::uint8_t, LineBufferSize> LightBuffer;
 extern std::array<Token, MostTokens + 2> Tokens; // from 1; one more than the last is the end sentinel
 extern std::array<Token, MostTokens + 2> LightTokens;
 
+inline Token& TokenAt(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+inline Token& LightTokenAt(int index) { return LightTokens[static_cast<std::size_t>(index)]; }
+
 // Character classes by byte value. Written by BuildCharacterTables alone.
 using CharacterClass = std::array<std::int16_t, 257>;
 extern CharacterClass IsIdChar, IsIdStart, IsDigit, IsHexDigit, IsBinDigit, IsBlank, IsOperator,

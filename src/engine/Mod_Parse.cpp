@@ -59,7 +59,7 @@ int LineParser::Run() {
     indents_ = OptionsEdit::AutoIndentOnLoad || !ParsingFile;
     if (indents_ && (!sequential_ || IndentLevel == 0)) SetIndentLevel(GetNextIndent(line_ - 1));
 
-    while (index_ <= count_) One();
+    while (index_ <= count_) NextToken();
     MoveBelow();
     if (!opened_.empty()) KeepScopeKeyword(opened_.back());
     // A line is invisible while its file loads; the pass that shows it sets all its styles.
@@ -75,7 +75,7 @@ int LineParser::Run() {
 
 int LineParser::AddMarker(int marker) { return static_cast<int>(Mod_Sci::MarkerAdd(line_, marker)); }
 
-Token& LineParser::At(int index) const { return Tokens[static_cast<std::size_t>(index)]; }
+Token& LineParser::At(int index) const { return TokenAt(index); }
 
 bool LineParser::NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
 
@@ -84,7 +84,7 @@ void LineParser::Rewrite(int index, const std::string& spelling) {
 }
 
 // Takes the token at the index, and moves on to the next one that is not taken yet.
-void LineParser::One() {
+void LineParser::NextToken() {
     switch (At(index_).Kind) {
     case TOK_IDENT: Identifier(); return;
     case TOK_COMMENT: startsWithComment_ = startsWithComment_ || index_ == 1; break;
@@ -116,7 +116,7 @@ void LineParser::Identifier() {
     }
     Rewrite(index_, keyword->Ime);
     if (keyword->IsStartScope) {
-        opens_ += keyword->word == Word::Select ? 2 : 1;
+        levels_.Open(keyword->word);
         if (RememberScopeKeyword) opened_.push_back(keyword->Ime);
     }
     if (OptionsEdit::AutoIndentType == OptionsEdit::IndentByScope && keyword->IsEndScope)
@@ -137,42 +137,16 @@ void LineParser::Identifier() {
     ++index_;
 }
 
-void LineParser::General() {
-    if (!opened_.empty()) opened_.pop_back();
-    if (opens_ >= 1)
-        --opens_;
-    else
-        ++closes_;
-}
-
 void LineParser::EndScope(Word word) {
     const bool endsHere = index_ == count_ || IsComment(At(index_ + 1));
-    switch (word) {
-    case Word::End: break; // the next word decides
-    case Word::Then:
-        if (!endsHere) General();
-        break;
-    case Word::Else:
-        if (endsHere) {
-            ++closes_;
-            ++opens_;
-        } else if (index_ == 1 && NextIsName() && EqualNoCase(At(index_ + 1).Text, "If")) {
-            ++closes_;
-        }
-        break;
-    case Word::ElseIf:
-        if (index_ == 1) ++closes_;
-        break;
-    case Word::Case:
-    case Word::Default: ++closes_; break;
-    default: General();
-    }
+    const bool beforeIf = NextIsName() && EqualNoCase(At(index_ + 1).Text, "If");
+    if (levels_.Close(word, index_ == 1, endsHere, beforeIf) && !opened_.empty()) opened_.pop_back();
 }
 
 void LineParser::Indent() {
     if (OptionsEdit::AutoIndentType != OptionsEdit::IndentByScope || gActiveDoc->State.mLastOperationUndoRedo)
         return;
-    SetIndentLevel(std::max(1, IndentLevel - closes_));
+    SetIndentLevel(std::max(1, IndentLevel - levels_.closes));
     if (!startsWithComment_) {
         const int target = (IndentLevel - 1) * OptionsEdit::TabValue;
         // With the whole text the view would forget what was just found.
@@ -187,7 +161,7 @@ void LineParser::Indent() {
         const auto indent = Mod_Sci::GetLineIndentPosition(line_);
         if (indent > caret) Mod_Sci::GotoPos(indent);
     }
-    SetIndentLevel(IndentLevel + opens_);
+    SetIndentLevel(IndentLevel + levels_.opens);
 }
 
 int Parseline(int line, bool sequential) {

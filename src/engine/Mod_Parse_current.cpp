@@ -21,7 +21,7 @@ using ListRequest = Request<void()>;
 
 constexpr int StopScopeKnown = 12923;
 
-const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+const Token& At(int index) { return TokenAt(index); }
 
 bool NoWordAtCaret() {
     const auto caret = Mod_Sci::GetCurrentPos();
@@ -33,7 +33,7 @@ public:
     CurrentPass(int line, int count, int lineStart) : line_(line), count_(count), lineStart_(lineStart) {}
 
     void Run() {
-        for (index_ = 1; index_ <= count_; ++index_) One();
+        for (index_ = 1; index_ <= count_; ++index_) NextToken();
     }
 
 private:
@@ -45,8 +45,8 @@ private:
 
     void ToEnd(int style) { gLineStyles.SetToEnd(lineStart_ + At(index_).StartPos, style); }
 
-    void One() {
-        Token& token = Tokens[static_cast<std::size_t>(index_)];
+    void NextToken() {
+        Token& token = TokenAt(index_);
         switch (token.Kind) {
         case TOK_IDENT: Identifier(); break;
         case ',':

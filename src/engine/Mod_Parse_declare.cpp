@@ -104,10 +104,10 @@ void LineParser::End() {
         EndType();
     } else if (word == "IF") {
         Rewrite(index_, "If");
-        ++closes_;
+        ++levels_.closes;
     } else if (word == "SELECT") {
         Rewrite(index_, "Select");
-        closes_ += 2;
+        levels_.closes += 2;
     } else {
         return; // an End alone: the next word is read in its turn
     }
@@ -125,7 +125,7 @@ void LineParser::EndFunction() {
     ++functionWords_;
     AddMarker(MarkerFunction);
     AddMarker(MarkerFoldCloses);
-    ++closes_;
+    ++levels_.closes;
 }
 
 // --- types -----------------------------------------------------------------------------------------
@@ -146,7 +146,7 @@ void LineParser::EndType() {
     AddMarker(MarkerType);
     AddMarker(MarkerFoldCloses);
     --foldDelta_;
-    ++closes_;
+    ++levels_.closes;
 }
 
 void LineParser::Type() {

@@ -29,10 +29,7 @@ void ForgetFile() {
     for (const int marker : {MarkerFunction, MarkerType, MarkerParsed, MarkerFoldOpens, MarkerFoldCloses,
                              MarkerDeclares, MarkerLocal, MarkerMainProgram, MarkerBlock, MarkerBreakpoint})
         Mod_Sci::MarkerDeleteAll(marker);
-    for (bool* dirty : {&project.GlobalsDirty, &project.ConstantsDirty, &project.TypesDirty,
-                        &project.FunctionsDirty, &project.ArraysDirty, &project.LabelsDirty,
-                        &project.FieldsDirty, &project.LocalsDirty, &project.IncludesDirty})
-        *dirty = true;
+    project.MarkAllDirty();
 }
 
 } // namespace Mod_Parse

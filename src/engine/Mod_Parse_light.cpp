@@ -26,7 +26,7 @@ constexpr int DeclaringMask =
     MaskOf(MarkerFunction) | MaskOf(MarkerType) | MaskOf(MarkerDeclares) | MaskOf(MarkerLocal);
 constexpr std::size_t ShortWord = 3; // the bracket check spares words up to this length
 
-const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+const Token& At(int index) { return TokenAt(index); }
 
 // The name being looked up; its room is reused from token to token.
 UpperName upper;
@@ -73,11 +73,11 @@ public:
         scopes_.clear();
         if (sequential_ && (Mod_Sci::MarkerGet(line_) & (MaskOf(MarkerFunction) | MaskOf(MarkerType))))
             ReadEvents(Tokens.data(), count_, 0, scopes_);
-        for (index_ = 1; index_ <= count_; ++index_) One();
+        for (index_ = 1; index_ <= count_; ++index_) NextToken();
     }
 
 private:
-    void One() {
+    void NextToken() {
         const std::uint8_t kind = At(index_).Kind;
         if (kind == TOK_IDENT) {
             Identifier();
@@ -191,7 +191,7 @@ private:
             // A field's initialiser may contain anything; the list continues after it.
             while (index_ + 1 < event.token) {
                 ++index_;
-                One();
+                NextToken();
             }
             if (index_ + 1 != event.token || !CurrentFields->ExistsHash(NextText())) return;
             Symbol* field = FoundItem;

@@ -21,7 +21,7 @@ void RespellSymbols(int line) {
         if (!symbol.record) continue;
         Symbol& record = *symbol.record;
         record.Ime = symbol.name;
-        if (symbol.event.type > 0) record.Tajp = Tokens[static_cast<std::size_t>(symbol.event.type)].Text;
+        if (symbol.event.type > 0) record.Tajp = TokenAt(symbol.event.type).Text;
         if (symbol.event.from == 0) continue;
         std::string behind = Cut(symbol.event.from, symbol.event.to);
         while (behind.ends_with('\r') || behind.ends_with('\n')) behind.pop_back();

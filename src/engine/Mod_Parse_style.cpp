@@ -11,7 +11,7 @@ namespace {
 
 using Word = ClsBBFunkcija::Word;
 
-Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+Token& At(int index) { return TokenAt(index); }
 
 // Styles the brackets after a declared name, up to the closing one.
 void TakeBounds(NameTail& tail, int& index, int count, int lineStart) {
@@ -27,7 +27,7 @@ public:
     LiteralPass(int count, int lineStart) : count_(count), lineStart_(lineStart) {}
 
     void Run() {
-        while (index_ <= count_) One();
+        while (index_ <= count_) NextToken();
     }
 
 private:
@@ -37,7 +37,7 @@ private:
     }
     void ToEnd(const Token& token, int style) { gLineStyles.SetToEnd(lineStart_ + token.StartPos, style); }
 
-    void One() {
+    void NextToken() {
         Token& token = At(index_);
         switch (token.Kind) {
         case TOK_IDENT: Identifier(); return;

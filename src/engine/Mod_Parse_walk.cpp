@@ -16,7 +16,7 @@ namespace Mod_Parse {
 
 namespace {
 
-const Token& At(int index) { return Tokens[static_cast<std::size_t>(index)]; }
+const Token& At(int index) { return TokenAt(index); }
 
 bool CaretAt(int lineStart, int column) { return Mod_Sci::GetCurrentPos() == lineStart + column; }
 
@@ -206,14 +206,14 @@ void Respell(std::intptr_t start, const std::string& spelling, bool inHistory) {
 }
 
 void RewriteToken(const std::string& spelling, int index, int lineStart) {
-    Token& token = Tokens[static_cast<std::size_t>(index)];
+    Token& token = TokenAt(index);
     // What an undo brought back is spelt right beside the history, or nothing could be redone.
     Respell(lineStart + token.StartPos, spelling, !gActiveDoc->State.mLastOperationUndoRedo);
     TakeSpelling(token, spelling);
 }
 
 void FixVariableCase(const std::string& spelling, int index, int lineStart) {
-    Token& token = Tokens[static_cast<std::size_t>(index)];
+    Token& token = TokenAt(index);
     if (!OptionsEdit::FixVariableCase || token.Text == spelling || token.Text.size() != spelling.size())
         return;
     // A word of the language keeps the language's spelling even if a function has the same name, because the

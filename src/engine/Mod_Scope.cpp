@@ -5,6 +5,7 @@
 #include "engine/ClsProject.h"
 #include "engine/DocumentRecord.h"
 #include "engine/KnownLine.h"
+#include "engine/Levels.h"
 #include "engine/Mod_Lexer.h"
 #include "engine/OptionsEdit.h"
 #include "engine/ParserState.h"
@@ -48,7 +49,7 @@ ScopeFound FindScope(int line, int marker, clsHash& table) {
             last = i;
     if (last < 0 || events[static_cast<std::size_t>(last)].kind != begins) return {};
     const auto name = [&](int event) -> const std::string& {
-        return LightTokens[static_cast<std::size_t>(events[static_cast<std::size_t>(event)].token)].Text;
+        return LightTokenAt(events[static_cast<std::size_t>(event)].token).Text;
     };
     int namesakes = 0; // before it on its line
     for (int i = 0; i < last; ++i)
@@ -58,21 +59,8 @@ ScopeFound FindScope(int line, int marker, clsHash& table) {
     return found.record ? found : ScopeFound{};
 }
 
-// What the words of a line open and close for the line below.
-struct Levels {
-    int opens = 0;
-    int closes = 0;
-
-    void General() {
-        if (opens >= 1)
-            --opens;
-        else
-            ++closes;
-    }
-};
-
 const ClsBBFunkcija* KeywordAt(int index) {
-    const Token& token = LightTokens[static_cast<std::size_t>(index)];
+    const Token& token = LightTokenAt(index);
     return token.Kind == TOK_IDENT ? FindKeyword(UCase(token.Text)) : nullptr;
 }
 
@@ -82,25 +70,24 @@ bool EndsWith(const std::string& word) {
            EqualNoCase(word, "Type");
 }
 
-// Advances the index over a second word that belongs to the word at the index. LineParser::EndScope and ::End
-// have the same rules for the full scanner; this copy reads the light one, and its Else rule is required as
-// it is.
+// Advances the index over a second word that belongs to the word at the index. These rules differ from those
+// of Levels::Close, above all after an Else, and are required as they are.
 void CountEndScope(Levels& levels, Word word, int& index, int count) {
-    const Token& next = LightTokens[static_cast<std::size_t>(index) + 1];
+    const Token& next = LightTokenAt(index + 1);
     const bool last = index == count;
     switch (word) {
     case Word::End:
         if (next.Kind == TOK_IDENT && EqualNoCase(next.Text, "Select")) ++levels.closes;
-        levels.General();
+        levels.CloseOne();
         if (next.Kind == TOK_IDENT && EndsWith(next.Text)) ++index;
         break;
     case Word::Then:
-        if (!last && next.Kind != TOK_COMMENT) levels.General();
+        if (!last && next.Kind != TOK_COMMENT) levels.CloseOne();
         break;
     case Word::Else: {
         // The word after an Else is read from the full scanner's array as its last pass left it; this is
         // required behaviour.
-        const Token& full = Tokens[static_cast<std::size_t>(index) + 1];
+        const Token& full = TokenAt(index + 1);
         if (full.Kind == TOK_COMMENT || last) {
             ++levels.closes;
             ++levels.opens;
@@ -114,7 +101,7 @@ void CountEndScope(Levels& levels, Word word, int& index, int count) {
         break;
     case Word::Case:
     case Word::Default: ++levels.closes; break;
-    default: levels.General();
+    default: levels.CloseOne();
     }
 }
 
@@ -123,7 +110,7 @@ Levels CountLevels(int count) {
     for (int i = 1; i <= count; ++i) {
         const ClsBBFunkcija* keyword = KeywordAt(i);
         if (keyword == nullptr) continue;
-        if (keyword->IsStartScope) levels.opens += keyword->word == Word::Select ? 2 : 1;
+        if (keyword->IsStartScope) levels.Open(keyword->word);
         if (keyword->IsEndScope) CountEndScope(levels, keyword->word, i, count);
     }
     return levels;
@@ -164,7 +151,7 @@ FunctionsOnLine FunctionsOn(int line) {
             continue;
         }
         found.begins = true;
-        found.lastBegun = LightTokens[static_cast<std::size_t>(event.token)].Text;
+        found.lastBegun = LightTokenAt(event.token).Text;
     }
     return found;
 }

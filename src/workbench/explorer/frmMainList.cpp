@@ -128,12 +128,7 @@ void frmMainList::CheckButtons() {
 }
 
 void frmMainList::AllConstructsDirty() {
-    if (!gCurrentProject) return;
-    ClsProject& project = *gCurrentProject;
-    for (bool* dirty : {&project.GlobalsDirty, &project.ConstantsDirty, &project.TypesDirty,
-                        &project.FunctionsDirty, &project.ArraysDirty, &project.LabelsDirty,
-                        &project.FieldsDirty, &project.LocalsDirty, &project.IncludesDirty})
-        *dirty = true;
+    if (gCurrentProject) gCurrentProject->MarkAllDirty();
 }
 
 void frmMainList::PuniLista() {
