@@ -129,7 +129,7 @@ void QueryUnload(bool& cancel) {
             cancel = !Mod_File::CloseDocuments();
         }
         if (cancel) {
-            // Other instances must be able to find this one again, unless it was told to end meanwhile.
+            // Other instances must be able to find this one again, unless it was ended meanwhile.
             if (wasFound && life != Life::Ended) Publish();
             return;
         }

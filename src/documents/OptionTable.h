@@ -1,4 +1,4 @@
-// All options in one table, for whoever reads, writes or shows them by their keys.
+// All options in one table, for code that reads, writes or shows them by their keys.
 #pragma once
 
 #include <span>
