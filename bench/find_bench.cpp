@@ -118,6 +118,7 @@ void ReplaceAll(benchmark::State& state) {
 
 void FindInTheLastFile(benchmark::State& state) {
     std::vector<std::unique_ptr<OpenText>> files;
+    files.reserve(Files);
     for (int i = 0; i < Files; ++i)
         files.push_back(std::make_unique<OpenText>("zolto_bench_" + std::to_string(i) + ".bb",
                                                    Source(1000) + (i + 1 == Files ? Sought : "")));

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Installs what is missing of the Debian packages that are named below. The sets: build (to build and run), test (to
-# build and run the tests), window (to show a window where there is no display).
+# build and run the tests), window (to show a window where there is no display), check (to check the code).
 set -eu
 
 build="g++ cmake ninja-build qt6-base-dev libqt6svg6 libqscintilla2-qt6-dev breeze-icon-theme fonts-dejavu-core"
 test="libgtest-dev libbenchmark-dev python3"
 window="xvfb openbox xdotool imagemagick x11-utils"
+check="clang-format clang-tidy ccache"
 
 wanted=""
 for set in "$@"; do
@@ -13,6 +14,7 @@ for set in "$@"; do
     build) wanted="$wanted $build" ;;
     test) wanted="$wanted $test" ;;
     window) wanted="$wanted $window" ;;
+    check) wanted="$wanted $check" ;;
     *) echo "install-packages: no set named $set" >&2; exit 2 ;;
   esac
 done

@@ -89,7 +89,7 @@ void ReportUnknownOnce(const std::string& name) {
 bool SetActiveCompiler(const std::string& name) {
     return Guarded("SetActiveCompiler", "Mod_Main", false, [&] {
         if (gActiveCompiler && EqualNoCase(gActiveCompiler->Name, name)) return true;
-        const auto byDefault = gCompilers.Item(DefaultCompiler);
+        const auto& byDefault = gCompilers.Item(DefaultCompiler);
         const auto compiler = gCompilers.Find(name);
         if (!compiler) ReportUnknownOnce(name);
         if (compiler && !compiler->Refused && compiler->SetDefaultKeywords()) {

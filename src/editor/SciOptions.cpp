@@ -33,7 +33,7 @@ void SendCaretAndWrap() {
     Mod_Sci::SetCaretLineVisible(HighlightCurrentLine);
     Mod_Sci::SetTabWidth(TabValue);
     Mod_Sci::SetIndentationGuides(ShowIndentGuides);
-    Mod_Sci::SetViewWS(2 * ShowWhiteSpaces);
+    Mod_Sci::SetViewWS(ShowWhiteSpaces * 2L);
     Mod_Sci::SetWrapMode(WordWrap);
     Mod_Sci::SetWrapVisualFlags(WordWrapFlags);
     Mod_Sci::SetWrapStartIndent(WordWrapStartIndent);
@@ -54,11 +54,11 @@ void SendMargins() {
     Mod_Sci::SetMarginTypeN(1, SC_MARGIN_SYMBOL);
     Mod_Sci::SetMarginMaskN(1, MaskAllButMainProgramAndFolds);
     Mod_Sci::SetMarginSensitiveN(1, 1);
-    Mod_Sci::SetMarginWidthN(1, MarkerMarginPixels * ShowMarkerMargin);
+    Mod_Sci::SetMarginWidthN(1, long{MarkerMarginPixels} * ShowMarkerMargin);
     Mod_Sci::SetMarginTypeN(2, SC_MARGIN_SYMBOL);
     Mod_Sci::SetMarginMaskN(2, MaskFolders);
     Mod_Sci::SetMarginSensitiveN(2, 1);
-    Mod_Sci::SetMarginWidthN(2, FoldMarginPixels * ShowFoldMargin);
+    Mod_Sci::SetMarginWidthN(2, long{FoldMarginPixels} * ShowFoldMargin);
     Mod_Sci::MarkerDefine(BreakpointMarker, BreakpointsAsBackground ? SC_MARK_BACKGROUND : SC_MARK_CIRCLE);
     Mod_Sci::SetFoldFlags(FoldLinesAroundContracted);
 }

@@ -21,7 +21,7 @@ public:
 private:
     const Token& At(int index) const { return tokens_[index]; }
     bool NextIsName() const { return index_ < count_ && At(index_ + 1).Kind == TOK_IDENT; }
-    bool On(char kind) const { return index_ <= count_ && At(index_).Kind == kind; }
+    bool On(std::uint8_t kind) const { return index_ <= count_ && At(index_).Kind == kind; }
     LineEvent& Add(LineEvent::Kind kind, int token) {
         return events_.emplace_back(LineEvent{kind, token, 0, 0, 0});
     }

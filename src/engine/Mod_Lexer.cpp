@@ -30,8 +30,8 @@ void Mark(CharacterClass& table, std::string_view characters) {
     for (const char c : characters) table[static_cast<std::uint8_t>(c)] = -1;
 }
 
-void MarkRange(CharacterClass& table, char first, char last) {
-    for (int c = first; c <= last; ++c) table[static_cast<std::size_t>(c)] = -1;
+void MarkRange(CharacterClass& table, std::uint8_t first, std::uint8_t last) {
+    for (std::size_t c = first; c <= last; ++c) table[c] = -1;
 }
 
 bool refused = false;

@@ -86,7 +86,7 @@ private:
         DrawRun();
         ++index_;
         Bracket(index_, lineStart_);
-        const char close = bracket_ == '(' ? ')' : ']';
+        const std::uint8_t close = bracket_ == '(' ? ')' : ']';
         for (int depth = 1; depth > 0 && HasNext();) {
             ++index_;
             if (At(index_).Kind == bracket_) ++depth;
@@ -138,7 +138,7 @@ private:
     int count_;
     int lineStart_;
     int style_;
-    char bracket_;
+    std::uint8_t bracket_;
     int runStart_; // column of what is not drawn yet; 0 when all is
 };
 

@@ -128,7 +128,7 @@ private:
         const std::string& name = NameOf(event);
         for (const auto& [handle, field] : gActiveDoc->tmpFields) {
             if (!EqualNoCase(field->Ime, name) || LineOf(*field) != line_) continue;
-            const auto same = [&](const LineSymbol& other) { return other.record == field; };
+            const auto same = [&record = field](const LineSymbol& other) { return other.record == record; };
             if (std::any_of(found_.symbols.begin(), found_.symbols.end(), same)) continue;
             found_.symbols.push_back({event, name, nullptr, field});
             return;

@@ -59,7 +59,7 @@ void frmOutput::Append(const std::string& line) {
         pending_.append(Shown(rest.substr(0, LongestPiece)));
         rest.remove_prefix(std::min(rest.size(), LongestPiece));
     } while (!rest.empty());
-    if (pending_.size() > 2 * MostLines) pending_.erase(pending_.begin(), pending_.end() - MostLines);
+    if (pending_.size() > 2LL * MostLines) pending_.erase(pending_.begin(), pending_.end() - MostLines);
     if (!flush_.isActive()) flush_.start(0);
 }
 

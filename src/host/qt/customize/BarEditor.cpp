@@ -42,7 +42,7 @@ std::string BarEditor::PlaceOf(QObject* watched, QWidget*& bar) const {
 
 QRect BarEditor::RectOf(QWidget* bar, const LayoutEntry& entry) const {
     const QtCommand* command = target_.Table().Find(entry.command);
-    if (!command) return {};
+    if (!command || !bar) return {};
     if (auto* menus = qobject_cast<QMenuBar*>(bar)) return menus->actionGeometry(command->Action());
     auto* tools = static_cast<QToolBar*>(bar);
     for (QAction* action : tools->actions()) {
@@ -99,7 +99,7 @@ bool BarEditor::eventFilter(QObject* watched, QEvent* event) {
     }
     QWidget* bar = nullptr;
     const std::string place = PlaceOf(watched, bar);
-    if (place.empty()) return false;
+    if (!bar || place.empty()) return false;
     switch (event->type()) {
     case QEvent::DragEnter:
     case QEvent::DragMove:

@@ -54,7 +54,7 @@ QtDockStudio::QtDockStudio()
 }
 
 QtDockStudio::~QtDockStudio() {
-    SetEvents(nullptr);
+    QtDockStudio::SetEvents(nullptr);
     settle_.stop();
     delete customizing_;
     area_->disconnect(&window_);

@@ -55,7 +55,7 @@ QString FromUtf8(const std::string& text) { return QString::fromStdString(text);
 LayoutEntries ReadEntries(const QJsonValue& value) {
     LayoutEntries entries;
     bool beginGroup = false;
-    for (const QJsonValue& item : value.toArray()) {
+    for (const auto& item : value.toArray()) {
         const std::string name = item.toString().toStdString();
         if (name.empty()) Refuse("an entry without a name");
         if (name == "-") {
@@ -78,7 +78,7 @@ QJsonArray EntriesToJson(const LayoutEntries& entries) {
 
 std::vector<std::string> ReadTexts(const QJsonValue& value) {
     std::vector<std::string> texts;
-    for (const QJsonValue& item : value.toArray()) texts.push_back(item.toString().toStdString());
+    for (const auto& item : value.toArray()) texts.push_back(item.toString().toStdString());
     return texts;
 }
 
@@ -179,11 +179,11 @@ Layout ParseLayout(std::string_view bytes) {
     if (Text(root, "format") != Format) Refuse("it is no layout");
     if (root.value(QLatin1String("version")).toInt() != Version) Refuse("its version is unknown");
     Layout layout;
-    for (const QJsonValue& item : root.value(QLatin1String("commands")).toArray())
+    for (const auto& item : root.value(QLatin1String("commands")).toArray())
         layout.commands.push_back(ReadCommand(item.toObject()));
-    for (const QJsonValue& item : root.value(QLatin1String("bars")).toArray())
+    for (const auto& item : root.value(QLatin1String("bars")).toArray())
         layout.bars.push_back(ReadBar(item.toObject()));
-    for (const QJsonValue& item : root.value(QLatin1String("panes")).toArray())
+    for (const auto& item : root.value(QLatin1String("panes")).toArray())
         layout.panes.push_back(ReadPane(item.toObject()));
     layout.start = ReadTexts(root.value(QLatin1String("start")));
     layout.offered = ReadTexts(root.value(QLatin1String("offered")));

@@ -36,12 +36,12 @@ QJsonObject AreaToJson(const LayoutArea& area) {
 LayoutArea ReadArea(const QJsonObject& object) {
     LayoutArea area;
     area.rows = object.value(QLatin1String("division")).toString() == QLatin1String("rows");
-    for (const QJsonValue& part : object.value(QLatin1String("parts")).toArray())
+    for (const auto& part : object.value(QLatin1String("parts")).toArray())
         area.parts.push_back(ReadArea(part.toObject()));
-    for (const QJsonValue& size : object.value(QLatin1String("sizes")).toArray())
+    for (const auto& size : object.value(QLatin1String("sizes")).toArray())
         area.sizes.push_back(std::clamp(size.toInt(), 0, LargestSize));
     if (area.sizes.size() != area.parts.size()) area.sizes.clear();
-    for (const QJsonValue& item : object.value(QLatin1String("tabs")).toArray()) {
+    for (const auto& item : object.value(QLatin1String("tabs")).toArray()) {
         const QJsonObject tab = item.toObject();
         LayoutWindow window{Decoded(tab.value(QLatin1String("key"))),
                             Decoded(tab.value(QLatin1String("caption")))};

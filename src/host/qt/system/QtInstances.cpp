@@ -45,7 +45,7 @@ void Receive(QLocalSocket* socket, const std::function<void(const std::string&)>
 
 QtInstances::QtInstances(const QString& folder) : folder_(folder.isEmpty() ? RuntimeFolder() : folder) {}
 
-QtInstances::~QtInstances() { Withdraw(); }
+QtInstances::~QtInstances() { QtInstances::Withdraw(); }
 
 bool QtInstances::AnotherRuns() {
     if (lock_ && lock_->isLocked()) return false;

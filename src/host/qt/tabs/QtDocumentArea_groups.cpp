@@ -66,9 +66,9 @@ void QtDocumentArea::NewTabGroup(bool vertical) {
 }
 
 void QtDocumentArea::MoveToGroup(int step) {
-    TabGroup* old = active_ ? active_->Group() : nullptr;
+    if (!active_) return;
     const std::vector<TabGroup*> groups = tree_->Groups();
-    const auto at = std::find(groups.begin(), groups.end(), old);
+    const auto at = std::find(groups.begin(), groups.end(), active_->Group());
     if (at == groups.end() || groups.size() < 2) return;
     const auto count = static_cast<int>(groups.size());
     const int next = (static_cast<int>(at - groups.begin()) + step % count + count) % count;

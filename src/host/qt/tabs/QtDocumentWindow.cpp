@@ -20,7 +20,7 @@ QtDocumentWindow::QtDocumentWindow(DocumentWindowOwner& area, std::string key, s
 }
 
 QtDocumentWindow::~QtDocumentWindow() {
-    Attach(nullptr);
+    QtDocumentWindow::Attach(nullptr);
     delete page_;
 }
 
