@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <string>
+#include <unistd.h>
 
 namespace {
 
@@ -61,7 +62,7 @@ TEST(Generator, HasTheSizeAndTheNumberOfFunctionsOfALargeSource) {
 
 #ifdef BLITZCC_FILE
 TEST(Generator, WritesProgramsThatTheCompilerAccepts) {
-    const std::string path = testing::TempDir() + "zolto_generated.bb";
+    const std::string path = testing::TempDir() + "zolto_generated_" + std::to_string(getpid()) + ".bb";
     const std::string command = std::string("\"") + BLITZCC_FILE + "\" -c \"" + path + "\" > /dev/null";
     for (std::uint64_t seed : {1u, 2u, 3u, 4u, 5u, 6u}) {
         std::ofstream(path, std::ios::binary)
