@@ -8,7 +8,7 @@
 
 QAbstractScrollArea* Widget(EditorView& view);
 void Show(QAbstractScrollArea& widget, QSize size);
-// Lets all that waits happen, and paints: the whole view or what has changed.
+// Processes all waiting events, and paints: the whole view or what has changed.
 void Paint(QAbstractScrollArea& widget, bool whole);
 // A key without its paint.
 void Press(QAbstractScrollArea& widget, int key, const QString& text = {});

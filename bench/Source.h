@@ -4,7 +4,7 @@
 #include <string>
 
 std::string Source(int lines);
-// Writes one to a temporary file; answers its path.
+// Writes a source to a temporary file and returns its path.
 std::string FileOf(int lines);
 void CloseActive();
 

@@ -96,8 +96,8 @@ void PasteLines(benchmark::State& state, Change measured) {
     widget.hide();
 }
 
-// The list for a word, without its paint: one that few of the names begin with, as it opens by itself, and
-// one that hundreds begin with, which opens when it is asked for.
+// The list for a word, without its paint: for a beginning of few names, as it opens by itself, and for one of
+// hundreds of names, which opens on request.
 void CompletionList(benchmark::State& state, const char* word, bool asked) {
     constexpr int Names = 10000;
     const OpenSource source(1000);

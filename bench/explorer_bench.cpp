@@ -1,5 +1,5 @@
-// The Code Explorer: from an edit that changes one symbol to the pane showing it, and what the pane adds to
-// the opening of a project. Each stands beside the same without the pane, which is its floor.
+// The Code Explorer: from an edit that changes one symbol to the pane showing it, and the pane's share in
+// opening a project. Each figure's floor is the same without the pane.
 #include "Source.h"
 #include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"

@@ -35,7 +35,7 @@ std::string SourceWithHits(int lines) {
         const std::size_t end = std::min(source.find('\r', from), source.size());
         const std::string line = source.substr(from, end - from);
         text += line;
-        // A comment stays one; behind anything else the hit is a statement of its own.
+        // A comment stays a comment; after anything else the hit is a statement of its own.
         if (hits < Hits && ++hits) text += (line.empty() ? "" : " : ") + std::string(Sought) + " = 1";
         text += "\r\n";
         from = end + 2;

@@ -1,5 +1,5 @@
-// Typing: from a key to the tables and the screen, in the middle of a long source. Each figure is the mean of
-// a key; p50, p99 and worst stand beside it, in milliseconds.
+// Typing: from a key to the tables and the screen, in the middle of a long source. Each figure is the mean
+// for a key, with p50, p99 and the worst beside it, in milliseconds.
 #include "Floor.h"
 #include "Keys.h"
 #include "Source.h"

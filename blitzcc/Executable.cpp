@@ -1,5 +1,5 @@
-// The sources behind an executable: their bytes, then their count in eight bytes and a mark.
-// A new file is written beside the target and renamed, so a failure leaves the old one whole.
+// The sources appended to an executable: their bytes, then their count in eight bytes and a mark. A new file
+// is written beside the target and renamed, so that a failure leaves the old one whole.
 #include "Executable.h"
 
 #include <filesystem>

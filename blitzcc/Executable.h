@@ -1,5 +1,5 @@
-// Built executables: this program's own file with the sources appended to it.
-// At its start the program looks for such sources behind itself and runs them.
+// Built executables: this program's own file with the sources appended. At its start the program looks for
+// such sources at its own end and runs them.
 #pragma once
 
 #include "parse/Sources.h"

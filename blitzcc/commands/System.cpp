@@ -1,5 +1,5 @@
-// The commands on the system, its resources and hosts of programs.
-// Each line is what the vocabulary shows; the marks tell the types, [] what may be left out.
+// The commands on the system, its resources and hosts of programs. Each line is shown in the vocabulary as it
+// is; the marks give the types, [] encloses what may be omitted.
 #include "commands/CommandTable.h"
 
 #include <iterator>

@@ -1,5 +1,5 @@
-// The generator's blocks: If, loops and Select.
-// Each loop keeps the list of its Exit jumps, which lead behind it.
+// The generator's blocks: If, loops and Select. Each loop keeps the list of its Exit jumps, which lead past
+// its end.
 #include "generate/Generator.h"
 
 namespace blitz {

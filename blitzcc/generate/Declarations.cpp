@@ -1,5 +1,5 @@
-// The generator's declarations: constants, types, arrays, functions, data and variables.
-// Constants and functions may be used before they stand in the text; variables may not need declaring.
+// The generator's declarations: constants, types, arrays, functions, data and variables. Constants and
+// functions may be used before their place in the text; variables may not need declaring.
 #include "generate/Generator.h"
 
 namespace blitz {

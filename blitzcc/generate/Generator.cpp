@@ -1,5 +1,5 @@
-// The generator's base: emission of instructions and their joining into fewer, quicker ones.
-// Instructions in front of a jump's target are never joined with those behind it.
+// The generator's base: emission of instructions and their joining into fewer, quicker ones. Instructions
+// before a jump's target are never joined with those after it.
 #include "generate/Generator.h"
 
 #include <algorithm>

@@ -60,7 +60,7 @@ private:
         Type result;
         std::vector<Type> parameters;
         size_t required = 0;
-        std::vector<Constant> defaults; // of the parameters behind the required ones
+        std::vector<Constant> defaults; // of the parameters after the required ones
     };
     struct LabelInfo {
         int32_t target = 0;

@@ -39,7 +39,7 @@ void Generator::statement(const Stmt& stmt) {
 }
 
 void Generator::assignStatement(const Stmt& stmt) {
-    // The target's name is declared before its value is generated, as it stands first.
+    // The target's name is declared before its value is generated, because it comes first in the text.
     const Expr& target = *stmt.exprs[0];
     if (target.kind == ExprKind::Name) variableFor(target);
     const Type type = expression(*stmt.exprs[1]);

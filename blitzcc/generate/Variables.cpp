@@ -1,5 +1,5 @@
-// The generator's loads and stores: variables, arrays, fields and elements.
-// The value to store stands on the stack before the parts of its address are generated.
+// The generator's loads and stores: variables, arrays, fields and elements. The value to store is on the
+// stack before the parts of its address are generated.
 #include "generate/Generator.h"
 
 #include <bit>

@@ -93,7 +93,7 @@ private:
         uint32_t previous = 0;
         uint32_t next = 0;
         int32_t type = -1;
-        uint32_t pins = 0; // For Each loops that stand on it
+        uint32_t pins = 0; // For Each loops whose hidden slot holds it
         int32_t handle = 0;
         bool alive = false;
         std::unique_ptr<Value[]> fields;

@@ -41,7 +41,7 @@ Value Machine::create(int32_t type) {
     return idOf(slot);
 }
 
-// Links a slot in front of another one of its type, or at the end.
+// Links a slot before another one of its type, or at the end.
 void Machine::link(uint32_t slot, uint32_t before) {
     Object& object = objects_[slot];
     TypeList& list = types_[static_cast<size_t>(object.type)];
@@ -125,7 +125,7 @@ Value Machine::objectOf(int32_t handle, int32_t type) {
     return object && object->type == type ? value : Value{};
 }
 
-// Moves the pin of a loop's hidden slot to another object; the one left behind may now go.
+// Moves the pin of a loop's hidden slot to another object; the old object may be freed now.
 void Machine::pin(Value& hidden, uint32_t slot) {
     const auto old = static_cast<uint32_t>(hidden.object);
     if (slot != 0) ++objects_[slot].pins;
@@ -143,7 +143,7 @@ void Machine::each(const Ins& ins, Value*& top, Value* slots) {
     Value& hidden = slots[ins.x];
     uint32_t slot = types_[static_cast<size_t>(ins.a)].first;
     if (ins.op == Op::EachNext) {
-        // The loop goes on from its variable, or from where it stood if that object is gone.
+        // The loop continues from its variable, or from its own place if that object is gone.
         const Value variable = *--top;
         const auto from =
             find(variable) ? static_cast<uint32_t>(variable.object) : static_cast<uint32_t>(hidden.object);

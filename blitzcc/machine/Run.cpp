@@ -25,7 +25,7 @@ int32_t remainder(int32_t a, int32_t b) {
 #define COMPARE(member, op) { const auto b = (--top)->member; top[-1].integer = top[-1].member op b; break; }
 #define JUMP_WHEN(op) { top -= 2; if (top[0].integer op top[1].integer) at = code + at->a - 1; break; }
 
-// `at` is the current instruction, so that the caller knows where a fault arose.
+// `at` is the current instruction, so that the caller knows where a fault occurred.
 void Machine::execute(const Ins*& position) {
     const Ins* const code = code_.code.data();
     const FunctionCode& mainProgram = code_.functions[0];

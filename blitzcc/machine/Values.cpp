@@ -1,5 +1,5 @@
-// The machine's strings and arrays.
-// Released ones are kept for the next use; a string that nobody else holds grows in place.
+// The machine's strings and arrays. Released ones are kept for the next use; a string that no one else holds
+// grows in place.
 #include "machine/Machine.h"
 #include "parse/Numbers.h"
 

@@ -49,7 +49,7 @@ Value folderCreate(Machine&, Args a, size_t) {
 Value folderDelete(Machine&, Args a, size_t) {
     std::error_code error;
     const std::string path = pathOf(a[0]);
-    // Only an empty folder goes, as programs expect.
+    // Only an empty folder is deleted, as programs expect.
     if (fs::is_directory(path, error)) fs::remove(path, error);
     return intValue(0);
 }

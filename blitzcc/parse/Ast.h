@@ -69,7 +69,7 @@ enum class StmtKind : uint8_t {
     Select,  // exprs[0], cases, blocks; one more block is the Default
     Goto,    // symbol, like Gosub, Restore and Label
     Gosub,
-    Restore, // hasSymbol tells whether a label was given
+    Restore, // hasSymbol: a label was given
     Label,
     Return, // exprs[0] if a value was given
     Exit,
@@ -92,7 +92,7 @@ struct Stmt {
     Tok op = Tok::End;
     bool hasSymbol = false;
     Symbol symbol = 0;
-    uint32_t dataIndex = 0; // a label: the first Data item behind it
+    uint32_t dataIndex = 0; // a label: the first Data item after it
     Pos pos;
     std::vector<ExprPtr> exprs;
     std::vector<std::vector<ExprPtr>> cases;

@@ -187,7 +187,7 @@ ExprPtr Parser::literal() {
     return node;
 }
 
-// A variable, an array's element or a call, with the fields and indices behind it.
+// A variable, an array's element or a call, with the fields and indices after it.
 ExprPtr Parser::variable() {
     ExprPtr node = make(ExprKind::Name);
     node->symbol = expectName("variable name");

@@ -85,7 +85,7 @@ void Lexer::scan() {
     }
 }
 
-// Directly behind a name these marks are its suffix: a$ is a string variable, not a number.
+// Directly after a name these marks are its suffix: a$ is a string variable, not a number.
 bool Lexer::followsName() const { return at_ > 0 && isNameChar(text_[at_ - 1]); }
 
 void Lexer::name() {

@@ -19,7 +19,7 @@ public:
     Program parse();
 
 private:
-    // Where a statement stands decides what it may be.
+    // The place of a statement decides which statements are allowed.
     enum class Scope { Main, Inner, Line };
 
     // Counts the levels of nesting, so that a deeply nested source ends in a message.

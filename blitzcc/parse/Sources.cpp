@@ -62,7 +62,7 @@ bool readFile(const std::string& path, std::string& text, std::string& reason) {
     text.resize(size);
     if (!in || !in.read(text.data(), static_cast<std::streamsize>(size)))
         return reason = "The file cannot be read", false;
-    // A byte order mark would stand in front of the first statement; in its place the columns stay true.
+    // A byte order mark would precede the first statement; spaces in its place keep the columns right.
     if (text.starts_with("\xEF\xBB\xBF")) text.replace(0, 3, "   ");
     return true;
 }

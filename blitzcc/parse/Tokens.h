@@ -1,5 +1,5 @@
-// The kinds of token of the language and the names that the lexer interns.
-// The reserved words stand in one table, which the vocabulary printer reads as well.
+// The kinds of token of the language and the names that the lexer interns. The reserved words are in one
+// table, which the vocabulary printer reads as well.
 #pragma once
 
 #include "parse/Error.h"

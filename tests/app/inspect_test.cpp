@@ -31,7 +31,7 @@ std::string Put(const QTemporaryDir& folder, const char* name, const QByteArray&
     return file.fileName().toStdString();
 }
 
-// Names in the order in which they stand in a table.
+// The names in the order of a table.
 std::vector<std::string> Names(const QJsonObject& report, const char* table) {
     std::vector<std::string> names;
     for (const QJsonValue record : report["symbols"].toObject()[table].toArray())
@@ -165,8 +165,8 @@ TEST(InspectTest, WhatCannotBeUsedEndsWith2AndWhatCannotBeOpenedWith3) {
               std::string::npos);
 }
 
-// Symbols without the handles and lines of their history; text and folds as they are. Where somebody worked
-// is no matter of the text.
+// The symbols without handles and lines of their history; text and folds unchanged. The place of the last
+// edit does not matter.
 QJsonObject State(const QJsonObject& report) {
     const QJsonObject document = First(report);
     constexpr int PositionMask = 1 << 18;

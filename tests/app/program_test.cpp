@@ -23,7 +23,7 @@ TEST(ProgramTest, TheHelpNamesWhatItTakes) {
     EXPECT_EQ(run.errors, "");
 }
 
-// A session that ends tells the process to end, and waits for no answer.
+// The end of a session sends a signal and waits for no answer.
 TEST(ProgramTest, ATerminatedProgramEndsInOrder) {
     const QTemporaryDir home;
     const std::filesystem::path folder = home.path().toStdString();

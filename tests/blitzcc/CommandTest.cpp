@@ -94,7 +94,7 @@ TEST_F(CommandTest, ProgramsSeeTheirArgumentsAndDebugLog) {
               "8 11\n1\n");
 }
 
-// What is registered to run must stand in the tables, else it would never be found.
+// A command registered to run must be in the tables, or it would never be found.
 TEST(CommandTableTest, EveryRunnableCommandIsInTheTables) {
     size_t count = 0;
     for (const NativeTable& table :

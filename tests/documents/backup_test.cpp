@@ -35,7 +35,7 @@ struct BackupTest : testing::Test {
     }
     std::string Kept(const std::string& name) { return session.Bytes(session.host.Path("Backup/" + name)); }
     Names In(const char* folder) { return session.host.files.List(session.host.Path(folder)); }
-    // Writes the file over from outside, so that a backup can be told from the text in the window.
+    // Overwrites the file from outside, so that a backup can be distinguished from the text in the window.
     bool Save(frmDoc& document, const std::string& onDisk) {
         session.host.files.QtFiles::Write(document.FullFilename, onDisk);
         session.Type("; typed\r\n");
@@ -49,7 +49,7 @@ TEST_F(BackupTest, NumberedCopiesMoveUpAndTheOldestGoes) {
     EXPECT_EQ(In("Backup"), (Names{"a.bb.bak1", "a.bb.bak2"}));
     EXPECT_EQ(Kept("a.bb.bak1"), "three");
     EXPECT_EQ(Kept("a.bb.bak2"), "two");
-    Options::gBackupBakIncrement = 2147483647; // as it may stand in the store
+    Options::gBackupBakIncrement = 2147483647; // a value that the settings store may hold
     EXPECT_TRUE(Save(document, "four"));
     EXPECT_EQ(Kept("a.bb.bak3"), "two");
     Options::gBackupBakIncrement = 1;

@@ -129,7 +129,7 @@ TEST_F(CloseTest, ADismissedPromptKeepsAProject) {
         EXPECT_EQ(project->Sources.Count(), 2);
         EXPECT_EQ(gProjects.Count(), 1);
     }
-    // A project that cannot be saved stays too, until the user lets its changes go.
+    // A project that cannot be saved also stays open, until the user gives up its changes.
     project->Dirty = true;
     for (const auto& end : ends) {
         for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::No}) dialogs.WillAnswer(answer);
@@ -144,13 +144,13 @@ TEST_F(CloseTest, ADismissedPromptKeepsAProject) {
     EXPECT_TRUE(Mod_File::CloseProject(project));
 }
 
-// A process that is told to end asks nothing and writes no text over its file.
+// A process ended by a signal asks nothing and writes no text over its file.
 TEST_F(CloseTest, TheEndWithoutAQuestionKeepsWhatIsRemembered) {
     const std::string path = Dirty("a.bb").FullFilename;
     Mod_Main::Publish();
     EXPECT_FALSE(Mod_Main::Ended());
     Mod_Main::EndNow();
-    Mod_Main::PlaceMainWindow(); // a start that goes on behind the end
+    Mod_Main::PlaceMainWindow(); // a start that continues after the end
     EXPECT_TRUE(Mod_Main::Ended());
     EXPECT_EQ(session.Bytes(path), "old\r\n");
     const std::string workspace = session.Bytes(session.host.Path("Conf/LastWorkspace.zws"));
@@ -173,7 +173,7 @@ TEST_F(CloseTest, TheStepsOfTheEndComeInTheirOrder) {
     Mod_Main::Publish();
     EXPECT_FALSE(Cancelled());
     EXPECT_EQ(steps, std::vector<std::string>{"find"});
-    EXPECT_FALSE(session.host.instances.receive); // nobody can hand over any more
+    EXPECT_FALSE(session.host.instances.receive); // no instance can hand over any more
 }
 
 TEST_F(CloseTest, AWindowWithdrawsOnlyItsOwnHandle) {
@@ -186,7 +186,7 @@ TEST_F(CloseTest, AWindowWithdrawsOnlyItsOwnHandle) {
     }
 }
 
-// Whoever handed over a file was told that it will be opened here.
+// The instance that handed over a file was promised that it opens here.
 TEST_F(CloseTest, AFileThatComesDuringTheEndCancelsIt) {
     const std::string path = session.host.Put("late.bb", "");
     Mod_Main::Publish();

@@ -1,4 +1,4 @@
-// Opening by path, by dialog and by command line, and what is said where nothing can be opened.
+// Opening by path, by dialog and by command line, and the messages if nothing can be opened.
 #include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Session.h"

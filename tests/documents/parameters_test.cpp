@@ -1,4 +1,4 @@
-// The block of comment lines behind a source: what is written, what is read, and what it must never touch.
+// The block of comment lines after a source: what is written, what is read, and what it must never touch.
 #include "documents/CompilerRegistry.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_Main.h"
@@ -108,7 +108,7 @@ TEST_F(ParametersTest, AHeaderInsideTheTextBeginsTheBlockThere) {
     session.Open("a.bb", "a=1\r\nb=2\r\n;~Zolto Editor Parameters:\r\n;~B#0\r\nc=3\r\n");
     EXPECT_EQ(Mod_Sci::GetText(), "a=1\r\nb=2\r\nc=3\r\n");
     EXPECT_EQ(Bookmarks(), std::vector<int>{0});
-    session.Open("b.bb", ";~Zolto Editor Parameters:\r\n;~B#0\r\nc=3"); // nothing stands in front of it
+    session.Open("b.bb", ";~Zolto Editor Parameters:\r\n;~B#0\r\nc=3"); // nothing precedes it
     EXPECT_EQ(Mod_Sci::GetText(), "\r\nc=3");
     session.Open("d.bb",
                  std::string("Global a") + Head + "\r\n;~C#x\r\nGlobal b\r\nFunction f()\r\nEnd Function");
@@ -121,7 +121,7 @@ TEST_F(ParametersTest, AHeaderInsideTheTextBeginsTheBlockThere) {
     EXPECT_EQ(Mod_Sci::GetText(), quoted);
 }
 
-// Another program or a merge puts a line end or a second block behind the block.
+// Another program or a merge puts a line end or a second block after the block.
 TEST_F(ParametersTest, TheLastOfSeveralBlocksCountsAndNoRoundTripAddsALine) {
     const std::string block = std::string(Head) + "\r\n;~B#1\r\n;~C#ZoltoBasic";
     const std::string first = std::string(Head) + "\r\n;~B#0\r\n;~L#old";

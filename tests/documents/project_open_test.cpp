@@ -82,7 +82,7 @@ TEST_F(OpenProjectTest, OpeningByExtensionLoadsAProject) {
     EXPECT_EQ(ActiveForm()->FullFilename, Main());
 }
 
-// A box in the middle of the members lets another view have its say.
+// A message box in the middle of the members lets another view send events.
 TEST_F(OpenProjectTest, MembersJoinTheirOwnProjectWhateverIsActive) {
     frmDoc& single = session.Open("single.bb", "s=1\r\n");
     struct : FakeDialogs {
@@ -193,7 +193,7 @@ TEST_F(OpenProjectTest, AMemberStaysInTheFolderAndItsNameIsItsOwn) {
     EXPECT_NE(session.Bytes(Zpf()).find("AbsPath=\"Lib\\Algebra.bb\""), std::string::npos); // saved unasked
 }
 
-// However a closed member is asked for, it comes back into its project, or nothing has changed.
+// However a closed member is requested, it returns to its project, or nothing changes.
 TEST_F(OpenProjectTest, AMemberOpensAsThatMemberByWhateverWay) {
     const auto project = Load();
     const auto path = [&](const char* below) { return session.host.Path(below); };
@@ -272,7 +272,7 @@ TEST_F(OpenProjectTest, AProjectThatBringsNoDocumentLeavesTheActiveOneItsTables)
     }
 }
 
-// A new name goes with the file into the main file's key and into every table.
+// A rename of a file also changes the main file's key and every table.
 TEST_F(OpenProjectTest, ARenamedMemberIsFollowedEverywhere) {
     const auto project = Load();
     frmDoc& main = Member(Main());

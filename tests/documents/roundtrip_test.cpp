@@ -179,8 +179,8 @@ TEST_F(EncodingTest, ATextThatBecomesUtf8StaysWhereItIs) {
     EXPECT_EQ(Mod_Sci::GetText(), "\u00E9\u00E9y\u0416z");
 }
 
-// A block ends its lines as the file does; one that another program has turned, or that stands behind LF with
-// CR LF, is read as well. Nothing is lost at any of many openings.
+// A block has the line ends of its file, but a block with other line ends is read as well. Repeated opening
+// loses nothing.
 TEST_F(EncodingTest, TheBlockKeepsTheSourceByteForByteInEveryKindOfFile) {
     const auto replaced = [](std::string text, const std::string& end) {
         for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += end.size())

@@ -75,7 +75,7 @@ TEST_F(SaveTest, ANewNameMovesEverythingThatKnowsTheOldOne) {
     EXPECT_EQ(gProjects.Count(), 1);
 }
 
-// Two documents of one path could not be told apart any more.
+// Two documents with one path could not be distinguished.
 TEST_F(SaveTest, ANameThatAnotherDocumentHasOpenIsRefused) {
     const std::string other = session.Open("other.bb", "other=1\r\n").FullFilename;
     frmDoc& document = session.Open("a.bb", "a=1\r\n");

@@ -35,7 +35,7 @@ TEST_F(StartTest, ASecondInstanceSendsWhatItWasGivenAndEnds) {
     Options::MultipleInstances = 0;
 }
 
-// The first instance is closing, or was killed and left its channel behind.
+// The first instance is closing, or was killed and left its channel.
 TEST_F(StartTest, AFileThatNobodyTakesOpensHere) {
     session.host.instances.anotherRuns = session.host.instances.nobodyListens = true;
     const std::string path = session.host.Put("a.bb", "");
@@ -103,7 +103,7 @@ struct EndingDesktop : FakeDesktop {
     void EndProcess(int status) override { throw Ended{status}; }
 };
 
-// What is remembered isn't known yet, and a start that goes on could ask something.
+// The stored state is not loaded yet, and a start that continued could ask something.
 TEST_F(StartTest, AnEndDuringTheStartWritesNothing) {
     const std::string workspace = session.host.Put("Conf/LastWorkspace.zws", "of the last run");
     gDocumentCalls.ShowMainWindow = [] { Mod_Main::SaveSession(); };

@@ -82,7 +82,7 @@ struct WorkspaceTest : testing::Test {
         EXPECT_EQ(Mod_Sci::GetCurrentPos(), caret) << path;
         EXPECT_EQ(Mod_Sci::GetFirstVisibleLine(), top) << path;
     }
-    // A workspace file that lists these paths; a project where it ends in .zpf.
+    // A workspace file with these paths; a path that ends in .zpf is a project.
     std::string List(const Keys& paths, const std::string& windows = "") {
         Workspace workspace{.windows = windows};
         for (const std::string& path : paths) workspace.entries.push_back({path, !path.ends_with(".zpf")});

@@ -1,5 +1,5 @@
-// The editing commands: which lines they take, what they write, that each is one undo step, and that what a
-// fresh load gives still holds behind them.
+// The editing commands: the lines they change, the text they write, one undo step each, and tables equal to a
+// fresh load afterwards.
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/Mod_SciFun_edit.h"
@@ -212,7 +212,7 @@ TEST_P(EditCommandsTest, CompletingAScopeIsOneStep) {
         CompleteScope(); // the scope ends on its line
         EXPECT_EQ(Mod_Sci::GetLineCount(), 2) << line;
     }
-    // What stands behind the caret goes into the scope; an opener among it is none of the caret's.
+    // The text after the caret goes into the scope; a keyword in it does not open the caret's scope.
     OpenSource({"For i = 1 To 2 : x = 1", "y"});
     Mod_Sci::SetUseTabs(0);
     GoTo(0, 14);

@@ -1,4 +1,4 @@
-// Completion lists: when they open, what stands in them, and when they go. Typed by keys into a real view.
+// Completion lists: when they open, what they contain, and when they close. Keys are typed into a real view.
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/Mod_SciFun_complete.h"
@@ -27,7 +27,7 @@ std::string Listed() {
 
 class CompletionTest : public SourceTest {
 protected:
-    // Types on an empty line below the declarations, and tells the list.
+    // Types on an empty line below the declarations and returns the list.
     std::string ListFor(const std::string& keys) {
         const int line = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
         GoTo(line);

@@ -8,7 +8,7 @@ namespace {
 
 class CurrentLine : public SourceTest {
 protected:
-    // Types on an empty last line and tells its styles while the caret is there.
+    // Types on an empty last line and returns its styles while the caret is there.
     std::string StylesOf(std::vector<std::string> lines, const std::string& keys) {
         const Setting<int> quiet(OptionsEdit::ACshowAuto, 0);
         lines.emplace_back();

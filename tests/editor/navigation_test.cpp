@@ -36,7 +36,7 @@ protected:
         Settle();
         Type(keys);
     }
-    // Asks for the declaration of what stands in a place; answers the line that the caret is on then.
+    // Goes to the declaration of the word at a place; returns the caret's line afterwards.
     static int DeclarationOf(int line, int column) {
         GoTo(line, column);
         GotoDeclaration();
@@ -52,8 +52,8 @@ TEST_F(NavigationTest, EachKindOfNameLeadsToItsDeclaration) {
     const std::string text = Text(10);
     const auto at = [&](const char* part) { return static_cast<int>(text.find(part)); };
     EXPECT_EQ(DeclarationOf(10, at("v =")), 9);
-    EXPECT_EQ(DeclarationOf(10, at("p +")), 8);     // a parameter stands on its function's line
-    EXPECT_EQ(DeclarationOf(10, at("g *") + 1), 1); // the caret behind the word
+    EXPECT_EQ(DeclarationOf(10, at("p +")), 8);     // a parameter is on its function's line
+    EXPECT_EQ(DeclarationOf(10, at("g *") + 1), 1); // the caret after the word
     EXPECT_EQ(DeclarationOf(10, at("k :")), 2);
     EXPECT_EQ(DeclarationOf(10, at("d(1)")), 3);
     EXPECT_EQ(DeclarationOf(10, at("f(2)")), 8);
@@ -214,7 +214,7 @@ TEST_F(NavigationTest, ALineIsShownAndWithTheOptionAtTheTop) {
     GotoLine(700);
     EXPECT_LE(700 - Mod_Sci::GetFirstVisibleLine(), OptionsEdit::Vmargin);
     MakeActive(nullptr);
-    GotoLine(3); // nobody to go
+    GotoLine(3); // there is nowhere to go
 }
 
 TEST_F(NavigationTest, BookmarksAreToggledAndMakeTheFileDirty) {

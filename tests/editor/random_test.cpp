@@ -218,7 +218,7 @@ private:
 
 class RandomEdits : public SourceTest {
 protected:
-    // Does a series; answers what differs from a fresh load at the first check that fails, else nothing.
+    // Runs a series; returns the difference from a fresh load at the first failing check, else nothing.
     std::string Fails(const Series& series, std::string* told = nullptr) {
         if (anew_ == nullptr) {
             anew_ = &Open("");
@@ -265,7 +265,7 @@ protected:
     }
 
 private:
-    // Takes out of a series what it fails without; answers whether that was anything.
+    // Removes from a series what it fails without; returns whether it removed anything.
     template <class Part>
     bool Drop(Series& series, std::vector<Part>& parts) {
         bool dropped = false;
@@ -285,8 +285,8 @@ private:
         return Difference();
     }
 
-    // Goes through the undo history to its end; answers what is wrong there. The case of names that the
-    // colourer corrected is none of the history's.
+    // Walks through the whole undo history; returns what is wrong there. The case of names is not compared,
+    // because colouring corrects it outside the history.
     std::string Travel(std::intptr_t (*step)(), std::intptr_t (*can)(),
                        const std::optional<std::string>& to = {}) {
         int steps = 0;
@@ -326,7 +326,7 @@ private:
 
     frmDoc* anew_ = nullptr;
 
-    // A line that no closed fold hides must be seen: nobody could open it.
+    // A line outside all closed folds must be visible, because no fold could show it.
     static std::string Unreachable() {
         for (int line = 0; line < Mod_Sci::GetLineCount(); ++line) {
             if (Mod_Sci::GetLineVisible(line)) continue;

@@ -54,7 +54,7 @@ TEST_F(Scenario, AProgramIsTypedFromNothing) {
     const std::string symbols = Symbols();
     EXPECT_NE(symbols.find("Local of *Main Program* total @50"), std::string::npos) << symbols;
 
-    // The lines that stand become a function: first its header, then, later, its end.
+    // Existing lines become a function: first its header is typed, later its end.
     GoTo(LocalsLine);
     Settle();
     Line("function report()");

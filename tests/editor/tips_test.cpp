@@ -1,4 +1,4 @@
-// The tip box and the call tip: which call and parameter the caret stands in, and which line opened a scope.
+// The tip box and the call tip: which call and parameter the caret is in, and which line opened a scope.
 #include "engine/fixture/SourceTest.h"
 
 #include "editor/Mod_SciFun_tips.h"
@@ -14,7 +14,7 @@ protected:
         gEditorCalls.SetTipText = [this](const TipText& tip) { box_ = tip; };
     }
 
-    // Opens a source with the caret where "|" is; answers the tip box with the marked part between "<" and
+    // Opens a source with the caret where "|" is; returns the tip box with the marked part between "<" and
     // ">".
     std::string TipAt(std::string text) {
         const std::size_t caret = text.find('|');

@@ -1,4 +1,4 @@
-// Colours: a source and, below each line, the style of each of its bytes. The letters stand with
+// Colours: a source and, below each line, the style of each of its bytes, with the letters of
 // SourceTest::Styles; "." is plain text.
 #include "engine/fixture/SourceTest.h"
 
@@ -143,7 +143,7 @@ TEST_F(ColourTest, SpellingFollowsTheDeclarationExceptUnderTheCaret) {
     EXPECT_FALSE(gActiveDoc->Dirty);
     Mod_Sci::SetModEventMask(0);
     Replace(1, 0, 1, 5, "scORE");
-    Mod_Parse::ColorLineLight(1, true); // the caret stands at the word's end
+    Mod_Parse::ColorLineLight(1, true); // the caret is at the word's end
     EXPECT_EQ(Text(1), "scORE = Score");
     const Setting off(OptionsEdit::FixVariableCase, 0);
     GoTo(0);

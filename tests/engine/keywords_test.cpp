@@ -45,7 +45,7 @@ protected:
 TEST_F(KeywordsTest, ADefinitionIsTakenApart) {
     const std::pair<const char*, const char*> rows[] = {
         {"Cls", "Cls tip 1"},
-        {"Pi#", "Pi# tip 1"}, // nothing behind it: the suffix stays in the name
+        {"Pi#", "Pi# tip 1"}, // nothing after it: the suffix stays in the name
         {"Sin# (degrees#)", "Sin tip 2 takes |degrees#"},
         {"Chr$ (ascii)", "Chr tip 3 takes needs |ascii"},
         {"Rnd# (from#[,to#])", "Rnd tip 2 takes |from# |[to#]"},

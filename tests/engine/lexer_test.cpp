@@ -1,4 +1,4 @@
-// Both scanners, told as text: kind, start column and what the kind carries.
+// Both scanners, printed as text: kind, start column and value.
 #include "engine/Mod_Lexer.h"
 #include "support/FakeHost.h"
 

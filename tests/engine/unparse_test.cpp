@@ -1,4 +1,4 @@
-// Taking a line back is the exact inverse of its parse, and scopes give and take what stands in them.
+// Unparsing a line is the exact inverse of its parse, and symbols move between scopes.
 #include "engine/fixture/SourceTest.h"
 
 #include "engine/ParserState.h"

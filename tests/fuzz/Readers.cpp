@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 const std::string Root = ZOLTO_SOURCE_ROOT;
 
-// Whatever is asked is declined.
+// Every question is declined.
 class DecliningDialogs : public Dialogs {
 public:
     MessageAnswer Show(const Message& message) override {
@@ -94,7 +94,7 @@ std::string ReadProject(const std::string& bytes) {
     return {};
 }
 
-// In the bytes "@" stands for the folder of the session.
+// In the bytes "@" means the folder of the session.
 std::string ReadWorkspace(const std::string& bytes) {
     Place place;
     place.session.host.Put("a.bb", "a = 1\r\n");

@@ -8,7 +8,7 @@
 
 struct Reader {
     const char* name;
-    // Reads the bytes as the program does. Answers what went wrong, empty when nothing did.
+    // Reads the bytes as the program does. Returns what went wrong, empty when nothing did.
     std::string (*read)(const std::string& bytes);
     // Well-formed inputs to begin with.
     std::vector<std::string> (*samples)();

@@ -161,7 +161,7 @@ TEST_F(ArrangementTest, ARestartBringsItBackInAMaximisedWindowToo) {
     }
 }
 
-// The size comes after the arrangement, and later than it was asked for.
+// The size arrives after the arrangement, and later than it was requested.
 TEST_F(ArrangementTest, AFloatingPaneIsPaintedAfterARestart) {
     {
         Studio studio(factory);
@@ -259,7 +259,7 @@ TEST_F(ArrangementTest, WhatTheUserTookAwayStaysAwayAndWhatIsNewIsOffered) {
     EXPECT_EQ(keys("Print"), std::vector<std::string>{"Ctrl+P"});
 }
 
-// Whatever a file holds: it is refused with nothing changed, or it is loaded and the window goes on.
+// A damaged file is refused with nothing changed, or it is loaded and the window keeps working.
 TEST_F(ArrangementTest, ACutOrChangedFileNeverStopsTheWindow) {
     Studio studio(factory);
     Arrange(studio);

@@ -1,5 +1,4 @@
-// A view tells the changes of its text in the order of the library, and assistive technology what became of
-// them.
+// A view reports changes of its text in the library's order, and reports them to assistive technology.
 #include "host/qt/view/EditorWidget.h"
 #include "host/qt/view/QtEditorView.h"
 
@@ -31,12 +30,12 @@ enum : unsigned {
     SCI_SETMODEVENTMASK = 2359,
 };
 constexpr std::uintptr_t Mask = 3443;
-constexpr int Changes = 0xC03; // before and behind insertions and deletions
+constexpr int Changes = 0xC03; // before and after insertions and deletions
 
-// Writes down what it is told, with the length of the text at that moment.
+// Records the notifications, with the length of the text at that moment.
 class Recorder : public EditorViewEvents {
 public:
-    // `byLibrary`: the mask goes past the view, which then makes no notification of its own.
+    // `byLibrary`: the mask bypasses the view, which then makes no notifications itself.
     explicit Recorder(EditorView& view, bool byLibrary = false)
         : view_(view), pointer_(view.DirectPointer()), send_(view.DirectFunction()) {
         if (byLibrary)
@@ -128,7 +127,7 @@ TEST(ViewPainting, HighBytesLookAsTheirCharactersDo) {
         widget->SendScintilla(EditorWidget::SCI_STYLECLEARALL);
         Recorder(view).Text(SCI_REPLACESEL, 0, wide ? "a\u20AC b" : "a\x80 b");
         widget->resize(200, 60);
-        // Up to the blank: what comes behind may stand on a fraction of a pixel.
+        // Up to the blank: the position of what follows may be a fraction of a pixel.
         const auto blank = widget->SendScintilla(EditorWidget::SCI_POINTXFROMPOSITION, 0UL, wide ? 4L : 2L);
         seen[wide] = widget->viewport()->grab(QRect(0, 0, static_cast<int>(blank), 60)).toImage();
     }
@@ -160,7 +159,7 @@ void Listen(QAccessibleEvent* event) {
     }
 }
 
-// Offsets are in UTF-16 units, also behind letters of several bytes.
+// Offsets are in UTF-16 units, also after letters of several bytes.
 TEST(ViewChanges, AssistiveTechnologyHearsTextCaretAndSelection) {
     for (const bool wide : {false, true}) {
         QtEditorView view;

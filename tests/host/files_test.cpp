@@ -1,4 +1,4 @@
-// Writing files: what stays when it fails, and what is kept when it goes well.
+// Writing files: what remains after a failure, and what is kept after a success.
 #include "host/Failure.h"
 #include "support/FakeHost.h"
 
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Lets no file of this process grow beyond a size, which is how a full disk looks to a writer.
+// Limits the size of all files of this process, which looks like a full disk to a writer.
 class SmallDisk {
 public:
     explicit SmallDisk(rlim_t bytes) {

@@ -84,7 +84,7 @@ TEST_F(ProcessesTest, AKillTakesEverythingThatTheChildStarted) {
     EXPECT_FALSE(child->Kill());
     for (int round = 0; round < 500 && !child->HasEnded(); ++round) usleep(10000);
     EXPECT_TRUE(child->HasEnded());
-    // Each is gone, or a dead entry that nobody has collected yet; on a busy machine it takes them a while to
+    // Each is gone, or a dead entry that no one has collected yet; on a busy machine it takes them a while to
     // die.
     const auto state = [&](pid_t pid) {
         try {

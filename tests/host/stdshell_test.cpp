@@ -95,7 +95,7 @@ TEST_F(StdShellTest, InputWaitsForRoomAndIsDroppedOnFailure) {
     shell->WriteConsole("lost");
     events.clear();
     host.desktop.Advance(100);
-    EXPECT_EQ(events, (Events{"error:32:Broken pipe", "out:xy", "end:0"})); // told once
+    EXPECT_EQ(events, (Events{"error:32:Broken pipe", "out:xy", "end:0"})); // reported once
 }
 
 TEST_F(StdShellTest, AHandlerMayEndTheShell) {

@@ -86,7 +86,7 @@ TEST_F(TabsTest, ATabIsDraggedToASideIntoAGroupAndBack) {
     EXPECT_EQ(Captions(), (Captioned{"cd", "b", "a"}));
     Drag(Groups()[0], 1, In(Groups()[1], 0.5, 0.5)); // d into the middle of b's group
     EXPECT_EQ(Captions(), (Captioned{"c", "bd", "a"}));
-    // b in front of c: its group of two is left with one
+    // b before c: its group of two is left with one
     const QPoint onBar = Groups()[0]->tabBar()->tabRect(0).center() - QPoint(10, 0);
     Drag(Groups()[1], 0, Groups()[0]->tabBar()->mapTo(&dock.Window(), onBar));
     EXPECT_EQ(Captions(), (Captioned{"bc", "d", "a"}));

@@ -1,5 +1,4 @@
-// Dialogs that answer from a script. One that was not scripted fails the test, and so does an answer that
-// nobody asked for.
+// Dialogs that answer from a script. An unscripted dialog fails the test, and so does an unused answer.
 #pragma once
 
 #include "host/Dialogs.h"
@@ -17,7 +16,7 @@ public:
     void WillSave(std::string path);
     void WillChooseFolder(std::string path);
     void WillType(std::optional<std::string> text);
-    // Fails the test when answers are left.
+    // Fails the test if answers are left.
     void ExpectUsedUp() const;
 
     MessageAnswer Show(const Message& message) override;
@@ -27,7 +26,7 @@ public:
     std::optional<std::string> Input(const std::string& prompt, const std::string& title,
                                      const std::string& preset) override;
 
-    // What was asked, exactly.
+    // The exact texts of the questions.
     std::vector<Message> messages;
     std::vector<FileQuestion> questions;
     std::vector<std::string> prompts;

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-// Makes itself the platform, and gives back what was there when the test ends. At its end it fails the test
-// when a scripted answer or child was not used, or when the failure path was taken without being expected.
+// Becomes the platform, and restores the previous one at its end. Fails the test if a scripted answer or
+// child was not used, or if an unexpected failure was reported.
 class FakeHost {
 public:
     FakeHost();
@@ -19,7 +19,7 @@ public:
 
     // A path below the test's own folder.
     std::string Path(std::string_view below) const { return folder + "/" + std::string(below); }
-    // Writes a file there, with its folders, and answers its path.
+    // Writes a file there, with its folders, and returns its path.
     std::string Put(std::string_view below, std::string_view bytes);
     // What the failure path wrote since the test began.
     std::string ErrorLog();

@@ -65,10 +65,10 @@ public:
     std::string OsBuild() override { return "3"; }
     std::string UniqueId() override;
     std::string ShortPath(const std::string& path) override;
-    // Fails the test: a test cannot go on behind the end of the process.
+    // Fails the test: a test cannot continue after the end of the process.
     [[noreturn]] void EndProcess(int status) override;
 
-    // Lets time pass: every timer ticks as often as it would have.
+    // Lets time pass: every timer fires as often as it would have.
     void Advance(int milliseconds);
     std::size_t Timers() const { return timers_.size(); }
 
@@ -150,7 +150,7 @@ public:
     std::function<void(const std::string&)> receive;
 };
 
-// Real edit controls of a fixed size, shown to nobody.
+// Real edit controls of a fixed size, never shown.
 class FakeViews : public EditorViews {
 public:
     std::unique_ptr<EditorView> Create() override;

@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // No test reads or writes the settings of whoever runs it.
+    // No test reads or writes the settings of the user who runs it.
     QStandardPaths::setTestModeEnabled(true);
     std::signal(SIGXFSZ, SIG_IGN);
     QApplication application(argc, argv);

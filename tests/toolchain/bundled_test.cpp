@@ -28,7 +28,7 @@ struct BundledTest : Driver {
     frmDoc& Sample(const std::string& name) {
         return session.Open(name, QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/examples/" + name));
     }
-    // Lets the child run to its end, as long as it may sensibly take.
+    // Waits until the child has ended, at most for a sensible time.
     void Finish() {
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
         while (ActiveForm()->ShellClass->Running()) {

@@ -71,7 +71,7 @@ TEST_F(CommandsTest, AnUnsavedDocumentIsCompiledFromAScratchCopy) {
     EXPECT_TRUE(ActiveForm()->Dirty);
     EXPECT_TRUE(ActiveForm()->NewFile);
     EXPECT_EQ(Command([&] { CheckForErrors("New"); }), Quoted(compiler) + " -c " + Quoted(scratch));
-    // An executable is built from a file of its own: it is asked for, and Cancel stops.
+    // Creating an executable asks for a file name, and Cancel stops it.
     dialogs.WillSave("");
     CreateExe("New");
     EXPECT_EQ(processes.started.size(), 2u);
@@ -123,7 +123,7 @@ TEST_F(CommandsTest, AProjectIsCompiledFromItsMainFile) {
     Compile(lib, false); // what is on disk is not what the user sees
     EXPECT_EQ(processes.started.size(), 1u);
     session.host.files.writesFail = false;
-    EXPECT_EQ(session.Bytes(other), "o=1\r\n"); // belongs to nobody here
+    EXPECT_EQ(session.Bytes(other), "o=1\r\n"); // belongs to no project here
     Options::gOnCompileSave = 0;
     Command([&] { CheckForErrors(lib); });
     EXPECT_EQ(session.Bytes(other).find("; other\r\n"), 0u);
@@ -243,7 +243,7 @@ TEST_F(CommandsTest, TheProgressWindowFollowsTheCompileThatItTellsOf) {
     CheckForErrors(ActiveForm()->FullFilename);
     session.host.dock.FindDocumentWindow(first)->Activate();
     MakeActive(gProjects.Find(first) ? &FormOf(*gProjects.Find(first)->Sources.Item(0)) : nullptr);
-    CompilerOutput::StopShown(); // the second one's, although the first is in front
+    CompilerOutput::StopShown(); // the second one's, although the first one is active
     EXPECT_TRUE(ActiveForm()->ShellClass->Running());
     EXPECT_EQ(processes.killed, 1);
     session.host.desktop.Advance(100);

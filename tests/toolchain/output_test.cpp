@@ -1,4 +1,4 @@
-// What the compiler prints: progress, what counts as an error, and where the caret goes.
+// The compiler's output: progress, recognised errors, and where the caret goes.
 #include "documents/Mod_File.h"
 #include "documents/Mod_Project.h"
 #include "host/Host.h"
@@ -124,7 +124,7 @@ TEST_F(OutputTest, AnErrorInAnotherOpenFileActivatesIt) {
     dialogs.WillAnswer(MessageAnswer::Ok);
     Check({"Parsing", Error("3:1:3:1")});
     EXPECT_EQ(ActiveForm()->FullFilename, path);
-    // A file that no window shows is opened, one that is not there is asked for, and Cancel selects nothing.
+    // A closed file is opened, a missing file is asked for, and Cancel selects nothing.
     const std::string part = session.host.Put("sub/part.bb", "p = 1\r\np = 2\r\n");
     for (const std::string& name : {part, std::string("SUB\\part.bb")}) {
         Mod_File::OpenFile(path); // to the front

@@ -76,7 +76,7 @@ TEST_F(BoxesTest, ANewCompilerParsesEveryDocumentOfTheProjectAnew) {
     EXPECT_FALSE(document.Dirty);
     gCurrentProject->Compiler = "Bare"; // as a file's block may say
     session.host.dialogs.WillAnswer(MessageAnswer::Ok);
-    Choose("Bare"); // told again, for it was chosen
+    Choose("Bare"); // reported again, because it was chosen
     EXPECT_EQ(compilers.Text(), "ZoltoBasic");
     Choose("Loud");
     EXPECT_EQ(gActiveCompiler->Name, "Loud");

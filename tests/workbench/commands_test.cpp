@@ -95,7 +95,7 @@ TEST(CommandsTest, NoKeyIsTakenTwiceAndEveryKeyIsOne) {
     }
 }
 
-// Whoever looks for a command finds it in a menu or on a bar; what does nothing yet is not offered.
+// Every command is in a menu or on a bar; a command without a routine is not offered.
 TEST(CommandsTest, EveryCommandHasAPlace) {
     const Layout layout = DefaultLayout();
     const auto placed = PlacedCommands(layout);
@@ -244,7 +244,7 @@ TEST_F(RoutingTest, ADamagedLayoutIsToldAndChangesNothing) {
     EXPECT_EQ(host.dialogs.messages.back().text, "Layout3 is not created yet or is incorrect UI version !");
     host.dialogs.WillAnswer(MessageAnswer::Yes);
     host.dialogs.WillAnswer(MessageAnswer::Ok);
-    Click("ResetLayout"); // the factory's own file is gone: the built-in text stands in for it
+    Click("ResetLayout"); // the factory's own file is gone, so the built-in text is used
     EXPECT_EQ(host.dock.factoryTexts, 1);
     EXPECT_EQ(host.desktop.locks, 0);
 }

@@ -103,7 +103,7 @@ protected:
     static int Line() { return static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())); }
 };
 
-// Counts what a model tells its view.
+// Counts the signals of a model.
 struct Told {
     QSignalSpy inserted, removed, changed, reset;
     explicit Told(const QAbstractItemModel* model)
@@ -166,7 +166,7 @@ TEST_F(ExplorerTest, AnEditTellsTheViewOfNothingButItsOwnRow) {
     EXPECT_EQ(Names("lvGlobals"), (Texts{"a%", "bz%", "c%"}));
     EXPECT_EQ(told.All(), (Texts{"inserted 1", "removed 1"}));
     EXPECT_EQ(List("lvGlobals").currentIndex().row(), 2);
-    // The row that is selected goes: no other one is selected instead.
+    // When the selected row is removed, no other row is selected instead.
     DeleteLines(2, 2);
     EXPECT_EQ(Names("lvGlobals"), (Texts{"a%", "bz%"}));
     EXPECT_FALSE(List("lvGlobals").currentIndex().isValid());
@@ -324,7 +324,7 @@ TEST_F(ExplorerTest, AClosedFileOfAProjectIsOpenedAgain) {
     EXPECT_EQ(Rows("lvGlobals"), (Texts{"a%|a.bb", "b%|b.bb"}));
 }
 
-// Names that other files have as well, and names that stand in a function or a type.
+// Names that other files have as well, and names inside a function or type.
 TEST_F(ExplorerTest, AReopenedFileIsEnteredAtTheNameThatWasChosen) {
     OpenProject("Global n\r\nFunction f()\r\nLocal l\r\nEnd Function\r\n",
                 "y\r\nGlobal n\r\nGlobal n\r\nFunction f()\r\nLocal l\r\nEnd Function\r\n"
@@ -345,7 +345,7 @@ TEST_F(ExplorerTest, AReopenedFileIsEnteredAtTheNameThatWasChosen) {
     EXPECT_EQ(chosen("Globals", 2), "b.bb:2");
     EXPECT_EQ(chosen("Functions", 2), "b.bb:3");
     EXPECT_EQ(chosen("Functions", 2, "lvLocals", 0), "b.bb:4");
-    EXPECT_EQ(chosen("Types", 0, "lvFields", 0), "b.bb:8"); // "l" comes in front of "x"
+    EXPECT_EQ(chosen("Types", 0, "lvFields", 0), "b.bb:8"); // "l" comes before "x"
 }
 
 TEST_F(ExplorerTest, ADeclarationInAClosedFileIsOpened) {

@@ -1,5 +1,4 @@
-// Another start hands over files while a dialog is open: whatever was asked, every text stays in its own
-// file, its own tab and its own tables.
+// Another start hands over files while a dialog is open: every text stays in its own file, tab and tables.
 #include "WindowTest.h"
 #include "app/wire_up.h"
 #include "host/ErrorLog.h"
@@ -63,7 +62,7 @@ struct HandoverTest : WindowTest {
         Mod_Main::TextReceived("\"" + two + "\"");
         Mod_Main::TextReceived("\"" + one + "\"");
     }
-    // A dialog or a menu is up: the first gets the files and the answer of the case, those behind it close.
+    // A dialog or menu is open: the first one gets the files and the case's answer, later ones are closed.
     void Meet() {
         QWidget* up = QApplication::activePopupWidget();
         if (!up) up = QApplication::activeModalWidget();

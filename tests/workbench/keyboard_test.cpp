@@ -1,5 +1,5 @@
-// What the keyboard reaches, in which order, and what a screen reader is told of it: of the window in its
-// states and of every dialog.
+// What the keyboard reaches, in which order, and what a screen reader gets: for the window in its states and
+// for every dialog.
 #include "WindowTest.h"
 #include "app/ReadableStyle.h"
 #include "workbench/dialogs/frmError.h"
@@ -29,7 +29,7 @@ std::string Describe(const QWidget* widget) {
            (' ' + widget->objectName() + ' ' + widget->accessibleName()).toStdString();
 }
 
-// Where Tab stops in one direction, until it comes round.
+// The stops of Tab in one direction, until it wraps.
 Widgets Walk(QWidget& top, bool forward) {
     struct Reach : QWidget {
         using QWidget::focusNextPrevChild;
@@ -187,7 +187,7 @@ TEST_F(KeyboardTest, NextPaneVisitsEveryPartAndEscapeLeadsBack) {
         EXPECT_TRUE(InText()) << away;
     }
     Choose("Next Pane");
-    Press(Qt::Key_Return); // the edge's tab lets its pane out
+    Press(Qt::Key_Return); // the tab at the edge slides its pane out
     EXPECT_TRUE(qobject_cast<QPlainTextEdit*>(QApplication::focusWidget()));
     Press(Qt::Key_Escape);
     EXPECT_TRUE(InText());
@@ -198,7 +198,7 @@ TEST_F(KeyboardTest, AKeyShowsAPaneAndHidesOnlyTheOneWithTheFocus) {
     Press(Qt::Key_5, Qt::AltModifier);
     EXPECT_TRUE(output.HasFocus());
     Press(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(output.HasFocus()); // never closed by the command that goes there
+    EXPECT_TRUE(output.HasFocus()); // the command that goes there never closes it
     Press(Qt::Key_5, Qt::AltModifier);
     EXPECT_FALSE(output.Visible());
     EXPECT_TRUE(InText());

@@ -14,7 +14,7 @@
 
 namespace {
 
-// A list that nobody sees must not get the keys.
+// A hidden list must not receive keys.
 TEST_F(WindowTest, AListOfTheExplorerIsShownBeforeItGetsTheFocus) {
     ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
     for (const bool rolled : {true, false}) {
@@ -27,7 +27,7 @@ TEST_F(WindowTest, AListOfTheExplorerIsShownBeforeItGetsTheFocus) {
     }
 }
 
-// "Close Tab" closes whatever is in front, also what "Close File" leaves alone.
+// "Close Tab" closes the active tab, even one that "Close File" leaves open.
 TEST_F(WindowTest, CloseTabClosesTheTabInFront) {
     ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
     ASSERT_TRUE(Mod_File::OpenFile(host.Put("b.bb", "Print 1\r\n")));
@@ -129,8 +129,8 @@ TEST_F(WindowTest, TheTabsMenuHoldsWhatFitsTheDocument) {
     static_cast<QtCommand*>(dock->FindCommand("TabsContextMenu"))->Menu()->close();
 }
 
-// The first press goes back to the tab before, and back again; while Control stays down, on through the
-// group.
+// The first press returns to the previous tab, and back again; while Control stays down it continues through
+// the group.
 TEST_F(WindowTest, NextTabBeginsWithTheTabBefore) {
     for (const char* name : {"a.bb", "b.bb", "c.bb"})
         ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, "Print 1\r\n")));

@@ -90,7 +90,7 @@ std::string Expressions::call(const Scope& scope, bool asStatement) {
     const FunctionInfo* function = callee(scope, nullptr);
     if (!function) return "";
     const std::string list = arguments(*function, scope);
-    // "$12" or ".5" behind the name would read as a part of the name.
+    // "$12" or ".5" after the name would read as a part of the name.
     const bool plain = !list.empty() && list[0] != '$' && list[0] != '.';
     const bool bare = asStatement && plain && random.percent(20);
     return bare ? function->name + " " + list : function->name + "(" + list + ")";

@@ -93,7 +93,7 @@ void ProgramWriter::mainProgram() {
     put("");
 }
 
-// The main program stands above the functions, but what it calls is known only once they are written.
+// The main program comes before the functions, but its calls are known only once they are written.
 void ProgramWriter::fillMainCalls() {
     Scope scope;
     scope.callBelow = topLevel + 1;
@@ -131,7 +131,7 @@ std::string ProgramWriter::header(const FunctionInfo& info) {
     for (const Variable& parameter : info.parameters) {
         if (!text.empty()) text += ", ";
         text += parameter.name + suffix(parameter.kind);
-        // Behind an optional parameter all others are optional too.
+        // After an optional parameter all others are optional too.
         optional = optional || (!text.empty() && random.percent(12));
         if (optional) text += " = " + expressions.literal(parameter.kind);
     }

@@ -1,5 +1,5 @@
 // The program's floors without a window: real files, real edit controls on the offscreen platform, an empty
-// temporary settings store, and dialogs that answer themselves. Fills gHost for as long as it lives.
+// temporary settings store, and dialogs that answer themselves. Fills gHost while it lives.
 #pragma once
 
 #include "HeadlessDock.h"
@@ -15,7 +15,7 @@
 #include <memory>
 #include <string>
 
-// Answers with the default button and tells on standard error what was shown.
+// Answers with the default button and prints the message on standard error.
 class QuietDialogs : public Dialogs {
 public:
     MessageAnswer Show(const Message& message) override;

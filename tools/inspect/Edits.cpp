@@ -1,4 +1,4 @@
-// Operations as JSON Lines, and the keys and commands that they stand for.
+// Operations as JSON Lines, and the keys and commands for them.
 #include "Edits.h"
 
 #include "editor/frmDoc.h"
@@ -144,7 +144,7 @@ void Paste(const std::string& bytes) {
     Mod_Sci::GotoPos(Mod_Sci::GetTargetEnd());
 }
 
-// The place where a click would put the caret: never inside a CR LF or a character of several bytes.
+// The caret position after a click: never inside a CR LF or a character of several bytes.
 long Snapped(long position) {
     position = std::min(position, static_cast<long>(Mod_Sci::GetLength()));
     if (Mod_Sci::GetCharAt(position - 1) == '\r' && Mod_Sci::GetCharAt(position) == '\n') --position;

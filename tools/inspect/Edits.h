@@ -7,7 +7,7 @@
 struct EditOperation {
     enum class Kind { Caret, Select, Type, NewLine, Backspace, Delete, Paste, Undo, Redo, Command, Settle };
     Kind kind = Kind::Settle;
-    long from = 0; // byte offsets; the caret's place stands here
+    long from = 0; // byte offsets; the caret is here
     long to = 0;
     std::string text; // bytes to type or to paste, or a command's name
 };
@@ -16,5 +16,5 @@ struct EditOperation {
 // the file cannot be read.
 bool ReadEdits(const std::string& path, std::vector<EditOperation>& operations, std::string& error);
 
-// Plays them and settles; answers the time of each in microseconds.
+// Plays the operations and settles; returns the duration of each in microseconds.
 std::vector<long long> PlayEdits(const std::vector<EditOperation>& operations);

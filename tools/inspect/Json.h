@@ -28,5 +28,5 @@ private:
     void Quote(std::string_view bytes, bool keepHigh = false);
 
     std::string text_;
-    bool first_ = true; // nothing stands before the next element
+    bool first_ = true; // nothing precedes the next element
 };

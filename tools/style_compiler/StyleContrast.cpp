@@ -50,7 +50,7 @@ std::vector<Pairing> measureContrast(const StyleTable& table) {
     pairings.push_back(pair(table, "STYLE_SelectionFore", "Style_InactiveSelectionBack"));
     pairings.push_back(pair(table, "STYLE_CalltipFore", "STYLE_CallTipBack", leastNormalTextContrast));
     pairings.push_back(pair(table, "STYLE_CallTipHigh", "STYLE_CallTipBack"));
-    // A breakpoint may be shown as the ground of its line, on which the word Stop and plain text stand.
+    // A breakpoint may be shown as the background of its line, with the word Stop and plain text on it.
     pairings.push_back(pair(table, "STYLE_Keyword", "Style_BREAKPOINTS"));
     pairings.push_back(pair(table, "STYLE_Text", "Style_BREAKPOINTS"));
     return pairings;

@@ -1,5 +1,5 @@
-// Tells whether a colour style can be read: contrast of each text colour to each ground it stands on.
-// The measure is the WCAG contrast ratio, from 1 (same colour) to 21 (black on white).
+// Checks that a colour style is readable: the contrast of each text colour with each background it appears
+// on. The measure is the WCAG contrast ratio, from 1 (same colour) to 21 (black on white).
 #pragma once
 
 #include "StyleTable.h"

@@ -6,7 +6,7 @@ namespace styles {
 namespace {
 
 constexpr int formatVersion = 1;
-constexpr int descriptionPadding = 50; // spaces behind the description's NUL
+constexpr int descriptionPadding = 50; // spaces after the NUL of the description
 
 void put16(std::string& out, int value) {
     out += static_cast<char>(value & 0xff);

@@ -76,7 +76,7 @@ const Tag* findTag(std::string_view name) {
 
 namespace {
 
-// The loader reads a description into 255 characters; it needs the NUL behind the text among them.
+// The loader reads a description into 255 characters; it needs the NUL after the text among them.
 constexpr std::size_t maxDescription = 254;
 constexpr int smallestFont = 6, largestFont = 16; // the sizes that the style editor offers
 

@@ -19,8 +19,8 @@ struct Rgb {
     bool operator==(const Rgb&) const = default;
 };
 
-// One slot of the table. A text slot uses `fore` and the font fields; the meaning of the three colours
-// of the other slots is told by their tags (see tagList).
+// One slot of the table. A text slot uses `fore` and the font fields; the tags of the other slots (see
+// tagList) define the meaning of their three colours.
 struct Slot {
     Rgb fore, back, other;
     std::string fontName;
@@ -35,7 +35,7 @@ struct StyleTable {
 
 enum class Cell { Fore, Back, Other };
 
-// What a tag of the text table stands for. Text tags may carry bold, italic and underline.
+// The meaning of a tag of the text table. Text tags may carry bold, italic and underline.
 struct Tag {
     std::string_view name;
     int slot;
