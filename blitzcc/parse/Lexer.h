@@ -12,7 +12,7 @@ public:
     Lexer(std::string_view text, uint32_t file, Symbols& symbols)
         : text_(text), file_(file), symbols_(symbols) {}
 
-    /// The token some places ahead; behind the last line stands Tok::End for ever. Throws CompileError on a
+    /// The token some places ahead; after the last line Tok::End for ever. Throws CompileError on a
     /// character that no token begins with and on a string that its line does not close.
     const Token& peek(size_t ahead = 0);
     /// Steps to the next token.

@@ -40,12 +40,12 @@ public:
         : line_(line), sequential_(sequential), tokens_(tokens) {}
 
     LineSymbols Run(const LineEvents& events) {
-        for (const LineEvent& event : events) One(event);
+        for (const LineEvent& event : events) Find(event);
         return std::move(found_);
     }
 
 private:
-    void One(const LineEvent& event) {
+    void Find(const LineEvent& event) {
         ClsProject& project = *gCurrentProject;
         switch (event.kind) {
         case LineEvent::Label: Find(event, project.Labels); break;

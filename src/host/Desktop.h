@@ -60,7 +60,7 @@ public:
 
     // Whether another process of this program runs for this user. The first caller becomes the owner.
     virtual bool AnotherRuns() = 0;
-    // Opens the channel; answers the text that names it for others, to be stored.
+    // Opens the channel and returns the text that names it for others, to be stored.
     virtual std::string Publish(std::function<void(const std::string&)> received) = 0;
     // Lets a moment pass in which an instance that is just starting may open its channel.
     virtual void WaitForPublish() = 0;

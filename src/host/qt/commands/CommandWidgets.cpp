@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QProgressBar>
+#include <QScopedValueRollback>
 #include <QTime>
 #include <QTimer>
 
@@ -96,21 +97,21 @@ void CommandCombo::keyPressEvent(QKeyEvent* event) {
 }
 
 void CommandCombo::ShowItems() {
-    showing_ = true;
-    clear();
-    for (const std::string& item : command_.Items()) addItem(Shown(item));
-    showing_ = false;
+    {
+        const QScopedValueRollback<bool> guard(showing_, true);
+        clear();
+        for (const std::string& item : command_.Items()) addItem(Shown(item));
+    }
     ShowText();
 }
 
 void CommandCombo::ShowText() {
-    showing_ = true;
+    const QScopedValueRollback<bool> guard(showing_, true);
     const QString text = Shown(command_.Text());
     if (isEditable())
         setEditText(text);
     else
         setCurrentIndex(findText(text));
-    showing_ = false;
 }
 
 void CommandCombo::Changed(bool committed) {

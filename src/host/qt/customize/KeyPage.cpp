@@ -142,7 +142,7 @@ void KeyPage::ShowConflict() {
     }
 }
 
-void KeyPage::Take(QKeyCombination key, QtCommand& from) {
+void KeyPage::TakeFrom(QKeyCombination key, QtCommand& from) {
     std::vector<QKeyCombination> keys = from.Shortcuts();
     std::erase(keys, key);
     from.SetShortcuts(keys);
@@ -151,7 +151,7 @@ void KeyPage::Take(QKeyCombination key, QtCommand& from) {
 void KeyPage::Assign() {
     if (!command_ || !field_->Key()) return;
     const QKeyCombination key = *field_->Key();
-    if (QtCommand* owner = target_.Table().OwnerOf(key)) Take(key, *owner);
+    if (QtCommand* owner = target_.Table().OwnerOf(key)) TakeFrom(key, *owner);
     std::vector<QKeyCombination> keys = command_->Shortcuts();
     keys.push_back(key);
     command_->SetShortcuts(keys);
@@ -163,7 +163,7 @@ void KeyPage::Assign() {
 void KeyPage::Remove() {
     const int row = keys_->currentRow();
     if (!command_ || row < 0) return;
-    Take(command_->Shortcuts()[static_cast<std::size_t>(row)], *command_);
+    TakeFrom(command_->Shortcuts()[static_cast<std::size_t>(row)], *command_);
     ShowKeys();
     emit KeysChanged();
 }
@@ -175,7 +175,7 @@ void KeyPage::PutBack() {
     const QtCommand first(*record);
     for (const QKeyCombination key : first.Shortcuts()) {
         QtCommand* owner = target_.Table().OwnerOf(key);
-        if (owner && owner != command_) Take(key, *owner);
+        if (owner && owner != command_) TakeFrom(key, *owner);
     }
     command_->SetShortcuts(first.Shortcuts());
     field_->Clear();

@@ -48,7 +48,7 @@ private:
     void Assign();
     void Remove();
     void PutBack();
-    void Take(QKeyCombination key, QtCommand& from);
+    void TakeFrom(QKeyCombination key, QtCommand& from);
 
     CustomizeTarget& target_;
     QtCommand* command_ = nullptr;

@@ -66,6 +66,9 @@ private:
     };
 
     TabGroup* NewGroup();
+    std::vector<QtDocumentWindow*> WindowsInGroups() const;
+    void RemoveGroups();
+    TabGroup* GroupOfRecord(const LayoutArea& area, bool create, std::vector<QtDocumentWindow*>& unplaced);
     void ConnectDrag(TabGroup* group);
     void ListWindows(QMenu& menu);
     void AddToGroup(QtDocumentWindow& window, TabGroup* group, int index);

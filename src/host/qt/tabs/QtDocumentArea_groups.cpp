@@ -98,39 +98,54 @@ LayoutDocuments QtDocumentArea::Record() const {
     return documents;
 }
 
-void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
-    std::vector<QtDocumentWindow*> left; // what the record doesn't know
+std::vector<QtDocumentWindow*> QtDocumentArea::WindowsInGroups() const {
+    std::vector<QtDocumentWindow*> windows;
     for (TabGroup* group : tree_->Groups())
         for (int at = 0; at < group->count(); ++at)
-            if (QtDocumentWindow* window = OfPage(group->widget(at))) left.push_back(window);
+            if (QtDocumentWindow* window = OfPage(group->widget(at))) windows.push_back(window);
+    return windows;
+}
+
+void QtDocumentArea::RemoveGroups() {
+    for (TabGroup* group : tree_->Groups()) {
+        while (group->count() > 0) group->removeTab(0);
+        tree_->Remove(group);
+        group->deleteLater();
+    }
+}
+
+// Makes the group of a record from its windows and removes these from `unplaced`. With `create` makes missing
+// windows. Returns null for a group without windows.
+TabGroup* QtDocumentArea::GroupOfRecord(const LayoutArea& area, bool create,
+                                        std::vector<QtDocumentWindow*>& unplaced) {
+    TabGroup* group = nullptr;
+    for (const LayoutWindow& record : area.windows) {
+        QtDocumentWindow* window = Find(record.key);
+        if (!window && create) {
+            windows_.push_back(std::make_unique<QtDocumentWindow>(*this, record.key, record.caption));
+            window = windows_.back().get();
+            unplaced.push_back(window);
+        }
+        const auto at = std::find(unplaced.begin(), unplaced.end(), window);
+        if (at == unplaced.end()) continue;
+        unplaced.erase(at);
+        if (!group) group = NewGroup();
+        group->addTab(window->Page(), QString());
+    }
+    if (group) group->setCurrentIndex(std::clamp(area.front, 0, group->count() - 1));
+    return group;
+}
+
+void QtDocumentArea::Restore(const LayoutDocuments& documents, bool create) {
+    std::vector<QtDocumentWindow*> unplaced = WindowsInGroups();
     {
         const QScopedValueRollback<bool> guard(arranging_, true);
-        for (TabGroup* group : tree_->Groups()) {
-            while (group->count() > 0) group->removeTab(0);
-            tree_->Remove(group);
-            group->deleteLater();
-        }
-        tree_->Restore(documents.area, [&](const LayoutArea& area) {
-            TabGroup* group = nullptr;
-            for (const LayoutWindow& record : area.windows) {
-                QtDocumentWindow* window = Find(record.key);
-                if (!window && create) {
-                    windows_.push_back(std::make_unique<QtDocumentWindow>(*this, record.key, record.caption));
-                    window = windows_.back().get();
-                    left.push_back(window);
-                }
-                const auto at = std::find(left.begin(), left.end(), window);
-                if (at == left.end()) continue;
-                left.erase(at);
-                if (!group) group = NewGroup();
-                group->addTab(window->Page(), QString());
-            }
-            if (group) group->setCurrentIndex(std::clamp(area.front, 0, group->count() - 1));
-            return group;
-        });
+        RemoveGroups();
+        tree_->Restore(documents.area,
+                       [&](const LayoutArea& area) { return GroupOfRecord(area, create, unplaced); });
         if (tree_->Groups().empty()) tree_->Add(NewGroup(), nullptr, Qt::Horizontal, false);
         TabGroup* first = tree_->Groups().front();
-        for (QtDocumentWindow* window : left) first->addTab(window->Page(), QString());
+        for (QtDocumentWindow* window : unplaced) first->addTab(window->Page(), QString());
         for (const auto& window : windows_) window->ShowCaption();
         if (active_) active_->Group()->setCurrentWidget(active_->Page());
     }

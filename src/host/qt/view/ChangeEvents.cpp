@@ -6,7 +6,6 @@
 
 #include <Qsci/qsciscintillabase.h>
 
-#include <QGuiApplication>
 #include <algorithm>
 #include <cstring>
 #include <vector>
@@ -39,12 +38,25 @@ QByteArray TextOf(unsigned message, std::uintptr_t length, std::intptr_t text) {
     }
 }
 
+bool IsWatched(unsigned message) {
+    switch (message) {
+    case Base::SCI_SETMODEVENTMASK:
+    case Base::SCI_AUTOCSHOW:
+    case Base::SCI_REPLACESEL:
+    case Base::SCI_INSERTTEXT:
+    case Base::SCI_ADDTEXT:
+    case Base::SCI_REPLACETARGET:
+    case Base::SCI_PASTE: return true;
+    default: return false;
+    }
+}
+
 } // namespace
 
 ChangeEvents::ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
-                           std::function<void()> travelled)
+                           std::function<void()> travelled, std::function<bool()> mayShowList)
     : view_(view), hand_(std::move(hand)), unheard_(std::move(unheard)), travelled_(std::move(travelled)),
-      pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
+      mayShowList_(std::move(mayShowList)), pointer_(view.SendScintilla(Base::SCI_GETDIRECTPOINTER)) {
     views.push_back(this);
 }
 
@@ -64,56 +76,36 @@ ChangeEvents* ChangeEvents::Of(std::intptr_t pointer) {
     return nullptr;
 }
 
+// Sends a message that this class has to watch.
+std::intptr_t ChangeEvents::SendWatched(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) {
+    const std::intptr_t pointer = pointer_;
+    switch (message) {
+    case Base::SCI_SETMODEVENTMASK:
+        mask_ = static_cast<int>(wParam);
+        ApplyMask();
+        if (!narrowed_) unheard_();
+        return 0;
+    case Base::SCI_AUTOCSHOW:
+        if (!mayShowList_()) message = Base::SCI_AUTOCCANCEL;
+        return libraryFunction(pointer, message, wParam, lParam);
+    default: break;
+    }
+    inserting_ = TextOf(message, wParam, lParam);
+    const std::intptr_t result = libraryFunction(pointer, message, wParam, lParam);
+    if (ChangeEvents* events = Of(pointer)) events->inserting_.clear();
+    return result;
+}
+
 std::intptr_t ChangeEvents::Direct(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
                                    std::intptr_t lParam) {
     if (owing) FlushPending();
-    std::intptr_t answer = 0;
-    switch (message) {
-    case Base::SCI_SETMODEVENTMASK:
-        if (ChangeEvents* events = Of(pointer)) {
-            events->mask_ = static_cast<int>(wParam);
-            events->ApplyMask();
-            if (!events->narrowed_) events->unheard_();
-            break;
-        }
-        [[fallthrough]];
-    default: answer = libraryFunction(pointer, message, wParam, lParam); break;
-    case Base::SCI_AUTOCSHOW: {
-        const ChangeEvents* events = Of(pointer);
-        if (events && !events->CaretOnScreen()) message = Base::SCI_AUTOCCANCEL;
-        answer = libraryFunction(pointer, message, wParam, lParam);
-        break;
-    }
-    case Base::SCI_REPLACESEL:
-    case Base::SCI_INSERTTEXT:
-    case Base::SCI_ADDTEXT:
-    case Base::SCI_REPLACETARGET: {
-        ChangeEvents* events = Of(pointer);
-        if (events) events->inserting_ = TextOf(message, wParam, lParam);
-        answer = libraryFunction(pointer, message, wParam, lParam);
-        if (events) events->inserting_.clear();
-        break;
-    }
-    case Base::SCI_PASTE: {
-        answer = libraryFunction(pointer, message, wParam, lParam);
-        if (ChangeEvents* events = Of(pointer)) events->inserting_.clear();
-        break;
-    }
-    }
+    ChangeEvents* events = IsWatched(message) ? Of(pointer) : nullptr;
+    const std::intptr_t result = events ? events->SendWatched(message, wParam, lParam)
+                                        : libraryFunction(pointer, message, wParam, lParam);
     if (owing) FlushPending();
     if (message == Base::SCI_UNDO || message == Base::SCI_REDO)
-        if (ChangeEvents* events = Of(pointer)) events->travelled_();
-    return answer;
-}
-
-// The library asks the screen under the caret for the maximum size of a list and crashes without a screen.
-bool ChangeEvents::CaretOnScreen() const {
-    const auto caret = view_.SendScintilla(Base::SCI_GETCURRENTPOS);
-    const auto x = view_.SendScintilla(Base::SCI_POINTXFROMPOSITION, 0L, caret);
-    const auto y = view_.SendScintilla(Base::SCI_POINTYFROMPOSITION, 0L, caret);
-    const QPoint point(static_cast<int>(x), static_cast<int>(y));
-    return QGuiApplication::screenAt(view_.viewport()->mapToGlobal(point)) &&
-           QGuiApplication::screenAt(view_.mapToGlobal(point));
+        if (ChangeEvents* travelled = Of(pointer)) travelled->travelled_();
+    return result;
 }
 
 void ChangeEvents::ApplyMask() {
@@ -134,7 +126,7 @@ void ChangeEvents::FlushPending() {
     events.hand_(events.after_);
 }
 
-void ChangeEvents::Take(const SciNotification& notification) {
+void ChangeEvents::Deliver(const SciNotification& notification) {
     // When the save point is left the text has changed, but nothing else of the view has followed yet.
     if (owing && notification.code != SavePointLeft) FlushPending();
     const bool change = notification.code == Modified;

@@ -15,8 +15,9 @@ public:
 
     // `hand` receives what the view's owner is to see. `unheard` runs after changes for which the owner
     // wanted no notifications. `travelled` runs after each undo and redo.
+    // `mayShowList` decides whether a completion list opens; a refused one closes the open list.
     ChangeEvents(QsciScintillaBase& view, Hand hand, std::function<void()> unheard,
-                 std::function<void()> travelled);
+                 std::function<void()> travelled, std::function<bool()> mayShowList);
     ~ChangeEvents();
     ChangeEvents(const ChangeEvents&) = delete;
     ChangeEvents& operator=(const ChangeEvents&) = delete;
@@ -25,8 +26,8 @@ public:
     // before and after each message.
     static SciDirectFunction DirectFunction(SciDirectFunction library);
 
-    // Takes a notification of the library and hands it on. What a change before it owes comes first.
-    void Take(const SciNotification& notification);
+    // Passes a notification of the library on, after the pending one of an earlier change.
+    void Deliver(const SciNotification& notification);
 
     // Announces the text to be inserted while it lives, because the notification before an insertion carries
     // no text.
@@ -47,7 +48,7 @@ private:
     static std::intptr_t Direct(std::intptr_t pointer, unsigned message, std::uintptr_t wParam,
                                 std::intptr_t lParam);
     void ApplyMask();
-    bool CaretOnScreen() const;
+    std::intptr_t SendWatched(unsigned message, std::uintptr_t wParam, std::intptr_t lParam);
     static void FlushPending();
     static ChangeEvents* Of(std::intptr_t pointer);
 
@@ -55,6 +56,7 @@ private:
     Hand hand_;
     std::function<void()> unheard_;
     std::function<void()> travelled_;
+    std::function<bool()> mayShowList_;
     std::intptr_t pointer_;
     int mask_ = -1; // -1: not set, the library's own value is in force
     bool narrowed_ = false;

@@ -93,7 +93,7 @@ public:
     void deleteText(int start, int end) override { replaceText(start, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override {
-        const QByteArray bytes = view_.Take(text); // first, because offsets may change
+        const QByteArray bytes = view_.ForDocument(text); // first, because offsets may change
         setSelection(0, start, end);
         view_.ReplaceSelection(bytes);
     }

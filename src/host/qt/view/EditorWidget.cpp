@@ -7,9 +7,11 @@
 
 #include <QChildEvent>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -57,7 +59,8 @@ EditorWidget::EditorWidget(QWidget* parent)
                                          const auto utf8 = std::exchange(historyUtf8_, std::nullopt);
                                          if (utf8 && *utf8 != IsUtf8() && events_)
                                              events_->OnHistoryCodePage(*utf8);
-                                     }) {
+                                     },
+                                     [this] { return CaretOnScreen(); }) {
     setFrameShape(QFrame::NoFrame);
     SendScintilla(SCI_SETCODEPAGE, 0UL);
     SendScintilla(SCI_USEPOPUP, 0UL);
@@ -74,7 +77,17 @@ EditorWidget::EditorWidget(QWidget* parent)
 
 bool EditorWidget::IsUtf8() const { return SendScintilla(SCI_GETCODEPAGE) == Utf8CodePage; }
 
-void EditorWidget::Notify(const SciNotification& notification) { changes_.Take(notification); }
+// The library asks the screen under the caret for the maximum size of a list and crashes without a screen.
+bool EditorWidget::CaretOnScreen() const {
+    const auto caret = SendScintilla(SCI_GETCURRENTPOS);
+    const auto x = SendScintilla(SCI_POINTXFROMPOSITION, 0L, caret);
+    const auto y = SendScintilla(SCI_POINTYFROMPOSITION, 0L, caret);
+    const QPoint point(static_cast<int>(x), static_cast<int>(y));
+    return QGuiApplication::screenAt(viewport()->mapToGlobal(point)) &&
+           QGuiApplication::screenAt(mapToGlobal(point));
+}
+
+void EditorWidget::Notify(const SciNotification& notification) { changes_.Deliver(notification); }
 
 // The library would silently insert "?" for a character without a byte in the code page, so the owner is
 // asked first.
@@ -174,12 +187,12 @@ bool EditorWidget::canInsertFromMimeData(const QMimeData* source) const { return
 QByteArray EditorWidget::fromMimeData(const QMimeData* source, bool& rectangular) const {
     QByteArray bytes = QsciScintillaBase::fromMimeData(source, rectangular);
     // The library knows Latin-1 alone.
-    bytes = Take(source->hasText() ? source->text() : QString::fromLatin1(bytes));
+    bytes = ForDocument(source->hasText() ? source->text() : QString::fromLatin1(bytes));
     changes_.Insert(bytes);
     return bytes;
 }
 
-QByteArray EditorWidget::Take(const QString& text) const {
+QByteArray EditorWidget::ForDocument(const QString& text) const {
     Offer(text);
     QByteArray bytes = InDocument(text);
     bytes.replace("\r\n", "\n").replace('\r', '\n');
@@ -226,9 +239,10 @@ void EditorWidget::dropEvent(QDropEvent* event) {
 }
 
 void EditorWidget::paintEvent(QPaintEvent* event) {
-    painting_ = true;
-    QsciScintillaBase::paintEvent(event);
-    painting_ = false;
+    {
+        const QScopedValueRollback<bool> guard(painting_, true);
+        QsciScintillaBase::paintEvent(event);
+    }
     if (!IsUtf8()) PaintHighBytes(*this);
 }
 
@@ -258,7 +272,7 @@ void EditorWidget::InsertTyped(const QString& text) {
     lines.replace("\r\n", "\n").replace('\r', '\n');
     for (const QString& character : Characters(lines)) {
         if (!TakesCharacter(character)) continue;
-        const QByteArray bytes = Take(character);
+        const QByteArray bytes = ForDocument(character);
         if (character == "\n") {
             ReplaceSelection(bytes);
             continue;

@@ -23,9 +23,9 @@ public:
     // The last key moved in a completion list, which is still open.
     bool MovedInList() const { return movedInList_ && SendScintilla(SCI_AUTOCACTIVE); }
 
-    // The bytes in which the document takes a text from outside, with its line ends; what it lacks a byte for
-    // is offered to its owner before, and becomes a question mark where it is refused.
-    QByteArray Take(const QString& text) const;
+    // Returns a text from outside in the document's bytes and line ends. A character without a byte is
+    // offered to the owner first and becomes a question mark if the owner refuses it.
+    QByteArray ForDocument(const QString& text) const;
     // Puts bytes of the document in place of the selection, in one step of the history.
     void ReplaceSelection(const QByteArray& bytes);
     TextTeller& Teller() { return teller_; }
@@ -46,6 +46,7 @@ protected:
 private:
     void ConnectNotifications();
     void Notify(const SciNotification& notification);
+    bool CaretOnScreen() const;
 
     bool TakesCharacter(const QString& character) const;
     void Offer(const QString& text) const;
