@@ -58,7 +58,7 @@ constexpr bool KeysDiffer() {
 
 constexpr bool DefaultsAreInRange() {
     return std::all_of(std::begin(Table), std::end(Table), [](const Option& option) {
-        return option.number == nullptr || option.range.Holds(option.defaultNumber);
+        return option.range.Holds(option.defaultNumber); // a text has the number 0 and a range that holds it
     });
 }
 
