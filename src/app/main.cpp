@@ -10,6 +10,7 @@
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/qt/frame/QtDockStudio.h"
+#include "host/qt/system/QtClock.h"
 #include "host/qt/system/QtDesktop.h"
 #include "host/qt/system/QtDialogs.h"
 #include "host/qt/system/QtFiles.h"
@@ -49,11 +50,14 @@ struct Services {
                              }};
     QtProcesses processes;
     QtDesktop desktop;
+    QtClock clock;
     QtInstances instances;
     QtEditorViews views;
     QtDockStudio dock;
 
-    Services() { gHost = {&dialogs, &files, &settings, &processes, &desktop, &instances, &views, &dock}; }
+    Services() {
+        gHost = {&dialogs, &files, &settings, &processes, &desktop, &clock, &instances, &views, &dock};
+    }
     // What is destroyed later must not ask for them.
     ~Services() { gHost = {}; }
     Services(const Services&) = delete;

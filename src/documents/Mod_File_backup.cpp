@@ -3,7 +3,7 @@
 #include "documents/Mod_File_backup.h"
 
 #include "documents/Options.h"
-#include "host/Desktop.h"
+#include "host/Clock.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
 #include "host/Files.h"
@@ -33,10 +33,10 @@ void MakeStoreFolder(const std::string& folder) {
 
 // Date and time of now, for a file name.
 std::string Stamp() {
-    const std::string date = gHost.desktop->Date();
-    const std::string time = gHost.desktop->Time();
+    const std::string date = gHost.clock->Date();
+    const std::string time = gHost.clock->Time();
     const std::string year = date.substr(0, 4), month = date.substr(5, 2), day = date.substr(8, 2);
-    const bool monthFirst = gHost.desktop->ShortDate(1993, 12, 25).starts_with("12");
+    const bool monthFirst = gHost.clock->ShortDate(1993, 12, 25).starts_with("12");
     return "_" + (monthFirst ? month + "." + day : day + "." + month) + "." + year + "_" + time.substr(0, 2) +
            "." + time.substr(3, 2) + ".bak";
 }

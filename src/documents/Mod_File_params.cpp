@@ -57,7 +57,7 @@ std::optional<std::string> MarkedLines(int marker, const std::string& prefix, in
     int entries = 0;
     int rows = 0;
     for (int line = 0;; ++line) {
-        line = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(marker)));
+        line = Mod_Sci::MarkerNext(line, MaskOf(marker));
         if (line < 0) return block;
         if (!counts(line)) continue;
         if (entries % EntriesOnALine == 0) {
@@ -71,7 +71,7 @@ std::optional<std::string> MarkedLines(int marker, const std::string& prefix, in
 
 template <class Visit>
 void ForEachLineNumber(std::string_view text, Visit visit) {
-    const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+    const int lines = Mod_Sci::GetLineCount();
     for (std::size_t at = text.find('#'); at != std::string_view::npos;) {
         const std::size_t next = text.find('#', at + 1);
         const int line = FromHex(text.substr(at + 1, next == std::string_view::npos ? next : next - at - 1));

@@ -15,6 +15,7 @@
 #include "host/Dialogs.h"
 #include "host/ErrorLog.h"
 #include "host/Host.h"
+#include "host/Instances.h"
 #include "host/Outside.h"
 #include "host/SettingsStore.h"
 

@@ -15,6 +15,7 @@
 #include "host/Files.h"
 #include "host/Host.h"
 #include "host/HostCalls.h"
+#include "host/Instances.h"
 #include "host/Outside.h"
 #include "host/Paths.h"
 #include "host/SettingsStore.h"

@@ -161,8 +161,7 @@ private:
 
     void Locals() {
         if (CurrentFunctionName.empty())
-            SetFunction(Mod_Parse::CurrentFunction(
-                static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()))));
+            SetFunction(Mod_Parse::CurrentFunction(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
         const SymbolPointer function = gCurrentProject->Funkcii.ItemHash(CurrentFunctionName);
         if (function) Table(*static_cast<const ClsFunkcija&>(*function).Locals);
     }
@@ -216,7 +215,7 @@ void AutocompleteBackSlash(const ClsType& typeRecord, const std::string& prefix)
 
 void ShowAutocomplete() {
     const CompletionAsked asked;
-    Mod_Parse::ColorCurrentLine(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())), false);
+    Mod_Parse::ColorCurrentLine(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), false);
 }
 
 } // namespace Mod_SciFun

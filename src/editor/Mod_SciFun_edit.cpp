@@ -27,7 +27,7 @@ namespace {
 
 using Mod_Parse::HasMarker;
 
-int LineOf(std::intptr_t position) { return static_cast<int>(Mod_Sci::LineFromPosition(position)); }
+int LineOf(std::intptr_t position) { return Mod_Sci::LineFromPosition(position); }
 int CaretLine() { return LineOf(Mod_Sci::GetCurrentPos()); }
 
 std::string TextOf(int line) {
@@ -155,7 +155,7 @@ std::string RelativePath(const std::string& path) {
 LineSpan SelectedLines() {
     LineSpan lines = LinesOfSelection();
     if (!Mod_Sci::GetFoldExpanded(lines.last))
-        lines.last = std::max(lines.last, static_cast<int>(Mod_Sci::GetLastChild(lines.last, -1)));
+        lines.last = std::max(lines.last, Mod_Sci::GetLastChild(lines.last, -1));
     return lines;
 }
 

@@ -45,7 +45,7 @@ void Shift(int columns) {
     {
         const OwnChange change;
         for (int line = lines.first; line <= lines.last; ++line)
-            SetIndentation(line, static_cast<int>(Mod_Sci::GetLineIndentation(line)) + columns);
+            SetIndentation(line, Mod_Sci::GetLineIndentation(line) + columns);
     }
     Mod_Sci::SetSel(Mod_Sci::PositionFromLine(lines.first), Mod_Sci::GetLineEndPosition(lines.last));
 }
@@ -130,12 +130,12 @@ LineSpan LinesOfFunction(int line) {
     constexpr int Mask = MaskOf(MarkerFunction);
     const FunctionsOnLine own = FunctionsOn(line);
     int first = line;
-    if (own.endsAbove || !own.begins) first = static_cast<int>(Mod_Sci::MarkerPrevious(line - 1, Mask));
+    if (own.endsAbove || !own.begins) first = Mod_Sci::MarkerPrevious(line - 1, Mask);
     if (first < line && !FunctionsOn(first).goesBelow) first = 0;
     // The line that ends a function is still its own.
     const bool ends = !own.goesBelow && (own.begins || own.endsAbove);
-    int last = ends ? line : static_cast<int>(Mod_Sci::MarkerNext(line + 1, Mask));
-    if (last < 0) last = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
+    int last = ends ? line : Mod_Sci::MarkerNext(line + 1, Mask);
+    if (last < 0) last = Mod_Sci::GetLineCount() - 1;
     return {first, last};
 }
 

@@ -75,8 +75,7 @@ void GotoDeclaration() {
         const auto start = Mod_Sci::WordStartPosition(caret, 1);
         const std::string word = Mod_Sci::GetTextRange(start, Mod_Sci::WordEndPosition(caret, 1));
         if (word.empty()) return;
-        clsHash* table = TableOf(Mod_Sci::GetStyleAt(start) & StyleBits,
-                                 static_cast<int>(Mod_Sci::LineFromPosition(caret)));
+        clsHash* table = TableOf(Mod_Sci::GetStyleAt(start) & StyleBits, Mod_Sci::LineFromPosition(caret));
         SymbolPointer symbol = table == nullptr ? nullptr : Declaration(*table, word);
         if (!symbol || symbol->File.empty()) return;
         RememberCaret();

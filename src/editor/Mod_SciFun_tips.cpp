@@ -180,7 +180,7 @@ void ShowCalltip() {
     if (!DocumentActive()) return;
     gActiveDoc->State.mShowCallTip = true;
     const auto pos = Mod_Sci::GetCurrentPos();
-    ShowHelp(pos, static_cast<int>(Mod_Sci::LineFromPosition(pos)));
+    ShowHelp(pos, Mod_Sci::LineFromPosition(pos));
 }
 
 void KeywordHelp() {

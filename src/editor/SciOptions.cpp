@@ -3,6 +3,7 @@
 
 #include "editor/StyleTable.h"
 #include "engine/DocumentRecord.h"
+#include "engine/Markers.h"
 #include "engine/OptionsEdit.h"
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
@@ -21,7 +22,6 @@ constexpr int MaskFolders = static_cast<int>(0xFE000000);
 constexpr int FoldLinesAroundContracted = 20;
 constexpr int MarkerMarginPixels = 20;
 constexpr int FoldMarginPixels = 16;
-constexpr int BreakpointMarker = 23;
 
 int Shifted(int key) { return key | (SCMOD_SHIFT << 16); }
 
@@ -49,17 +49,18 @@ void SendCaretAndWrap() {
 }
 
 void SendMargins() {
-    Mod_Sci::SetMarginTypeN(0, SC_MARGIN_NUMBER);
-    Mod_Sci::SetMarginSensitiveN(0, 0);
-    Mod_Sci::SetMarginTypeN(1, SC_MARGIN_SYMBOL);
-    Mod_Sci::SetMarginMaskN(1, MaskAllButMainProgramAndFolds);
-    Mod_Sci::SetMarginSensitiveN(1, 1);
-    Mod_Sci::SetMarginWidthN(1, long{MarkerMarginPixels} * ShowMarkerMargin);
-    Mod_Sci::SetMarginTypeN(2, SC_MARGIN_SYMBOL);
-    Mod_Sci::SetMarginMaskN(2, MaskFolders);
-    Mod_Sci::SetMarginSensitiveN(2, 1);
-    Mod_Sci::SetMarginWidthN(2, long{FoldMarginPixels} * ShowFoldMargin);
-    Mod_Sci::MarkerDefine(BreakpointMarker, BreakpointsAsBackground ? SC_MARK_BACKGROUND : SC_MARK_CIRCLE);
+    Mod_Sci::SetMarginTypeN(NumberMargin, SC_MARGIN_NUMBER);
+    Mod_Sci::SetMarginSensitiveN(NumberMargin, 0);
+    Mod_Sci::SetMarginTypeN(MarkerMargin, SC_MARGIN_SYMBOL);
+    Mod_Sci::SetMarginMaskN(MarkerMargin, MaskAllButMainProgramAndFolds);
+    Mod_Sci::SetMarginSensitiveN(MarkerMargin, 1);
+    Mod_Sci::SetMarginWidthN(MarkerMargin, long{MarkerMarginPixels} * ShowMarkerMargin);
+    Mod_Sci::SetMarginTypeN(FoldMargin, SC_MARGIN_SYMBOL);
+    Mod_Sci::SetMarginMaskN(FoldMargin, MaskFolders);
+    Mod_Sci::SetMarginSensitiveN(FoldMargin, 1);
+    Mod_Sci::SetMarginWidthN(FoldMargin, long{FoldMarginPixels} * ShowFoldMargin);
+    Mod_Sci::MarkerDefine(Mod_Parse::MarkerBreakpoint,
+                          BreakpointsAsBackground ? SC_MARK_BACKGROUND : SC_MARK_CIRCLE);
     Mod_Sci::SetFoldFlags(FoldLinesAroundContracted);
 }
 
@@ -100,28 +101,29 @@ void SendKeys() {
 }
 
 void SendMarkerSymbols() {
+    using namespace Mod_Parse;
     constexpr struct {
         int marker;
         int symbol;
-    } symbols[] = {{31, SC_MARK_BOXMINUS},
-                   {30, SC_MARK_BOXPLUS},
-                   {29, SC_MARK_VLINE},
-                   {28, SC_MARK_LCORNER},
-                   {25, SC_MARK_BOXPLUSCONNECTED},
-                   {26, SC_MARK_BOXMINUSCONNECTED},
-                   {27, SC_MARK_TCORNER},
-                   {0, SC_MARK_EMPTY},
-                   {3, SC_MARK_EMPTY},
-                   {5, SC_MARK_EMPTY},
-                   {4, SC_MARK_BOOKMARK},
-                   {7, SC_MARK_EMPTY},
-                   {8, SC_MARK_EMPTY},
-                   {21, SC_MARK_CIRCLE},
-                   {14, SC_MARK_EMPTY},
-                   {2, SC_MARK_EMPTY},
-                   {18, SC_MARK_EMPTY},
-                   {22, SC_MARK_EMPTY},
-                   {13, SC_MARK_BACKGROUND}};
+    } symbols[] = {{MarkerFolderOpen, SC_MARK_BOXMINUS},
+                   {MarkerFolder, SC_MARK_BOXPLUS},
+                   {MarkerFolderSub, SC_MARK_VLINE},
+                   {MarkerFolderTail, SC_MARK_LCORNER},
+                   {MarkerFolderEnd, SC_MARK_BOXPLUSCONNECTED},
+                   {MarkerFolderOpenMid, SC_MARK_BOXMINUSCONNECTED},
+                   {MarkerFolderMidTail, SC_MARK_TCORNER},
+                   {MarkerFunction, SC_MARK_EMPTY},
+                   {MarkerParsed, SC_MARK_EMPTY},
+                   {MarkerFoldOpens, SC_MARK_EMPTY},
+                   {MarkerBookmark, SC_MARK_BOOKMARK},
+                   {MarkerFoldCloses, SC_MARK_EMPTY},
+                   {MarkerDeclares, SC_MARK_EMPTY},
+                   {MarkerMainProgram, SC_MARK_CIRCLE},
+                   {MarkerLocal, SC_MARK_EMPTY},
+                   {MarkerType, SC_MARK_EMPTY},
+                   {MarkerPosition, SC_MARK_EMPTY},
+                   {MarkerBlock, SC_MARK_EMPTY},
+                   {MarkerInactiveCaret, SC_MARK_BACKGROUND}};
     for (const auto& row : symbols) Mod_Sci::MarkerDefine(row.marker, row.symbol);
 }
 
@@ -160,5 +162,5 @@ void UpdateLineNumberMargin() {
         wanted =
             Mod_Sci::TextWidth(STYLE_LINENUMBER, std::string(std::max<std::size_t>(digits, 4), '0').c_str());
     }
-    if (Mod_Sci::GetMarginWidthN(0) != wanted) Mod_Sci::SetMarginWidthN(0, wanted);
+    if (Mod_Sci::GetMarginWidthN(NumberMargin) != wanted) Mod_Sci::SetMarginWidthN(NumberMargin, wanted);
 }

@@ -1,6 +1,9 @@
 // What a view is set up with: the user's options, and what never changes.
 #pragma once
 
+// The margins of a view, from the left.
+enum : int { NumberMargin = 0, MarkerMargin = 1, FoldMargin = 2 };
+
 // Sends the settings of section OptionsEdit to the active view; `applyStyles`: the colour style too.
 // Run at creation and after a change of preferences. A failure is reported and leaves the rest unsent.
 void SetSciOptions(bool applyStyles);

@@ -2,6 +2,7 @@
 #include "editor/StyleTable.h"
 
 #include "engine/DocumentRecord.h"
+#include "engine/Markers.h"
 #include "host/Desktop.h"
 #include "host/Host.h"
 #include "sci/Mod_Sci.h"
@@ -41,6 +42,8 @@ void SendText(int style, int slot, bool underline) {
     Mod_Sci::StyleSetFont(style, FontOf(slot).c_str());
 }
 
+using namespace Mod_Parse;
+
 void SendColours() {
     Mod_Sci::SetSelFore(1, At(ForeColor, SlotSelection));
     Mod_Sci::SetSelBack(1, At(BackColor, SlotSelection));
@@ -52,20 +55,22 @@ void SendColours() {
     Mod_Sci::SetWhitespaceFore(1, At(ForeColor, SlotWhiteSpace));
     Mod_Sci::StyleSetFore(STYLE_INDENTGUIDE, At(ForeColor, STYLE_INDENTGUIDE));
     Mod_Sci::StyleSetFore(STYLE_DEFAULT, At(ForeColor, SlotFold));
-    Mod_Sci::MarkerSetBack(21, At(BackColor, SlotBackground));
+    Mod_Sci::MarkerSetBack(MarkerMainProgram, At(BackColor, SlotBackground));
     Mod_Sci::SetFoldMarginColour(1, At(OtherColor, SlotFold));
     Mod_Sci::SetFoldMarginHiColour(1, At(OtherColor, SlotFold));
-    Mod_Sci::MarkerSetBack(13, At(OtherColor, SlotCurrentLine));
+    Mod_Sci::MarkerSetBack(MarkerInactiveCaret, At(OtherColor, SlotCurrentLine));
 }
 
 void SendMarkers() {
-    Mod_Sci::MarkerSetFore(23, At(OtherColor, SlotBookmark));
-    Mod_Sci::MarkerSetBack(23, At(OtherColor, SlotBookmark));
-    Mod_Sci::MarkerSetBack(4, At(BackColor, SlotBookmark));
-    Mod_Sci::MarkerSetFore(4, At(ForeColor, SlotBookmark));
-    for (const int closed : {25, 30}) Mod_Sci::MarkerSetFore(closed, At(OtherColor, SlotFoldMarker));
-    for (const int open : {31, 26}) Mod_Sci::MarkerSetFore(open, At(ForeColor, SlotFoldMarker));
-    for (int marker = 25; marker <= 31; ++marker)
+    Mod_Sci::MarkerSetFore(MarkerBreakpoint, At(OtherColor, SlotBookmark));
+    Mod_Sci::MarkerSetBack(MarkerBreakpoint, At(OtherColor, SlotBookmark));
+    Mod_Sci::MarkerSetBack(MarkerBookmark, At(BackColor, SlotBookmark));
+    Mod_Sci::MarkerSetFore(MarkerBookmark, At(ForeColor, SlotBookmark));
+    for (const int closed : {MarkerFolderEnd, MarkerFolder})
+        Mod_Sci::MarkerSetFore(closed, At(OtherColor, SlotFoldMarker));
+    for (const int open : {MarkerFolderOpen, MarkerFolderOpenMid})
+        Mod_Sci::MarkerSetFore(open, At(ForeColor, SlotFoldMarker));
+    for (int marker = MarkerFolderEnd; marker <= MarkerFolderOpen; ++marker)
         Mod_Sci::MarkerSetBack(marker, At(BackColor, SlotFoldMarker));
 }
 

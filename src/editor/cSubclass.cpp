@@ -36,9 +36,6 @@ namespace {
 
 using namespace Mod_Parse;
 
-constexpr int MarkerMargin = 1;
-constexpr int FoldMargin = 2;
-
 // Gives a variable another value until it is destroyed.
 template <class Value>
 class Swapped {
@@ -180,9 +177,9 @@ void cSubclass::StyleNeeded() {
     // A paint asks for styles before it reports the edits that caused it. The edited lines are parsed here
     // first, because otherwise they would be painted twice.
     if (!Coloring) ParseEdited();
-    const int first = static_cast<int>(Mod_Sci::GetFirstVisibleLine());
-    const int lastVisible = first + static_cast<int>(Mod_Sci::LinesOnScreen()) + 1;
-    const int lastDoc = static_cast<int>(Mod_Sci::DocLineFromVisible(lastVisible));
+    const int first = Mod_Sci::GetFirstVisibleLine();
+    const int lastVisible = first + Mod_Sci::LinesOnScreen() + 1;
+    const int lastDoc = Mod_Sci::DocLineFromVisible(lastVisible);
     if (State().IsStyled(first, lastDoc)) return;
     Mod_Sci::AutoCCancel();
     Mod_Sci::CallTipCancel();
@@ -196,10 +193,10 @@ void cSubclass::StyleNeeded() {
 // Colours the lines between two visible ones, each document line once.
 void cSubclass::ColorVisible(int first, int last) {
     const ColoringScope own;
-    const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+    const int lines = Mod_Sci::GetLineCount();
     int previous = -100;
     for (int visible = first; visible <= last; ++visible) {
-        const int line = static_cast<int>(Mod_Sci::DocLineFromVisible(visible));
+        const int line = Mod_Sci::DocLineFromVisible(visible);
         if (line >= lines || line == previous) break;
         // A closed fold was skipped, so the line may lie in another scope.
         if (line > previous + 1) ForgetScope();
@@ -248,7 +245,7 @@ void cSubclass::Painted() {
 }
 
 void cSubclass::MarginClick(const SciNotification& notification) {
-    const int line = static_cast<int>(Mod_Sci::LineFromPosition(notification.position));
+    const int line = Mod_Sci::LineFromPosition(notification.position);
     if (notification.margin == FoldMargin)
         Mod_Folding::ToggleFold(line);
     else if (notification.margin != MarkerMargin)

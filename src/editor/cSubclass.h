@@ -37,6 +37,9 @@ private:
     void Modified(const SciNotification& notification);
     void FollowLines(const SciNotification& notification);
     void BeforeDelete(const SciNotification& notification, int start, int end);
+    void TakeBackBeforeDelete(const SciNotification& notification, int start, int end);
+    void RememberFirstDeleted(int start, int end);
+    void ForgetDeleted(int first, int last);
     void BeforeInsert(const SciNotification& notification, int start, int end);
     void AfterInsert(const SciNotification& notification);
     void UpdateUi();

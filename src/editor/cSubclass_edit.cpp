@@ -34,7 +34,7 @@ constexpr int StopParsedLineQueued = 94993;
 constexpr int StopQueuedTwiceFlush = 18893;
 constexpr int StopParsedLineFlush = 77993;
 
-int LineOf(std::intptr_t position) { return static_cast<int>(Mod_Sci::LineFromPosition(position)); }
+int LineOf(std::intptr_t position) { return Mod_Sci::LineFromPosition(position); }
 
 void BeginLongChange() {
     if (!gWaitCursor) BeginWaitCursor();
@@ -196,7 +196,7 @@ void cSubclass::BeforeParting(const SciNotification& notification, int start, in
     if (!State().mLastOperationUndoRedo) OpenUndoGroup();
     if (notification.modificationType & SC_PERFORMED_USER) gUserEdited = true;
     const int first = std::max(0, start - 1);
-    const int last = std::min(end + 1, static_cast<int>(Mod_Sci::GetLineCount()) - 1);
+    const int last = std::min(end + 1, Mod_Sci::GetLineCount() - 1);
     const int edited = State().UnparsedLine;
     if (edited >= 0) TakeBackEditedLine(edited < first || edited > last);
     OpenFolds(first, last);
@@ -213,7 +213,7 @@ void cSubclass::AfterParting(const SciNotification& notification) {
     if (notification.linesAdded != 0) ForgetLines(mFrmDoc.SciEdi_WndData);
     const bool inserted = (notification.modificationType & SC_MOD_INSERTTEXT) != 0;
     const auto end = notification.position + (inserted ? notification.length : 0);
-    const int last = std::min(LineOf(end) + 1, static_cast<int>(Mod_Sci::GetLineCount()) - 1);
+    const int last = std::min(LineOf(end) + 1, Mod_Sci::GetLineCount() - 1);
     queuedTo_ += std::max(0, static_cast<int>(notification.linesAdded));
     for (int line = std::exchange(partedFrom_, -1); line <= last; ++line) {
         ShowLine(line);
@@ -223,32 +223,12 @@ void cSubclass::AfterParting(const SciNotification& notification) {
 
 void cSubclass::BeforeDelete(const SciNotification& notification, int start, int end) {
     if (end - start > LongChange) BeginLongChange();
-    const int edited = State().UnparsedLine;
-    // A line being edited that lies inside the range is going away and is not queued. One that takes in the
-    // lines below it is parsed at once: one of them may close a function, and what waits below reads its
-    // scope off it. With the whole text the view forgets every marker.
-    const bool whole = notification.length == Mod_Sci::GetLength();
-    if (edited >= 0 && (edited != start || whole || end > start))
-        TakeBackEditedLine(whole || edited < start || edited > end);
-    if (State().UnparsedLine < 0) {
-        if (end > start || (HasMarker(start, MarkerParsed) && start == 0)) {
-            // An undo of several changes may reach a line that already waits.
-            if (HasMarker(start, MarkerParsed)) UnparseLine(start, false);
-            if (!HasMarker(start, MarkerQueued)) Queue(start);
-            State().mForceColor = true;
-        } else if (HasMarker(start, MarkerParsed)) {
-            Snapshot(start);
-        }
-    }
+    TakeBackBeforeDelete(notification, start, end);
+    if (State().UnparsedLine < 0) RememberFirstDeleted(start, end);
     if (end > start) OpenFolds(start, end);
     // What waits below the lines that go moves up.
     queuedFrom_ = std::min(queuedFrom_, start);
-    for (int line = start + 1; line <= end; ++line) {
-        if (HasMarker(line, MarkerParsed))
-            UnparseLine(line, false);
-        else if (HasMarker(line, MarkerQueued))
-            DeleteEvery(line, MarkerQueued);
-    }
+    ForgetDeleted(start + 1, end);
     if (notification.modificationType & SC_PERFORMED_USER) {
         gUserEdited = true;
         if (IsLineEnd(notification, start) && Mod_Sci::GetLineIndentation(end) > 1) {
@@ -257,6 +237,40 @@ void cSubclass::BeforeDelete(const SciNotification& notification, int start, int
         }
     }
     ShowLine(start);
+}
+
+// A line being edited that lies inside the range is going away and is not queued. One that takes in the lines
+// below it is parsed at once: one of them may close a function, and what waits below reads its scope off it.
+void cSubclass::TakeBackBeforeDelete(const SciNotification& notification, int start, int end) {
+    const int edited = State().UnparsedLine;
+    if (edited < 0) return;
+    // With the whole text the view forgets every marker.
+    const bool whole = notification.length == Mod_Sci::GetLength();
+    if (edited != start || whole || end > start) TakeBackEditedLine(whole || edited < start || edited > end);
+}
+
+// The first line of a deletion stays and changes: a single line becomes the edited one, and one that takes in
+// lines below it waits to be parsed.
+void cSubclass::RememberFirstDeleted(int start, int end) {
+    const bool parsed = HasMarker(start, MarkerParsed);
+    if (end > start || (parsed && start == 0)) {
+        // An undo of several changes may reach a line that already waits.
+        if (parsed) UnparseLine(start, false);
+        if (!HasMarker(start, MarkerQueued)) Queue(start);
+        State().mForceColor = true;
+    } else if (parsed) {
+        Snapshot(start);
+    }
+}
+
+// Removes the symbols of lines that go, and their places in the queue.
+void cSubclass::ForgetDeleted(int first, int last) {
+    for (int line = first; line <= last; ++line) {
+        if (HasMarker(line, MarkerParsed))
+            UnparseLine(line, false);
+        else if (HasMarker(line, MarkerQueued))
+            DeleteEvery(line, MarkerQueued);
+    }
 }
 
 // An empty action ends the library's joining of typed characters: a step begins at each run of spaces and at
@@ -333,7 +347,7 @@ std::vector<int> cSubclass::TakeQueue() {
     // marker.
     const auto waiting = State().ParseNeeded.size() + lines.size();
     for (int line = queuedFrom_; lines.size() < waiting && line <= queuedTo_; ++line) {
-        line = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(MarkerQueued)));
+        line = Mod_Sci::MarkerNext(line, MaskOf(MarkerQueued));
         if (line < 0) break;
         lines.push_back(line);
     }

@@ -19,6 +19,14 @@ enum : int {
     MarkerMainProgram = 21,
     MarkerBlock = 22,
     MarkerBreakpoint = 23,
+    // From here on the fold margin's own symbols, which the edit control chooses by these numbers.
+    MarkerFolderEnd = 25,     // a closed level inside another one
+    MarkerFolderOpenMid = 26, // an open level inside another one
+    MarkerFolderMidTail = 27,
+    MarkerFolderTail = 28,
+    MarkerFolderSub = 29,
+    MarkerFolder = 30,     // a closed level
+    MarkerFolderOpen = 31, // an open level
 };
 constexpr int MaskOf(int marker) { return 1 << marker; }
 bool HasMarker(int line, int marker);

@@ -26,7 +26,7 @@ int Lowered(int level) {
     return level > least ? level - 1 : level;
 }
 
-int LevelOf(int line) { return static_cast<int>(Mod_Sci::GetFoldLevel(line)) & SC_FOLDLEVELNUMBERMASK; }
+int LevelOf(int line) { return Mod_Sci::GetFoldLevel(line) & SC_FOLDLEVELNUMBERMASK; }
 
 // How many folds a parsed line opens minus those it closes; only the sign is reliable, because the markers do
 // not show the order if the line does both.
@@ -92,9 +92,9 @@ void SetLineLevel(int line, int foldDelta, bool functionLine, bool sequential) {
 }
 
 void CheckFold(int line, int level) {
-    int end = static_cast<int>(Mod_Sci::MarkerNext(line + 1, MaskOf(MarkerFunction)));
+    int end = Mod_Sci::MarkerNext(line + 1, MaskOf(MarkerFunction));
     const bool bounded = end >= 0;
-    if (!bounded) end = static_cast<int>(Mod_Sci::GetLineCount());
+    if (!bounded) end = Mod_Sci::GetLineCount();
     for (int at = line + 1; at < end; ++at) {
         const int delta = DeltaOf(at);
         SetLevel(at, delta > 0 ? level | SC_FOLDLEVELHEADERFLAG : level);

@@ -174,7 +174,7 @@ void ParseAllLines() {
     DropClosedSymbols(*gCurrentProject);
     const ParsingFileScope parsing;
     gEngineCalls.ParsingAll(true);
-    const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
+    const int last = Mod_Sci::LineFromPosition(Mod_Sci::GetLength());
     for (int line = 0; line <= last; ++line) Parseline(line, true);
     gEngineCalls.ParsingAll(false);
 }
@@ -198,7 +198,7 @@ void UnParseFile() {
     Guarded("UnParseFile", "Mod_Parse", [&] {
         const WaitCursor wait;
         ForgetScope();
-        const int last = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetLength()));
+        const int last = Mod_Sci::LineFromPosition(Mod_Sci::GetLength());
         for (int line = 0; line <= last; ++line) UnparseLine(line, true);
         gEngineCalls.PuniLista();
     });

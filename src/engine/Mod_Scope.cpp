@@ -37,7 +37,7 @@ struct ScopeFound {
 // read that one line. The last such word on it counts.
 ScopeFound FindScope(int line, int marker, clsHash& table) {
     static LineEvents events; // its room is used again
-    const int at = static_cast<int>(Mod_Sci::MarkerPrevious(line, MaskOf(marker)));
+    const int at = Mod_Sci::MarkerPrevious(line, MaskOf(marker));
     if (at < 0) return {};
     ReadKnownEvents(at, events);
     const bool functions = marker == MarkerFunction;
@@ -160,7 +160,7 @@ std::string CurrentFunctionForDisplay(int line) {
     return Guarded("CurrentFunctionForDisplay", "Mod_Parse", std::string(), [&]() -> std::string {
         // The line that ends a function still counts as its own.
         if (const FunctionsOnLine own = FunctionsOn(line); own.begins) return own.lastBegun;
-        const int above = static_cast<int>(Mod_Sci::MarkerPrevious(line - 1, MaskOf(MarkerFunction)));
+        const int above = Mod_Sci::MarkerPrevious(line - 1, MaskOf(MarkerFunction));
         const FunctionsOnLine nearest = FunctionsOn(above);
         return nearest.goesBelow ? nearest.lastBegun : MainProgram;
     });

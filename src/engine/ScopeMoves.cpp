@@ -146,7 +146,7 @@ private:
 } // namespace
 
 int NextLineWith(int line, int marker) {
-    const int next = static_cast<int>(Mod_Sci::MarkerNext(line, MaskOf(marker)));
+    const int next = Mod_Sci::MarkerNext(line, MaskOf(marker));
     return next < 0 ? NoEnd : next;
 }
 

@@ -2,6 +2,7 @@
 // ignored, because a report that throws would hide the first failure.
 #include "host/ErrorLog.h"
 
+#include "host/Clock.h"
 #include "host/Desktop.h"
 #include "host/Failure.h"
 #include "host/Files.h"
@@ -20,12 +21,13 @@ namespace {
 
 std::string Entry() {
     Desktop* desktop = gHost.desktop;
+    Clock* clock = gHost.clock;
     std::string text;
     const auto line = [&](std::string_view label, const std::string& value) {
         text.append(label).append(value).append("\r\n");
     };
     line("**********>> Created: ",
-         desktop ? desktop->Date() + ", " + desktop->Time() + "<<***********" : ", <<***********");
+         clock ? clock->Date() + ", " + clock->Time() + "<<***********" : ", <<***********");
     line("Zolto version             :", std::string(ProgramVersion));
     line("App. Path                 :", AppDir());
     line("File Name                 :", gLastError.fileName);

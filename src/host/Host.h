@@ -7,6 +7,7 @@ class Files;
 class SettingsStore;
 class Processes;
 class Desktop;
+class Clock;
 class Instances;
 class EditorViews;
 class DockStudio;
@@ -17,6 +18,7 @@ struct Host {
     SettingsStore* settings = nullptr;
     Processes* processes = nullptr;
     Desktop* desktop = nullptr;
+    Clock* clock = nullptr;
     Instances* instances = nullptr;
     EditorViews* views = nullptr;
     DockStudio* dock = nullptr;

@@ -2,6 +2,7 @@
 // while work waits.
 #include "host/Outside.h"
 
+#include "host/Clock.h"
 #include "host/Desktop.h"
 #include "host/Host.h"
 
@@ -25,7 +26,7 @@ void Deliver() {
         work();
     }
     if (!waiting.empty() || timer == 0) return;
-    gHost.desktop->KillTimer(std::exchange(timer, 0));
+    gHost.clock->KillTimer(std::exchange(timer, 0));
 }
 
 }
@@ -36,13 +37,13 @@ NestedLoop::~NestedLoop() { --nestedLoops; }
 void FromOutside(std::function<void()> work) {
     if (waiting.empty() && !MustWait()) return work();
     waiting.push_back(std::move(work));
-    if (timer == 0 && gHost.desktop != nullptr) timer = gHost.desktop->SetTimer(LookMilliseconds, Deliver);
+    if (timer == 0 && gHost.clock != nullptr) timer = gHost.clock->SetTimer(LookMilliseconds, Deliver);
 }
 
 std::size_t WaitingFromOutside() { return waiting.size(); }
 
 void ForgetOutside() {
     waiting.clear();
-    if (timer != 0 && gHost.desktop != nullptr) gHost.desktop->KillTimer(timer);
+    if (timer != 0 && gHost.clock != nullptr) gHost.clock->KillTimer(timer);
     timer = 0;
 }

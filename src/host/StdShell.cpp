@@ -2,6 +2,7 @@
 // access after an event checks `alive` first.
 #include "host/StdShell.h"
 
+#include "host/Clock.h"
 #include "host/Desktop.h"
 #include "host/Host.h"
 
@@ -41,7 +42,7 @@ StdShell::StdShell() = default;
 
 StdShell::~StdShell() {
     *alive_ = false;
-    if (timerId_ != 0 && gHost.desktop) gHost.desktop->KillTimer(timerId_);
+    if (timerId_ != 0 && gHost.clock) gHost.clock->KillTimer(timerId_);
     // Destroying the child kills its process.
     child_.reset();
 }
@@ -74,7 +75,7 @@ bool StdShell::Start(const std::string& command, const std::string& directory, c
         Raise(Error, pipeFailed ? std::string(pipeMessage) : error.text, error.number);
         return false;
     }
-    timerId_ = gHost.desktop->SetTimer(PollMilliseconds, [this] { Tick(); });
+    timerId_ = gHost.clock->SetTimer(PollMilliseconds, [this] { Tick(); });
     Raise(ProcessStarted);
     return true;
 }
@@ -106,7 +107,7 @@ void StdShell::Tick() {
         if (ended && *alive) DeliverRest(partialError_, ConsoleError);
     }
     if (!ended || !*alive) return;
-    gHost.desktop->KillTimer(timerId_);
+    gHost.clock->KillTimer(timerId_);
     const SystemError error = child_->Close();
     if (error) Report(error);
     if (!*alive) return;

@@ -51,8 +51,8 @@ inline std::intptr_t SetUndoCollection(std::intptr_t collect) { return Send(SCI_
 inline std::intptr_t SelectAll() { return Send(SCI_SELECTALL); }
 inline std::intptr_t SetSavePoint() { return Send(SCI_SETSAVEPOINT); }
 inline std::intptr_t CanRedo() { return Send(SCI_CANREDO); }
-inline std::intptr_t MarkerLineFromHandle(std::intptr_t handle) {
-    return Send(SCI_MARKERLINEFROMHANDLE, handle);
+inline int MarkerLineFromHandle(std::intptr_t handle) {
+    return static_cast<int>(Send(SCI_MARKERLINEFROMHANDLE, handle));
 }
 inline std::intptr_t MarkerDeleteHandle(std::intptr_t handle) { return Send(SCI_MARKERDELETEHANDLE, handle); }
 inline std::intptr_t SetViewWS(std::intptr_t mode) { return Send(SCI_SETVIEWWS, mode); }
@@ -88,11 +88,11 @@ inline std::intptr_t MarkerDelete(std::intptr_t line, std::intptr_t marker) {
 }
 inline std::intptr_t MarkerDeleteAll(std::intptr_t marker) { return Send(SCI_MARKERDELETEALL, marker); }
 inline std::intptr_t MarkerGet(std::intptr_t line) { return Send(SCI_MARKERGET, line); }
-inline std::intptr_t MarkerNext(std::intptr_t line, std::intptr_t mask) {
-    return Send(SCI_MARKERNEXT, line, mask);
+inline int MarkerNext(std::intptr_t line, std::intptr_t mask) {
+    return static_cast<int>(Send(SCI_MARKERNEXT, line, mask));
 }
-inline std::intptr_t MarkerPrevious(std::intptr_t line, std::intptr_t mask) {
-    return Send(SCI_MARKERPREVIOUS, line, mask);
+inline int MarkerPrevious(std::intptr_t line, std::intptr_t mask) {
+    return static_cast<int>(Send(SCI_MARKERPREVIOUS, line, mask));
 }
 inline std::intptr_t StyleClearAll() { return Send(SCI_STYLECLEARALL); }
 inline std::intptr_t StyleSetFore(std::intptr_t style, std::intptr_t colour) {
@@ -159,7 +159,9 @@ inline std::intptr_t SetUseTabs(std::intptr_t on) { return Send(SCI_SETUSETABS, 
 inline std::intptr_t SetLineIndentation(std::intptr_t line, std::intptr_t columns) {
     return Send(SCI_SETLINEINDENTATION, line, columns);
 }
-inline std::intptr_t GetLineIndentation(std::intptr_t line) { return Send(SCI_GETLINEINDENTATION, line); }
+inline int GetLineIndentation(std::intptr_t line) {
+    return static_cast<int>(Send(SCI_GETLINEINDENTATION, line));
+}
 inline std::intptr_t GetLineIndentPosition(std::intptr_t line) {
     return Send(SCI_GETLINEINDENTPOSITION, line);
 }
@@ -174,11 +176,11 @@ inline std::intptr_t SetSelectionStart(std::intptr_t position) {
 inline std::intptr_t GetSelectionStart() { return Send(SCI_GETSELECTIONSTART); }
 inline std::intptr_t SetSelectionEnd(std::intptr_t position) { return Send(SCI_SETSELECTIONEND, position); }
 inline std::intptr_t GetSelectionEnd() { return Send(SCI_GETSELECTIONEND); }
-inline std::intptr_t GetFirstVisibleLine() { return Send(SCI_GETFIRSTVISIBLELINE); }
+inline int GetFirstVisibleLine() { return static_cast<int>(Send(SCI_GETFIRSTVISIBLELINE)); }
 inline std::intptr_t GetLine(std::intptr_t line, void* bytes) {
     return Send(SCI_GETLINE, line, Address(bytes));
 }
-inline std::intptr_t GetLineCount() { return Send(SCI_GETLINECOUNT); }
+inline int GetLineCount() { return static_cast<int>(Send(SCI_GETLINECOUNT)); }
 inline std::intptr_t SetSel(std::intptr_t anchor, std::intptr_t caret) {
     return Send(SCI_SETSEL, anchor, caret);
 }
@@ -188,7 +190,9 @@ inline std::intptr_t PointXFromPosition(std::intptr_t position) {
 inline std::intptr_t PointYFromPosition(std::intptr_t position) {
     return Send(SCI_POINTYFROMPOSITION, 0, position);
 }
-inline std::intptr_t LineFromPosition(std::intptr_t position) { return Send(SCI_LINEFROMPOSITION, position); }
+inline int LineFromPosition(std::intptr_t position) {
+    return static_cast<int>(Send(SCI_LINEFROMPOSITION, position));
+}
 inline std::intptr_t PositionFromLine(std::intptr_t line) { return Send(SCI_POSITIONFROMLINE, line); }
 inline std::intptr_t ReplaceSel(const char* text) { return Send(SCI_REPLACESEL, 0, Address(text)); }
 inline std::intptr_t CanUndo() { return Send(SCI_CANUNDO); }
@@ -230,15 +234,17 @@ inline std::intptr_t CallTipSetFore(std::intptr_t colour) { return Send(SCI_CALL
 inline std::intptr_t CallTipSetForeHlt(std::intptr_t colour) { return Send(SCI_CALLTIPSETFOREHLT, colour); }
 inline std::intptr_t AutoCSetMaxWidth(std::intptr_t width) { return Send(SCI_AUTOCSETMAXWIDTH, width); }
 inline std::intptr_t AutoCSetMaxHeight(std::intptr_t rows) { return Send(SCI_AUTOCSETMAXHEIGHT, rows); }
-inline std::intptr_t DocLineFromVisible(std::intptr_t line) { return Send(SCI_DOCLINEFROMVISIBLE, line); }
+inline int DocLineFromVisible(std::intptr_t line) {
+    return static_cast<int>(Send(SCI_DOCLINEFROMVISIBLE, line));
+}
 inline std::intptr_t SetFoldLevel(std::intptr_t line, std::intptr_t level) {
     return Send(SCI_SETFOLDLEVEL, line, level);
 }
-inline std::intptr_t GetFoldLevel(std::intptr_t line) { return Send(SCI_GETFOLDLEVEL, line); }
-inline std::intptr_t GetLastChild(std::intptr_t line, std::intptr_t level) {
-    return Send(SCI_GETLASTCHILD, line, level);
+inline int GetFoldLevel(std::intptr_t line) { return static_cast<int>(Send(SCI_GETFOLDLEVEL, line)); }
+inline int GetLastChild(std::intptr_t line, std::intptr_t level) {
+    return static_cast<int>(Send(SCI_GETLASTCHILD, line, level));
 }
-inline std::intptr_t GetFoldParent(std::intptr_t line) { return Send(SCI_GETFOLDPARENT, line); }
+inline int GetFoldParent(std::intptr_t line) { return static_cast<int>(Send(SCI_GETFOLDPARENT, line)); }
 inline std::intptr_t GetLineVisible(std::intptr_t line) { return Send(SCI_GETLINEVISIBLE, line); }
 inline std::intptr_t GetFoldExpanded(std::intptr_t line) { return Send(SCI_GETFOLDEXPANDED, line); }
 inline std::intptr_t ToggleFold(std::intptr_t line) { return Send(SCI_TOGGLEFOLD, line); }
@@ -297,13 +303,13 @@ inline std::intptr_t LineCut() { return Send(SCI_LINECUT); }
 inline std::intptr_t LineDelete() { return Send(SCI_LINEDELETE); }
 inline std::intptr_t LowerCase() { return Send(SCI_LOWERCASE); }
 inline std::intptr_t UpperCase() { return Send(SCI_UPPERCASE); }
-inline std::intptr_t LineLength(std::intptr_t line) { return Send(SCI_LINELENGTH, line); }
+inline int LineLength(std::intptr_t line) { return static_cast<int>(Send(SCI_LINELENGTH, line)); }
 inline std::intptr_t BraceHighlight(std::intptr_t first, std::intptr_t second) {
     return Send(SCI_BRACEHIGHLIGHT, first, second);
 }
 inline std::intptr_t BraceMatch(std::intptr_t position) { return Send(SCI_BRACEMATCH, position); }
 inline std::intptr_t SetModEventMask(std::intptr_t mask) { return Send(SCI_SETMODEVENTMASK, mask); }
-inline std::intptr_t LinesOnScreen() { return Send(SCI_LINESONSCREEN); }
+inline int LinesOnScreen() { return static_cast<int>(Send(SCI_LINESONSCREEN)); }
 inline std::intptr_t UsePopup(std::intptr_t on) { return Send(SCI_USEPOPUP, on); }
 inline std::intptr_t GetFocus() { return Send(SCI_GETFOCUS); }
 inline std::intptr_t SetCursor(std::intptr_t cursor) { return Send(SCI_SETCURSOR, cursor); }

@@ -65,9 +65,9 @@ TEST_F(BackupTest, AStampHasDateAndTimeInTheOrderOfTheUsersLanguage) {
     frmDoc& document = session.Open("a.bb", "");
     EXPECT_TRUE(Save(document, "one"));
     EXPECT_TRUE(Save(document, "two")); // within the same minute
-    session.host.desktop.shortDate = "12/25/93";
+    session.host.clock.shortDate = "12/25/93";
     EXPECT_TRUE(Save(document, "three"));
-    session.host.desktop.time = "03:59:00"; // the clock was set back
+    session.host.clock.time = "03:59:00"; // the clock was set back
     EXPECT_TRUE(Save(document, "four"));
     EXPECT_EQ(In("Backup"),
               (Names{"a.bb_02.03.2001_03.59.bak", "a.bb_02.03.2001_04.05.bak", "a.bb_03.02.2001_04.05.bak"}));

@@ -193,7 +193,7 @@ TEST_F(CloseTest, AFileThatComesDuringTheEndCancelsIt) {
     session.host.instances.onTheWay = path;
     EXPECT_TRUE(Cancelled());
     EXPECT_EQ(Handle(), "4711:channel");
-    session.host.desktop.Advance(100);
+    session.host.clock.Advance(100);
     EXPECT_EQ(session.WindowKeys(), std::vector<std::string>{path});
     EXPECT_FALSE(Cancelled());
 }
@@ -206,7 +206,7 @@ TEST_F(CloseTest, WhatIsLeftGoesWithItsProgramBeforeThePlatformDoes) {
     }
     Mod_Main::TakeDown();
     EXPECT_EQ(gProjects.Count(), 0);
-    EXPECT_EQ(session.host.desktop.Timers(), 0u);
+    EXPECT_EQ(session.host.clock.Timers(), 0u);
 }
 
 TEST_F(CloseTest, AChangedProjectIsWrittenAtTheEnd) {

@@ -16,7 +16,7 @@ namespace {
 struct OpenTest : testing::Test {
     Session session;
     std::size_t Documents() { return session.host.dock.DocumentWindows().size(); }
-    int CaretLine() { return static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())); }
+    int CaretLine() { return Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()); }
 };
 
 TEST_F(OpenTest, ASingleFileIsAProjectOfItsOwn) {

@@ -29,7 +29,7 @@ class CompletionTest : public SourceTest {
 protected:
     // Types on an empty line below the declarations and returns the list.
     std::string ListFor(const std::string& keys) {
-        const int line = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
+        const int line = Mod_Sci::GetLineCount() - 1;
         GoTo(line);
         Settle();
         Type(keys);
@@ -201,7 +201,7 @@ TEST_F(CompletionTest, EnterTakesAnEntryThatWasMovedToWhereTheUserWantsThat) {
     const auto enter = [&](int accepts, const std::vector<Qt::Key>& keys) {
         const Setting<int> setting(ACEnterAccepts, accepts);
         Declare({"Global printer, primal$", "Const PrimeMost = 3"});
-        const auto line = static_cast<int>(Mod_Sci::GetLineCount()) - 1;
+        const auto line = Mod_Sci::GetLineCount() - 1;
         EXPECT_NE(ListFor("pri"), "-");
         for (const Qt::Key key : keys)
             QTest::keyClick(static_cast<QWidget*>(ActiveForm()->NativeWidget()), key);

@@ -16,7 +16,7 @@ using namespace Mod_SciFun;
 
 class NavigationTest : public SourceTest {
 protected:
-    static int Line() { return static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())); }
+    static int Line() { return Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()); }
     static int Column() {
         return static_cast<int>(Mod_Sci::GetCurrentPos() - Mod_Sci::PositionFromLine(Line()));
     }

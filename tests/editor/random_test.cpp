@@ -385,7 +385,7 @@ private:
         case Redo: Mod_Sci::Redo(); break;
         case Move: Mod_Sci::GotoPos(start); break;
         case MoveAway: {
-            const auto caret = static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
+            const auto caret = Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos());
             Leave(caret == 0 ? 1 : caret - 1);
             ActiveForm()->m_oSubclass->DeactivateCheck(); // a text of one line has no other
             break;

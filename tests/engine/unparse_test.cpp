@@ -49,7 +49,7 @@ TEST_F(UnparseTest, EveryLineOfAFileComesBackAsItWas) {
     Open(QtFiles().Read(std::string(ZOLTO_SOURCE_ROOT) + "/tests/data/crlf.bb"));
     const std::string symbols = Symbols(), lines = Lines();
     for (const int step : {1, 7, 17}) // in file order, and in jumps
-        for (int i = 0, count = static_cast<int>(Mod_Sci::GetLineCount()); i < count; ++i) {
+        for (int i = 0, count = Mod_Sci::GetLineCount(); i < count; ++i) {
             const int line = i * step % count;
             Mod_Parse::UnparseLine(line, false);
             Mod_Parse::Parseline(line, false);

@@ -23,7 +23,7 @@ struct StdShellTest : testing::Test {
     void Run(ChildScript script) {
         host.processes.WillStart(std::move(script));
         ASSERT_TRUE(shell->ExecuteNoCheck("program", ""));
-        for (int poll = 0; poll < 100 && shell->Running(); ++poll) host.desktop.Advance(50);
+        for (int poll = 0; poll < 100 && shell->Running(); ++poll) host.clock.Advance(50);
     }
     using Events = std::vector<std::string>;
 };
@@ -33,7 +33,7 @@ TEST_F(StdShellTest, LinesAreCutAtCrLfAndWhatIsLeftAtTheEndIsALine) {
     EXPECT_EQ(events, (Events{"start", "out:one", "out:two", "err:oops", "out:three", "out:", "out:rest",
                               "err:no end", "end:0"}));
     EXPECT_FALSE(shell->Running());
-    EXPECT_EQ(host.desktop.Timers(), 0u);
+    EXPECT_EQ(host.clock.Timers(), 0u);
     // What was left of the last run doesn't begin the next one's first line.
     events.clear();
     Run({.output = {"new\r\n"}});
@@ -62,7 +62,7 @@ TEST_F(StdShellTest, ASecondStartIsRefusedAndTheFirstGoesOn) {
     EXPECT_TRUE(shell->Running());
     EXPECT_TRUE(shell->Terminate());
     EXPECT_TRUE(shell->Running()); // until the next poll
-    host.desktop.Advance(50);
+    host.clock.Advance(50);
     EXPECT_FALSE(shell->Running());
     EXPECT_EQ(events.back(), "end:0");
     EXPECT_FALSE(shell->Terminate());
@@ -87,14 +87,14 @@ TEST_F(StdShellTest, InputWaitsForRoomAndIsDroppedOnFailure) {
     host.processes.WillStart({.output = {"x", "y"}, .inputRoom = 3});
     ASSERT_TRUE(shell->ExecuteNoCheck("a", ""));
     shell->WriteConsole("hello");
-    host.desktop.Advance(50); // returns although the child takes only three bytes
+    host.clock.Advance(50); // returns although the child takes only three bytes
     EXPECT_EQ(host.processes.input, "hel");
-    host.desktop.Advance(200);
+    host.clock.Advance(200);
     host.processes.WillStart({.output = {"x", "y"}, .writeError = {32, "Broken pipe"}, .inputRoom = 0});
     ASSERT_TRUE(shell->ExecuteNoCheck("b", ""));
     shell->WriteConsole("lost");
     events.clear();
-    host.desktop.Advance(100);
+    host.clock.Advance(100);
     EXPECT_EQ(events, (Events{"error:32:Broken pipe", "out:xy", "end:0"})); // reported once
 }
 
@@ -106,9 +106,9 @@ TEST_F(StdShellTest, AHandlerMayEndTheShell) {
         ++calls;
         shell.reset();
     };
-    host.desktop.Advance(200);
+    host.clock.Advance(200);
     EXPECT_EQ(calls, 1);
-    EXPECT_EQ(host.desktop.Timers(), 0u);
+    EXPECT_EQ(host.clock.Timers(), 0u);
 }
 
 }

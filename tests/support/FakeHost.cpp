@@ -17,7 +17,7 @@ FakeHost::FakeHost() : oldAppDir_(AppDir()) {
     std::string name = (fs::temp_directory_path() / "zolto-test-XXXXXX").string();
     folder = mkdtemp(name.data());
     SetAppDir(folder);
-    gHost = {&dialogs, &files, &settings, &processes, &desktop, &instances, &views, &dock};
+    gHost = {&dialogs, &files, &settings, &processes, &desktop, &clock, &instances, &views, &dock};
     gHostCalls.ShowErrorDialog = nullptr;
     gHostCalls.CountOpenFiles = nullptr;
     gErrorDialogShown = false;

@@ -32,6 +32,7 @@ public:
     FakeSettings settings;
     FakeProcesses processes;
     FakeDesktop desktop;
+    FakeClock clock;
     FakeInstances instances;
     FakeViews views;
     HeadlessDock dock;

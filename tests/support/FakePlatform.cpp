@@ -123,12 +123,12 @@ bool FakeDesktop::WaitsForUser() {
     return QApplication::activeModalWidget() || QApplication::activePopupWidget();
 }
 
-int FakeDesktop::SetTimer(int milliseconds, std::function<void()> tick) {
+int FakeClock::SetTimer(int milliseconds, std::function<void()> tick) {
     timers_[++lastTimer_] = {milliseconds, milliseconds, std::move(tick)};
     return lastTimer_;
 }
 
-void FakeDesktop::Advance(int milliseconds) {
+void FakeClock::Advance(int milliseconds) {
     for (int passed = 0; passed < milliseconds; ++passed) {
         std::vector<int> due;
         for (auto& [id, timer] : timers_)
@@ -146,12 +146,6 @@ void FakeDesktop::Advance(int milliseconds) {
 }
 
 std::string FakeDesktop::FontFor(const std::string& name) { return name.empty() ? "Monospace" : name; }
-
-std::string FakeDesktop::UniqueId() {
-    char text[64];
-    std::snprintf(text, sizeof text, "{00000000-0000-0000-0000-%012d}", ++lastId_);
-    return text;
-}
 
 std::string FakeDesktop::ShortPath(const std::string& path) {
     return access(path.c_str(), F_OK) == 0 ? path : std::string{};

@@ -2,7 +2,9 @@
 // makes writing fail.
 #pragma once
 
+#include "host/Clock.h"
 #include "host/Desktop.h"
+#include "host/Instances.h"
 #include "host/Processes.h"
 #include "host/SettingsStore.h"
 #include "host/qt/system/QtFiles.h"
@@ -51,29 +53,35 @@ public:
     void SetWaitCursor(bool on) override { waitCursor = on; }
     void LockWindowUpdate(bool lock) override { locks += lock ? 1 : -1; }
     void Beep() override { ++beeps; }
-    int SetTimer(int milliseconds, std::function<void()> tick) override;
-    void KillTimer(int id) override { timers_.erase(id); }
     bool ShiftDown() override { return shift; }
     bool ControlDown() override { return control; }
     ScreenSize Screen() override { return {1920 * 15, 1080 * 15}; }
     std::string FontFor(const std::string& name) override;
-    std::string Date() override { return date; }
-    std::string Time() override { return time; }
-    std::string ShortDate(int, int, int) override { return shortDate; }
     std::string OsName() override { return "TestOS"; }
     std::string OsVersion() override { return "1.2"; }
     std::string OsBuild() override { return "3"; }
-    std::string UniqueId() override;
     std::string ShortPath(const std::string& path) override;
     // Fails the test: a test cannot continue after the end of the process.
     [[noreturn]] void EndProcess(int status) override;
+
+    bool shift = false, control = false, waitCursor = false;
+    int beeps = 0, locks = 0;
+
+private:
+};
+
+class FakeClock : public Clock {
+public:
+    int SetTimer(int milliseconds, std::function<void()> tick) override;
+    void KillTimer(int id) override { timers_.erase(id); }
+    std::string Date() override { return date; }
+    std::string Time() override { return time; }
+    std::string ShortDate(int, int, int) override { return shortDate; }
 
     // Lets time pass: every timer fires as often as it would have.
     void Advance(int milliseconds);
     std::size_t Timers() const { return timers_.size(); }
 
-    bool shift = false, control = false, waitCursor = false;
-    int beeps = 0, locks = 0;
     std::string date = "2001-02-03", time = "04:05:06", shortDate = "25.12.93";
 
 private:
@@ -84,7 +92,6 @@ private:
     };
     std::map<int, Timer> timers_;
     int lastTimer_ = 0;
-    int lastId_ = 0;
 };
 
 // What one child will do: a chunk of each pipe a poll, then its end.

@@ -42,7 +42,7 @@ struct Driver : testing::Test {
     std::string Command(const std::function<void()>& job) {
         processes.WillStart({});
         job();
-        session.host.desktop.Advance(200);
+        session.host.clock.Advance(200);
         EXPECT_FALSE(progress);
         return processes.started.empty() ? std::string() : processes.started.back();
     }
@@ -51,7 +51,7 @@ struct Driver : testing::Test {
         for (std::string& line : lines) line += "\r\n";
         processes.WillStart({.output = std::move(lines)});
         Mod_Compiler::CheckForErrors(ActiveForm()->FullFilename);
-        session.host.desktop.Advance(2000);
+        session.host.clock.Advance(2000);
     }
     std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 };

@@ -33,7 +33,7 @@ struct BundledTest : Driver {
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
         while (ActiveForm()->ShellClass->Running()) {
             ASSERT_LT(std::chrono::steady_clock::now(), deadline) << "the child did not end";
-            session.host.desktop.Advance(50);
+            session.host.clock.Advance(50);
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
     }

@@ -91,7 +91,7 @@ TEST_F(CommandsTest, AnErrorInAnUnsavedDocumentStandsInItself) {
     processes.WillStart({.output = {"Parsing\r\n" + Quoted(scratch) + ":2:3:2:3:Expecting expression\r\n"}});
     CheckForErrors("New");
     session.Open("other.bb", "");
-    session.host.desktop.Advance(500);
+    session.host.clock.Advance(500);
     EXPECT_EQ(ActiveForm()->m_strDocumentWindowID, window);
     EXPECT_EQ(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()), 1);
     EXPECT_EQ(Message(), "Expecting expression\r\n\r\nFile: \r\n\r\nLine: 2, Column: 3 ");
@@ -229,7 +229,7 @@ TEST_F(CommandsTest, NothingRunsWithoutADocumentAndStopEndsWhatRuns) {
     gEditorCalls = {};
     StopRunning();
     EXPECT_EQ(output.back(), "The program was stopped.");
-    session.host.desktop.Advance(200);
+    session.host.clock.Advance(200);
     EXPECT_EQ(processes.killed, 1);
     EXPECT_FALSE(ActiveForm()->ShellClass->Running());
 }
@@ -246,10 +246,10 @@ TEST_F(CommandsTest, TheProgressWindowFollowsTheCompileThatItTellsOf) {
     CompilerOutput::StopShown(); // the second one's, although the first one is active
     EXPECT_TRUE(ActiveForm()->ShellClass->Running());
     EXPECT_EQ(processes.killed, 1);
-    session.host.desktop.Advance(100);
+    session.host.clock.Advance(100);
     EXPECT_FALSE(progress);
     StopRunning();
-    session.host.desktop.Advance(100);
+    session.host.clock.Advance(100);
     processes.WillStart({.ends = false});
     CheckForErrors(first);
     EXPECT_TRUE(progress);

@@ -160,7 +160,7 @@ TEST_F(OutputTest, TheErrorStreamIsDropped) {
     Open();
     processes.WillStart({.output = {"out\r\n"}, .errors = {"noise: here\r\n"}});
     CheckForErrors(path);
-    session.host.desktop.Advance(500);
+    session.host.clock.Advance(500);
     EXPECT_EQ(output, std::vector<std::string>{"out"});
 }
 

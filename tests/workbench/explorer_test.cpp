@@ -100,7 +100,7 @@ protected:
         host.dock.FindDocumentWindow(host.Path("p/" + name))->Activate();
         Settle();
     }
-    static int Line() { return static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())); }
+    static int Line() { return Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()); }
 };
 
 // Counts the signals of a model.

@@ -4,6 +4,7 @@
 #include "host/ErrorLog.h"
 #include "host/HostCalls.h"
 #include "host/Outside.h"
+#include "host/qt/system/QtClock.h"
 #include "host/qt/system/QtDesktop.h"
 #include "host/qt/system/QtDialogs.h"
 #include "sci/Mod_Sci.h"
@@ -23,6 +24,7 @@ namespace {
 struct HandoverTest : WindowTest {
     QtDialogs dialogs;
     QtDesktop desktop;
+    QtClock clock;
     std::string one, two, copy;
     std::string typed = "Global more\r\nGlobal alpha\r\n";
     std::vector<std::string> keys;        // of the windows when the dialog came up
@@ -35,6 +37,7 @@ struct HandoverTest : WindowTest {
         WireUp();
         gHost.dialogs = &dialogs;
         gHost.desktop = &desktop;
+        gHost.clock = &clock;
         OptionsEdit::SaveFoldingState = OptionsEdit::SaveBookmarks = OptionsEdit::SaveCompilerCommandLine = 0;
         one = host.Put("one.bb", "Global alpha\r\n");
         two = host.Put("two.bb", "Global beta\r\n");
@@ -50,6 +53,7 @@ struct HandoverTest : WindowTest {
         ForgetOutside();
         gHost.dialogs = &host.dialogs;
         gHost.desktop = &host.desktop;
+        gHost.clock = &host.clock;
         WindowTest::TearDown();
     }
 

@@ -57,7 +57,7 @@ void DocumentEvents::DS_DocumentWindowHidden(DocumentWindow& window) {
 HeadlessHost::HeadlessHost(const std::string& appDir) : application_(OffscreenArguments(), arguments) {
     settings_ = std::make_unique<QtSettingsStore>((folder_.path() + "/settings.ini").toStdString());
     SetAppDir(appDir);
-    gHost = {&dialogs_, &files_, settings_.get(), &processes_, &desktop_, nullptr, &views_, &dock};
+    gHost = {&dialogs_, &files_, settings_.get(), &processes_, &desktop_, &clock_, nullptr, &views_, &dock};
     dock.SetEvents(&events_);
     gHostCalls.ShowErrorDialog = [] {
         std::fprintf(stderr, "failure: %s %s: %d %s\n", gLastError.fileName.c_str(),

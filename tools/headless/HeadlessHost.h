@@ -4,6 +4,7 @@
 
 #include "HeadlessDock.h"
 #include "host/Dialogs.h"
+#include "host/qt/system/QtClock.h"
 #include "host/qt/system/QtDesktop.h"
 #include "host/qt/system/QtFiles.h"
 #include "host/qt/system/QtProcesses.h"
@@ -67,6 +68,7 @@ private:
     QuietDialogs dialogs_;
     QtFiles files_;
     QtDesktop desktop_;
+    QtClock clock_;
     QtProcesses processes_;
     QtEditorViews views_;
     std::unique_ptr<QtSettingsStore> settings_;

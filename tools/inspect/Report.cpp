@@ -35,7 +35,7 @@ std::string Sha256(const std::string& text) {
 
 void PerLine(Json& json, const char* key, const std::function<void(int line)>& print) {
     json.Line().Key(key).Array();
-    const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+    const int lines = Mod_Sci::GetLineCount();
     for (int line = 0; line < lines; ++line) print(line);
     json.EndArray();
 }
@@ -151,7 +151,7 @@ void Symbols(Json& json, const std::shared_ptr<ClsProject>& project) {
 void StyleAll() {
     ForEachDocument(gCurrentProject, [](frmDoc&) {
         ForgetScope();
-        const int lines = static_cast<int>(Mod_Sci::GetLineCount());
+        const int lines = Mod_Sci::GetLineCount();
         for (int line = 0; line < lines; ++line)
             if (Mod_Parse::HasMarker(line, Mod_Parse::MarkerParsed)) Mod_Parse::ColorLineLight(line, true);
     });

@@ -101,52 +101,65 @@ bool Open(const std::string& path) {
     return Mod_File::OpenFile(path);
 }
 
-int Run(Arguments& arguments) {
-    std::vector<EditOperation> edits;
-    std::string malformed;
-    if (!arguments.edits.empty() && !ReadEdits(arguments.edits, edits, malformed)) {
-        std::fprintf(stderr, "zolto-inspect: %s: %s\n", arguments.edits.c_str(), malformed.c_str());
-        return MalformedEdit;
-    }
-    HeadlessHost host(arguments.appDir);
-    for (const std::string& setting : arguments.settings) {
+int Complain(int status, const std::string& text) {
+    std::fprintf(stderr, "zolto-inspect: %s\n", text.c_str());
+    return status;
+}
+
+void SaveSettings(const std::vector<std::string>& settings) {
+    for (const std::string& setting : settings) {
         const std::size_t slash = setting.find('/');
         const std::size_t equals = setting.find('=', slash);
         gHost.settings->Save(setting.substr(0, slash), setting.substr(slash + 1, equals - slash - 1),
                              setting.substr(equals + 1));
     }
+}
+
+struct OpenTimes {
+    long long load = 0;  // microseconds, parsing included
+    long long parse = 0; // of all files
+};
+
+// Opens a source or a project, and returns whether that succeeded.
+bool OpenTimed(const std::string& path, OpenTimes& times) {
+    std::chrono::steady_clock::time_point parseBegin;
+    gEngineCalls.ParsingAll = [&](bool begins) {
+        if (begins)
+            parseBegin = std::chrono::steady_clock::now();
+        else
+            times.parse += Microseconds(parseBegin);
+    };
+    const auto since = std::chrono::steady_clock::now();
+    const bool opened = Open(path);
+    times.load = Microseconds(since);
+    gEngineCalls.ParsingAll = nullptr;
+    return opened;
+}
+
+int Run(Arguments& arguments) {
+    std::vector<EditOperation> edits;
+    std::string malformed;
+    if (!arguments.edits.empty() && !ReadEdits(arguments.edits, edits, malformed))
+        return Complain(MalformedEdit, arguments.edits + ": " + malformed);
+    HeadlessHost host(arguments.appDir);
+    SaveSettings(arguments.settings);
     host.Load();
     if (arguments.strict) SetStrict(true);
     std::error_code error;
     const std::string path = std::filesystem::absolute(arguments.file, error).lexically_normal().string();
     // Only sources and projects: anything else would be handed to the desktop.
     const std::string extension = GetExtension(path);
-    if (extension != ".BB" && extension != ".ZPF") {
-        std::fprintf(stderr, "zolto-inspect: %s is neither a .bb nor a .zpf\n", path.c_str());
-        return CannotOpen;
-    }
-
-    long long parse = 0;
-    std::chrono::steady_clock::time_point parseBegin;
-    gEngineCalls.ParsingAll = [&](bool begins) {
-        if (begins)
-            parseBegin = std::chrono::steady_clock::now();
-        else
-            parse += Microseconds(parseBegin);
-    };
-    auto since = std::chrono::steady_clock::now();
-    if (!Open(path)) {
-        std::fprintf(stderr, "zolto-inspect: %s could not be opened\n", path.c_str());
-        return CannotOpen;
-    }
-    const long long load = Microseconds(since);
-    gEngineCalls.ParsingAll = nullptr;
+    if (extension != ".BB" && extension != ".ZPF")
+        return Complain(CannotOpen, path + " is neither a .bb nor a .zpf");
+    OpenTimes times;
+    if (!OpenTimed(path, times)) return Complain(CannotOpen, path + " could not be opened");
     std::vector<long long> editTimes;
     if (!arguments.edits.empty()) editTimes = PlayEdits(edits);
-    since = std::chrono::steady_clock::now();
+    const auto since = std::chrono::steady_clock::now();
     StyleAll();
     if (arguments.time) {
-        arguments.report.times = {{"load", load}, {"parse", parse}, {"style_all", Microseconds(since)}};
+        arguments.report.times = {
+            {"load", times.load}, {"parse", times.parse}, {"style_all", Microseconds(since)}};
         arguments.report.editTimes = editTimes;
     }
     const std::string report = Report(arguments.report);

@@ -74,7 +74,7 @@ void FocusCommandLine(const Click&) {
 
 void ToggleFold(const Click&) {
     if (OptionsEdit::ShowFoldMargin == 0 || !DocumentActive()) return;
-    Mod_Folding::ToggleFold(static_cast<int>(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos())));
+    Mod_Folding::ToggleFold(Mod_Sci::LineFromPosition(Mod_Sci::GetCurrentPos()));
 }
 
 void OpenRecentFile(const Click& click) {

@@ -12,6 +12,7 @@
 #include "editor/frmDoc.h"
 #include "engine/ClsCompiler.h"
 #include "engine/ClsProject.h"
+#include "host/Clock.h"
 #include "host/Desktop.h"
 #include "host/ErrorLog.h"
 #include "host/Failure.h"
@@ -144,10 +145,10 @@ void frmMain::SetTipText(const TipText& tip) {
 
 void frmMain::SetNotice(const std::string& text) {
     if (!statusMain_) return;
-    if (noticeTimer_ != 0) gHost.desktop->KillTimer(noticeTimer_);
+    if (noticeTimer_ != 0) gHost.clock->KillTimer(noticeTimer_);
     statusMain_->SetMarkedText(text, "", "", 0);
-    noticeTimer_ = gHost.desktop->SetTimer(NoticeMilliseconds, [this] {
-        gHost.desktop->KillTimer(noticeTimer_);
+    noticeTimer_ = gHost.clock->SetTimer(NoticeMilliseconds, [this] {
+        gHost.clock->KillTimer(noticeTimer_);
         noticeTimer_ = 0;
         SetTipText(tip_);
     });

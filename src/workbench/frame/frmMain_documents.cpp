@@ -79,7 +79,7 @@ void frmMain::ActivateDocument(frmDoc& document) {
         SetBox("cboCommandLine", gCurrentProject->CommandLine);
     }
     const auto caret = Mod_Sci::GetCurrentPos();
-    const int line = static_cast<int>(Mod_Sci::LineFromPosition(caret));
+    const int line = Mod_Sci::LineFromPosition(caret);
     Mod_SciFun::ShowHelp(caret, line);
     if (OptionsEdit::ShowCurrentFunction) {
         SetFunctionText(Mod_Parse::CurrentFunctionForDisplay(line));

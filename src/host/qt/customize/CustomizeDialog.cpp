@@ -40,7 +40,12 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 32);
     resize(wanted.boundedTo(parent->screen()->availableSize() - QSize(Border, Border)));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(revert, &QPushButton::clicked, this, [this] {
+    Connect(*revert);
+    keys_->SetCommand(commands_->Selected());
+}
+
+void CustomizeDialog::Connect(const QPushButton& revert) {
+    connect(&revert, &QPushButton::clicked, this, [this] {
         target_.Revert();
         commands_->Reload();
         keys_->SetCommand(commands_->Selected());
@@ -52,7 +57,6 @@ CustomizeDialog::CustomizeDialog(CustomizeTarget& target, QWidget* parent)
     });
     connect(keys_, &KeyPage::KeysChanged, commands_, &CommandList::ShowKeys);
     connect(&editor_, &BarEditor::EntriesChanged, places_, &PlacePage::Reload);
-    keys_->SetCommand(commands_->Selected());
 }
 
 #include "moc_CustomizeDialog.cpp"

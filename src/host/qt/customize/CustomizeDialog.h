@@ -8,6 +8,7 @@
 #include "host/qt/customize/PlacePage.h"
 
 #include <QDialog>
+#include <QPushButton>
 
 class CustomizeDialog : public QDialog {
     Q_OBJECT
@@ -16,6 +17,8 @@ public:
     CustomizeDialog(CustomizeTarget& target, QWidget* parent);
 
 private:
+    void Connect(const QPushButton& revert);
+
     CustomizeTarget& target_;
     BarEditor editor_;
     CommandList* commands_;

@@ -96,13 +96,17 @@ KeyPage::KeyPage(CustomizeTarget& target, QWidget* parent)
     grid->addWidget(word_, 7, 0, 1, 2);
     grid->setRowStretch(4, 1);
     grid->setRowMinimumHeight(7, 4 * fontMetrics().height());
+    Connect();
+    SetCommand(nullptr);
+}
+
+void KeyPage::Connect() {
     connect(field_, &KeyField::KeyChanged, this, &KeyPage::ShowConflict);
     connect(keys_, &QListWidget::currentRowChanged, this,
             [this](int row) { remove_->setEnabled(command_ && row >= 0); });
     connect(assign_, &QPushButton::clicked, this, &KeyPage::Assign);
     connect(remove_, &QPushButton::clicked, this, &KeyPage::Remove);
     connect(default_, &QPushButton::clicked, this, &KeyPage::PutBack);
-    SetCommand(nullptr);
 }
 
 void KeyPage::SetCommand(QtCommand* command) {

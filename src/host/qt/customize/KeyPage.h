@@ -43,6 +43,7 @@ signals:
     void KeysChanged();
 
 private:
+    void Connect();
     void ShowKeys();
     void ShowConflict();
     void Assign();

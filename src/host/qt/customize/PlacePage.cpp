@@ -75,6 +75,11 @@ PlacePage::PlacePage(CustomizeTarget& target, std::function<QtCommand*()> select
     bars->addStretch();
     grid->addLayout(bars, 9, 0, 1, 2);
     grid->setColumnStretch(0, 1);
+    Connect();
+    Reload();
+}
+
+void PlacePage::Connect() {
     connect(places_, &QComboBox::currentIndexChanged, this, [this] { ShowEntries(0); });
     connect(entries_, &QListWidget::currentRowChanged, this, &PlacePage::ShowState);
     connect(entries_, &EntryList::CommandDropped, this,
@@ -91,7 +96,6 @@ PlacePage::PlacePage(CustomizeTarget& target, std::function<QtCommand*()> select
     connect(group_, &QCheckBox::clicked, this, &PlacePage::SetGroup);
     connect(newBar_, &QPushButton::clicked, this, &PlacePage::NewBar);
     connect(deleteBar_, &QPushButton::clicked, this, &PlacePage::DeleteBar);
-    Reload();
 }
 
 std::string PlacePage::Place() const { return Typed(places_->currentData().toString()); }

@@ -43,6 +43,7 @@ public:
     void SelectionChanged();
 
 private:
+    void Connect();
     std::string Place() const;
     void ShowEntries(int row);
     void ShowState();

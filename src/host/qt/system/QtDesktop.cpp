@@ -7,14 +7,11 @@
 #include "host/qt/system/QtText.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QFontDatabase>
-#include <QLocale>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
-#include <QUuid>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -40,8 +37,6 @@ std::string Release(const QString& key) {
 
 }
 
-QtDesktop::~QtDesktop() = default;
-
 void QtDesktop::Pump() {
     const NestedLoop loop;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -66,26 +61,6 @@ void QtDesktop::LockWindowUpdate(bool lock) {
 
 void QtDesktop::Beep() { QApplication::beep(); }
 
-int QtDesktop::SetTimer(int milliseconds, std::function<void()> tick) {
-    auto timer = std::make_unique<QTimer>();
-    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [call = std::move(tick)] {
-        // The tick may kill its own timer, and the function with it.
-        const auto copy = call;
-        copy();
-    });
-    timer->start(milliseconds);
-    timers_[++lastTimer_] = std::move(timer);
-    return lastTimer_;
-}
-
-void QtDesktop::KillTimer(int id) {
-    const auto at = timers_.find(id);
-    if (at == timers_.end()) return;
-    at->second->stop();
-    at->second.release()->deleteLater();
-    timers_.erase(at);
-}
-
 bool QtDesktop::ShiftDown() { return KeyDown(Qt::ShiftModifier); }
 bool QtDesktop::ControlDown() { return KeyDown(Qt::ControlModifier); }
 
@@ -102,12 +77,6 @@ std::string QtDesktop::FontFor(const std::string& name) {
     return Typed(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
 }
 
-std::string QtDesktop::Date() { return Typed(QDate::currentDate().toString(Qt::ISODate)); }
-std::string QtDesktop::ShortDate(int year, int month, int day) {
-    return Typed(QLocale::system().toString(QDate(year, month, day), QLocale::ShortFormat));
-}
-std::string QtDesktop::Time() { return Typed(QTime::currentTime().toString(Qt::ISODate)); }
-
 std::string QtDesktop::OsName() {
     const std::string name = Release("NAME");
     return name.empty() ? Typed(QSysInfo::prettyProductName()) : name;
@@ -117,8 +86,6 @@ std::string QtDesktop::OsVersion() {
     return version.empty() ? Typed(QSysInfo::productVersion()) : version;
 }
 std::string QtDesktop::OsBuild() { return Typed(QSysInfo::kernelVersion()); }
-
-std::string QtDesktop::UniqueId() { return Typed(QUuid::createUuid().toString(QUuid::WithBraces)); }
 
 std::string QtDesktop::ShortPath(const std::string& path) {
     return !path.empty() && access(path.c_str(), F_OK) == 0 ? path : std::string{};

@@ -1,7 +1,7 @@
 // The single instance of a user, and the channel on which a second start hands over its command line.
 #pragma once
 
-#include "host/Desktop.h"
+#include "host/Instances.h"
 
 #include <QLocalServer>
 #include <QLockFile>
