@@ -61,6 +61,8 @@ bool FindRun::Replace(const FindOptions& options, const std::string& replacement
     const DocumentSearch search(document, options);
     if (!search.Matches(hit)) return false;
     const auto length = search.Replace(hit, *bytes);
+    // The run ends with a hit where it began, but not with what has replaced that hit.
+    if (AtStart(document) && StartPos == hit.start) --StartPos;
     Changed(document, hit.start, length - (hit.end - hit.start));
     const auto behind = hit.start + length;
     Mod_Sci::SetSel(behind, behind);

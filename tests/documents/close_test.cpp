@@ -105,6 +105,16 @@ TEST_F(CloseTest, NothingClosesBeforeTheLastQuestionWasAnswered) {
 }
 
 // A member's prompt has Yes and No alone; the box that is dismissed cancels all the same.
+TEST_F(CloseTest, TheAnswersOfOneClosingAreNotThoseOfTheNext) {
+    session.Open("a.bb", "a");
+    EXPECT_TRUE(Mod_File::CloseAllFiles());
+    const std::string path = session.Open("b.bb", "b").FullFilename;
+    session.Type("x");
+    session.host.dialogs.WillAnswer(MessageAnswer::No);
+    session.Close(path);
+    EXPECT_EQ(session.host.dialogs.messages.size(), 1u);
+}
+
 TEST_F(CloseTest, ADismissedPromptKeepsAProject) {
     for (const char* name : {"one.bb", "two.bb"}) session.host.Put(name, "old\r\n");
     const std::string path =

@@ -1,4 +1,5 @@
 // Workspaces: what comes back, what a damaged file still gives, and what is never lost over one.
+#include "documents/CloseFiles.h"
 #include "documents/Mod_File.h"
 #include "documents/Mod_File_workspace.h"
 #include "documents/Mod_Main.h"
@@ -154,6 +155,21 @@ TEST_F(WorkspaceTest, ACaretWithoutViewsGoesToTheActiveDocument) {
     };
     EXPECT_EQ(load(77), 77);
     EXPECT_EQ(load(10000000), 0);
+}
+
+TEST_F(WorkspaceTest, PlacesBeyondAShortenedFileAreIgnored) {
+    const std::string path = session.Open("a.bb", Long("a")).FullFilename;
+    for (const auto& [anchor, caret] : {std::pair{900L, 2L}, {2L, 900L}}) {
+        session.host.Put("a.bb", Long("a"));
+        Mod_File::CloseAllFiles();
+        session.Reopen(path);
+        Look(path, anchor, caret, 300);
+        Mod_File::SaveWorkSpace(file);
+        Mod_File::CloseAllFiles();
+        session.host.Put("a.bb", "short\r\n");
+        ASSERT_TRUE(Mod_File::LoadWorkSpace(file));
+        ExpectLook(path, 0, 0, 0);
+    }
 }
 
 TEST_F(WorkspaceTest, WhatIsNoWorkspaceClosesNothing) {

@@ -169,6 +169,24 @@ TEST_P(EditCommandsTest, AutoIndentOfAFunctionLeavesCommentsLabelsAndTheCaretsPl
            {"    x", "Function f()", "; note", ".again", "  y = 1", "End Function", "   z"});
 }
 
+TEST_P(EditCommandsTest, AutoIndentOutsideOfFunctionsReachesFromTheTopToTheNextOne) {
+    const Setting tab(OptionsEdit::TabValue, 2);
+    const Lines_ lines{"    x",        "Function f()", "y",   "End Function", "   z",
+                       "Function g()", "End Function", "   z"};
+    const Lines_ wanted{"x", "Function f()", "  y",          "End Function",
+                        "z", "Function g()", "End Function", "   z"};
+    OpenSource(lines);
+    Mod_Sci::SetUseTabs(0);
+    GoTo(4, 3);
+    Expect(AutoindentCurrentFunction, wanted);
+    OpenSource(lines);
+    Mod_Sci::SetUseTabs(0);
+    GoTo(7, 3);
+    Lines_ all = wanted;
+    all.back() = "z";
+    Expect(AutoindentCurrentFunction, all);
+}
+
 TEST_P(EditCommandsTest, AutoIndentOfAFunctionOfOneLineTakesThatLineAlone) {
     OpenSource({"    x", "Function a()", "End Function", "    Function b() : End Function"});
     GoTo(3, 6);

@@ -94,6 +94,8 @@ TEST_F(CompletionTest, ALongListOpensOnlyOnTheUsersWish) {
     Type("k");
     EXPECT_EQ(Listed(), "-") << "a name that is whole closes the list";
     Type("\b");
+    Type("\b");
+    Type("e");
     EXPECT_EQ(Listed(), "-") << "the wish has gone with the list";
 }
 
@@ -124,8 +126,10 @@ TEST_F(CompletionTest, TypesLabelsAndFieldsWhereTheGrammarExpectsThem) {
     EXPECT_EQ(Listed(), "Item");
     Declare(lines);
     EXPECT_EQ(ListFor("Local i."), "Id Item");
-    Declare(lines);
-    EXPECT_EQ(ListFor("Goto st"), "stage start");
+    for (const char* jump : {"Goto", "Gosub", "Restore"}) {
+        Declare(lines);
+        EXPECT_EQ(ListFor(jump + std::string(" st")), "stage start") << jump;
+    }
     Declare(lines);
     EXPECT_EQ(ListFor(".i"), "-"); // a label's name is a new one
     std::vector<std::string> many;

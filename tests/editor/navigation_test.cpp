@@ -252,6 +252,8 @@ TEST_F(NavigationTest, BookmarksWrapUnlessTheyAreKeptToOneFile) {
 TEST_F(NavigationTest, ClearingReachesTheOtherFilesUnlessBookmarksAreKeptToOne) {
     frmDoc& first = OpenLong(5);
     ToggleBookmark(0);
+    frmDoc& none = OpenLong(5);
+    none.SetDirty(false);
     frmDoc& second = OpenLong(5);
     ToggleBookmark(0);
     second.SetDirty(false);
@@ -267,6 +269,7 @@ TEST_F(NavigationTest, ClearingReachesTheOtherFilesUnlessBookmarksAreKeptToOne) 
     EXPECT_EQ(bookmark(first), 0);
     ClearAllBookmarks();
     EXPECT_EQ(bookmark(first), -1);
+    EXPECT_FALSE(none.Dirty) << "it had no bookmark";
 }
 
 TEST_F(NavigationTest, ClicksInTheMarginSetBookmarksAndBreakpoints) {

@@ -132,6 +132,18 @@ TEST_F(PipelineTest, ADeletionAcrossLinesKeepsTheRest) {
     ExpectAsLoaded();
 }
 
+TEST_F(PipelineTest, WhatWaitsBelowADeletionIsParsedToo) {
+    for (const int from : {0, 1}) {
+        OpenLines({"a", "b", "c", "d", "e", "f", "g", "h"});
+        Settle();
+        Replace(6, 0, 6, 0, "Global late\r\nFunction f()\r\n");
+        DeleteLines(from, 4);
+        Settle();
+        EXPECT_NE(gCurrentProject->Globals.ItemHash("late"), nullptr);
+        ExpectAsLoaded();
+    }
+}
+
 TEST_F(PipelineTest, TheEditedLineInsideADeletedRangeIsGone) {
     frmDoc& document = OpenLines({"x", "Global a", "Global b", "Global c", "y"});
     GoTo(2, 8);
@@ -305,6 +317,7 @@ TEST_F(PipelineTest, TheNumberMarginFitsTheLines) {
     const Setting off(OptionsEdit::ShowLineNumbers, 0);
     UpdateLineNumberMargin();
     EXPECT_EQ(Mod_Sci::GetMarginWidthN(0), 1);
+    Settle();
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "engine/fixture/SourceTest.h"
 
 #include "engine/ClsCompiler.h"
+#include "engine/LineStyles.h"
 #include "host/ErrorLog.h"
 
 namespace {
@@ -191,6 +192,18 @@ TEST_F(SourceTest, BracketsNestAndChainsGoOnBehindThem) {
     EXPECT_EQ(Styles(1), "kkkkk.ttt,9,,,tt,,tt.......,,t,,t");
     EXPECT_EQ(Styles(5), "a,kkk,9,,aaa.+.9");
     EXPECT_EQ(Styles(6), "lllll,kkk,9,,lll.+.9");
+}
+
+// A layer of styles leaves gaps in which the styles below it show.
+TEST_F(ColourTest, StylesBehindAGapAreNotShifted) {
+    Open("abcdefgh");
+    ColourAll();
+    const std::string before = Styles(0);
+    gLineStyles.Begin(0, 8, false);
+    gLineStyles.Set(0, 2, STYLE_Number);
+    gLineStyles.Set(5, 2, STYLE_Number);
+    gLineStyles.Flush();
+    EXPECT_EQ(Styles(0), "99" + before.substr(2, 3) + "99" + before.substr(7));
 }
 
 } // namespace

@@ -47,6 +47,21 @@ TEST_F(ScopeTest, TheEditedLineCountsAsItWasParsed) {
     EXPECT_TRUE(CurrentLocals->ExistsHash("a"));
 }
 
+TEST_F(ScopeTest, AScopeThatIsKeptComesBackWhole) {
+    const auto locals = std::make_shared<clsHash>(), fields = std::make_shared<clsHash>();
+    SetFunction("f", locals);
+    SetType("t", fields);
+    {
+        const ScopeKept kept;
+        ForgetScope();
+        SetLocals(nullptr);
+        SetFields(nullptr);
+    }
+    EXPECT_EQ(CurrentFunctionName + CurrentTypeName, "ft");
+    EXPECT_EQ(CurrentLocals, locals);
+    EXPECT_EQ(CurrentFields, fields);
+}
+
 TEST_F(ScopeTest, NamesakesAreToldApartByTheirLine) {
     OpenLines({"Function f()", "Local a", "End Function", "Function f()", "Local b", "End Function"});
     EXPECT_EQ(CurrentFunction(1), "f");

@@ -134,6 +134,18 @@ TEST(ViewPainting, HighBytesLookAsTheirCharactersDo) {
     EXPECT_EQ(seen[0], seen[1]);
 }
 
+TEST(ViewChanges, WhatIsCopiedIsReadableElsewhere) {
+    for (const bool wide : {false, true}) {
+        QtEditorView view;
+        view.SetUtf8(wide);
+        Recorder recorder(view);
+        recorder.Text(SCI_REPLACESEL, 0, wide ? "a\u20AC b" : "a\x80 b");
+        static_cast<EditorWidget*>(view.NativeWidget())->SendScintilla(EditorWidget::SCI_SELECTALL);
+        static_cast<EditorWidget*>(view.NativeWidget())->SendScintilla(EditorWidget::SCI_COPY);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), u"a\u20AC b") << wide;
+    }
+}
+
 std::vector<std::string> heard;
 
 void Listen(QAccessibleEvent* event) {

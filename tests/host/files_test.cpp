@@ -8,10 +8,23 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+
+namespace {
+
+int syncs = 0;
+
+}
+
+// Takes the place of the system's function in this program, and counts.
+extern "C" int fsync(int file) {
+    ++syncs;
+    return static_cast<int>(syscall(SYS_fsync, file));
+}
 
 namespace {
 
@@ -47,6 +60,18 @@ TEST_F(FilesTest, AFailedWriteKeepsTheOldFile) {
     }
     EXPECT_EQ(files.Read(path), "old");
     EXPECT_EQ(Names(), std::vector<std::string>{"a.bb"});
+}
+
+TEST_F(FilesTest, EveryWriteReachesTheDisk) {
+    const std::string path = host.Path("a.bb");
+    for (const char* way : {"new", "beside", "in place"}) {
+        syncs = 0;
+        files.Write(path, way);
+        EXPECT_GT(syncs, 0) << way;
+        if (*way == 'b') {
+            ASSERT_EQ(link(path.c_str(), host.Path("b.bb").c_str()), 0);
+        }
+    }
 }
 
 TEST_F(FilesTest, AFailedWriteInPlaceBringsTheOldContentBack) {

@@ -55,6 +55,17 @@ TEST_F(LayoutTest, ASavedWindowComesBackInAnother) {
     EXPECT_EQ(dock.IndexInBar("File", "Exit"), 1);
 }
 
+TEST_F(LayoutTest, AnotherArrangementHasItsOwnKeysAlone) {
+    QtDockStudio dock;
+    dock.LoadLayout(Put(Small()));
+    Layout other = Small();
+    for (LayoutCommand& command : other.commands)
+        if (command.name == "Open") command.shortcuts = {"Ctrl+P"};
+    dock.LoadLayout(Put(other));
+    const auto& open = *static_cast<QtCommand*>(dock.FindCommand("Open"));
+    EXPECT_EQ(open.Shortcuts(), std::vector{QKeyCombination(Qt::ControlModifier, Qt::Key_P)});
+}
+
 TEST_F(LayoutTest, ADamagedOrMissingFileLeavesTheArrangement) {
     QtDockStudio dock;
     dock.LoadLayout(Put(Small()));

@@ -48,6 +48,22 @@ TEST_F(ProcessesTest, OutputComesWithWindowsLineEndsWhateverTheChildWrote) {
     EXPECT_FALSE(child->Close());
 }
 
+TEST_F(ProcessesTest, AChildHasNotEndedBeforeItsOutputIsRead) {
+    const std::string pid = host.Path("pid");
+    const auto child =
+        processes.Start({Script("echo last words; echo $$ > '" + pid + "'"), ""}, pipeFailed, error);
+    ASSERT_TRUE(child) << error.text;
+    const auto runs = [&] {
+        if (host.files.Kind(pid) != PathKind::File || host.files.Read(pid).empty()) return true;
+        return kill(std::stoi(host.files.Read(pid)), 0) == 0;
+    };
+    bool ended = false;
+    for (int round = 0; round < 500 && runs() && !ended; ++round, usleep(10000)) ended = child->HasEnded();
+    EXPECT_FALSE(ended || child->HasEnded());
+    EXPECT_EQ(Drain(*child, ChildPipe::Output), "last words\r\n");
+    EXPECT_TRUE(child->HasEnded());
+}
+
 TEST_F(ProcessesTest, AFloodComesInBoundedPortionsAndWhole) {
     const auto child = processes.Start({Script("head -c 3000000 /dev/zero"), ""}, pipeFailed, error);
     ASSERT_TRUE(child) << error.text;
@@ -122,7 +138,7 @@ TEST_F(ProcessesTest, AWindowsProgramWithoutItsRunnerIsExplained) {
 }
 
 TEST_F(ProcessesTest, OutputGoesToAFileAndALongRunIsLeftAlone) {
-    const std::string out = host.Path("out.txt");
+    const std::string out = host.Put("out.txt", "the longer output of a run before");
     EXPECT_TRUE(processes.RunIntoFile(Script("echo keywords"), out, 5000));
     EXPECT_EQ(host.files.Read(out), "keywords\n");
     EXPECT_FALSE(processes.RunIntoFile(Script("sleep 1"), out, 50));

@@ -72,6 +72,22 @@ TEST(SettingsTest, ADamagedFileIsPutAsideWithOneNotice) {
     EXPECT_EQ(QtSettingsStore(path).Get("Options", "StartUp", ""), "1");
 }
 
+// Two programs find each other by this section: it is on the disk at once, and read from there.
+TEST(SettingsTest, TheInstanceIsExchangedWithTheDiskAtOnce) {
+    FakeHost host;
+    const std::string path = host.Path("Zolto.conf");
+    QtSettingsStore store(path);
+    store.Save("Options", "gStartUp", "1");
+    store.Save("Instance", "Handle", "1:mine");
+    const std::string written = host.files.Read(path);
+    EXPECT_NE(written.find("1:mine"), std::string::npos) << written;
+    EXPECT_NE(written.find("gstartup=1"), std::string::npos) << written;
+    host.Put("Zolto.conf", "[instance]\nhandle=2:other\n[options]\ngstartup=2\ngrecentfiles=7\n");
+    EXPECT_EQ(store.Get("Instance", "Handle", ""), "2:other");
+    store.Save("Instance", "Handle", "1:mine");
+    EXPECT_NE(host.files.Read(path).find("grecentfiles=7"), std::string::npos) << "the other's key is kept";
+}
+
 TEST(InstancesTest, AnEmptyLockIsNobodys) {
     FakeHost host;
     host.Put("instance.lock", "");

@@ -90,10 +90,14 @@ TEST_F(TabsTest, ATabIsDraggedToASideIntoAGroupAndBack) {
     const QPoint onBar = Groups()[0]->tabBar()->tabRect(0).center() - QPoint(10, 0);
     Drag(Groups()[1], 0, Groups()[0]->tabBar()->mapTo(&dock.Window(), onBar));
     EXPECT_EQ(Captions(), (Captioned{"bc", "d", "a"}));
+    const int width = Groups()[0]->width();
+    Drag(Groups()[1], 0, In(Groups()[2], 0.5, 0.5));
+    EXPECT_EQ(Captions(), (Captioned{"bc", "ad"}));
+    EXPECT_EQ(Groups()[0]->width(), width) << "the other division keeps its sizes";
     Drag(Groups()[1], 0, In(Groups()[0], 0.5, 0.5));
     Drag(Groups()[1], 0, In(Groups()[0], 0.5, 0.5));
-    EXPECT_EQ(Captions(), Captioned{"bcda"}); // divisions without parts are gone
-    EXPECT_EQ(dock.ActiveDocumentWindow()->Key(), "a");
+    EXPECT_EQ(Captions(), Captioned{"bcad"}); // divisions without parts are gone
+    EXPECT_EQ(dock.ActiveDocumentWindow()->Key(), "d");
 }
 
 TEST_F(TabsTest, ADragThatIsCancelledOrGoesNowhereChangesNothing) {

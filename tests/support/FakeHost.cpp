@@ -31,6 +31,9 @@ FakeHost::~FakeHost() {
         EXPECT_EQ(ErrorLog(), "");
     }
     EXPECT_EQ(WaitingFromOutside(), 0u);
+    EXPECT_LE(desktop.locks, 0) << "the main window is not painted";
+    EXPECT_EQ(dock.suspended, 0) << "the frame is not painted";
+    EXPECT_FALSE(desktop.waitCursor);
     ForgetOutside();
     gHost = {};
     SetAppDir(oldAppDir_);

@@ -272,9 +272,10 @@ TEST_F(ExplorerTest, UnsortedFunctionsStandAsInTheFile) {
     Leave(0);
     EXPECT_EQ(Rows("lvFunctions"), (Texts{"z%|000001", "b%|000003", "a%|000005", "m%|000007"}));
     // Lines that declare nothing are seen when typing pauses.
+    const Told told(List("lvFunctions").model());
     InsertLine(0, "x");
     Leave(0);
-    QTest::qWait(400);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told.changed.count() > 0; }));
     EXPECT_EQ(Rows("lvFunctions"), (Texts{"z%|000002", "b%|000004", "a%|000006", "m%|000008"}));
     Button("Project").click();
     EXPECT_EQ(Names("lvFunctions"), (Texts{"*Main Program*", "a%", "b%", "m%", "z%"}));
@@ -387,6 +388,30 @@ TEST_F(ExplorerTest, WhatNobodySeesCatchesUpWhenItIsShown) {
     EXPECT_TRUE(gCurrentProject->GlobalsDirty);
     Pane().show();
     EXPECT_EQ(Names("lvGlobals"), (Texts{"a%", "b%"}));
+}
+
+// The list that is shown follows each kind of declaration, in both directions.
+TEST_F(ExplorerTest, EachListFollowsItsDeclarations) {
+    for (const auto& [construct, list, line, name] :
+         {std::tuple{"Globals", "lvGlobals", "Global new_one", "new_one%"},
+          {"Types", "lvTypes", "Type new_one: End Type", "new_one"},
+          {"Arrays", "lvArrays", "Dim new_one(3)", "new_one%"},
+          {"Constants", "lvConstants", "Const new_one = 3", "new_one%"},
+          {"Labels", "lvLabels", ".new_one", "new_one"},
+          {"Includes", "lvIncludes", "Include \"new_one\"", "new_one"}}) {
+        OpenLines({"x", "x"});
+        Show(construct);
+        Settle();
+        const Texts before = Names(list);
+        InsertLine(1, line);
+        Leave(0);
+        Texts with = before;
+        with.push_back(name);
+        EXPECT_EQ(Names(list), with);
+        DeleteLines(1, 1);
+        Leave(0);
+        EXPECT_EQ(Names(list), before) << construct;
+    }
 }
 
 TEST_F(ExplorerTest, TheFilterLeavesWhatContainsIt) {

@@ -295,6 +295,38 @@ TEST_F(FindTest, ReplaceExpandsFirstThenReplacesAndGoesOn) {
     EXPECT_EQ(MRUReplace.IndexItem(1), "x");
 }
 
+// The start of the run moves with the text before it.
+TEST_F(FindTest, ReplacingRoundTheEndNeitherMissesNorRepeatsAPlace) {
+    for (const auto& [text, last, by, replaced] :
+         {std::tuple{"aaa aaa aaa", 8, "a", "a a a"}, {"a a a", 4, "bbbb", "bbbb bbbb bbbb"}}) {
+        Open(text);
+        Mod_Sci::SetSel(last, Mod_Sci::GetLength());
+        LookToReplace("a+", by);
+        if (!Control<QCheckBox>("chkRegExp").isChecked()) Tick("chkRegExp");
+        WillBeAsked(FromTop, MessageAnswer::Yes);
+        Press("cmdReplace");
+        Press("cmdReplace");
+        WillBeTold(FileSearched, InFile);
+        Press("cmdReplace");
+        EXPECT_EQ(Text(0), replaced);
+    }
+}
+
+TEST_F(FindTest, ASelectionIsASearchTextOnlyInOneShortLine) {
+    const std::string word(299, 'w');
+    Open(word + "w\r\nb");
+    const auto offered = [](int length) {
+        Mod_Sci::SetSel(0, length);
+        Dialog().StartFind(false);
+        return Control<QComboBox>("cboFind").currentText().size();
+    };
+    EXPECT_EQ(offered(299), 299);
+    MRUFind.Clear();
+    EXPECT_EQ(offered(300), 0);
+    Open("a\r\nb");
+    EXPECT_EQ(offered(4), 0);
+}
+
 TEST_F(FindTest, ReplaceAllTakesEachPlaceOnceAsOneStepAFile) {
     frmDoc& first = OpenMember("a Local b\r\na a\r\nLocal a");
     frmDoc& second = OpenMember("Function a()\r\nEnd Function\r\na");

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTimer>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -30,6 +31,17 @@ TEST(OutputTest, AFloodKeepsTheLastLinesAndALongLineComesInPieces) {
     QApplication::processEvents();
     EXPECT_GT(text->blockCount(), 100);
     EXPECT_TRUE(text->toPlainText().endsWith("caf\u00E9"));
+    // It scrolls when it is told to, and leaves the reader alone otherwise.
+    text->resize(200, 100);
+    text->show();
+    QScrollBar& bar = *text->verticalScrollBar();
+    output.ScrollToEnd();
+    QApplication::processEvents();
+    EXPECT_EQ(bar.value(), bar.maximum());
+    bar.setValue(0);
+    output.Append("more");
+    QApplication::processEvents();
+    EXPECT_EQ(bar.value(), 0);
 }
 
 TEST(ErrorReportTest, TheDraftHoldsTheLogAndTheLogIsEmptied) {

@@ -156,8 +156,8 @@ void Report(HandoverTest& test, frmDoc&) {
     SetStopErrorLog(1);
 }
 void OpenMenu(HandoverTest& test, frmDoc&) {
-    test.dock->ShowPopup("PopupMenu1");
-    QTest::qWait(30); // it comes back at once
+    test.dock->ShowPopup("PopupMenu1"); // it comes back at once
+    EXPECT_TRUE(QTest::qWaitFor([&] { return test.met > 0; }));
 }
 void ChooseCopy(HandoverTest& test, QWidget* up) {
     auto* dialog = qobject_cast<QFileDialog*>(up);

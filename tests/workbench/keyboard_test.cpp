@@ -7,12 +7,14 @@
 #include "workbench/find/frmGotoLine.h"
 #include "workbench/frame/Mod_MenuCommands.h"
 #include "workbench/output/frmCompiling.h"
+#include "workbench/output/frmOutput.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -68,7 +70,8 @@ void CheckNames(QAccessibleInterface* told) {
 void Check(QWidget& top, const char* where) {
     SCOPED_TRACE(where);
     QApplication::setActiveWindow(&top);
-    QTest::qWait(20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return top.isActiveWindow(); }));
+    QApplication::processEvents();
     CheckNames(QAccessible::queryAccessibleInterface(&top));
     const Widgets forward = Walk(top, true), backward = Walk(top, false);
     for (QWidget* widget : top.findChildren<QWidget*>())
@@ -114,7 +117,9 @@ TEST_F(KeyboardTest, EverythingIsNamedAndReachedByTabBothWays) {
     }
     dock->FindPane("Output")->SetAutoHidden(true);
     dock->FindPane("Output")->Show();
-    QTest::qWait(200);
+    QWidget* output = static_cast<QWidget*>(frmOutput::Instance().NativeWidget());
+    const QWidget* frame = output->parentWidget()->parentWidget();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return frame->geometry().bottom() <= top.centralWidget()->geometry().bottom(); }));
     Check(top, "rolled away and out");
     dock->FindPane("CodeExplorer")->SetFloating(true);
     Check(Docked("CodeExplorer"), "floating");
@@ -136,6 +141,9 @@ TEST_F(KeyboardTest, EverythingIsNamedAndReachedByTabBothWays) {
     EXPECT_FALSE(IsStop(*frmFind::Instance().findChild<QRadioButton*>("optStartAt0")));
     frmCompiling::Instance().Open("Compiling program...");
     Check(frmCompiling::Instance(), "compiling");
+    frmCompiling::Instance().SetValue(42);
+    frmCompiling::Instance().Open("Creating program...");
+    EXPECT_EQ(frmCompiling::Instance().findChild<QProgressBar*>()->value(), 0);
     frmCompiling::Instance().close();
     frmError error(&top);
     frmGotoLine line(&top);

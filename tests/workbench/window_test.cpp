@@ -8,8 +8,8 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QTreeView>
 #include <algorithm>
-#include <ctime>
 #include <map>
 
 namespace {
@@ -43,24 +43,64 @@ TEST_F(WindowTest, CloseTabClosesTheTabInFront) {
         EXPECT_EQ(dock->FindCommand(name)->Text(), "") << name; // nothing of the last document
 }
 
-// One frame of a display that shows 60 a second: the median of many switches, with painting and colouring, in
-// processor time, because other programs may run.
-TEST_F(WindowTest, SwitchingTabsIsDoneWithinAFrame) {
-    std::string source;
-    for (int line = 0; line < 1000; ++line)
-        source +=
-            "Global name" + std::to_string(line) + " = Rand(1, " + std::to_string(line) + ") ; text\r\n";
-    for (const char* name : {"a.bb", "b.bb", "c.bb"}) ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, source)));
+TEST_F(WindowTest, UndoAndRedoAreEnabledWhereTheyDoSomething) {
+    WireUp();
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    const auto enabled = [&] {
+        return std::pair(dock->FindCommand("Undo")->Enabled(), dock->FindCommand("Redo")->Enabled());
+    };
+    EXPECT_EQ(enabled(), std::pair(false, false));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_X);
     QApplication::processEvents();
-    std::vector<std::clock_t> times;
-    for (int round = 0; round < 21; ++round) {
-        const std::clock_t begin = std::clock();
-        Click("Next File Tab");
-        QApplication::processEvents();
-        times.push_back(std::clock() - begin);
+    for (const bool all : {false, true}) {
+        if (all) window.UpdateCommandUI();
+        EXPECT_EQ(enabled(), std::pair(true, false));
     }
-    std::sort(times.begin(), times.end());
-    EXPECT_LT(times[10], CLOCKS_PER_SEC / 60);
+    Click("Undo");
+    QApplication::processEvents();
+    for (const bool all : {false, true}) {
+        if (all) window.UpdateCommandUI();
+        EXPECT_EQ(enabled(), std::pair(false, true));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(Mod_Sci::GetLineCount(), 3);
+    EXPECT_TRUE(dock->FindCommand("Close File")->Enabled());
+    EXPECT_FALSE(dock->FindCommand("Close Project")->Enabled());
+}
+
+// What is known of the caret's scope in one document is wrong in the next.
+TEST_F(WindowTest, AnotherTabHasAScopeOfItsOwn) {
+    for (const char* name : {"a.bb", "b.bb"}) ASSERT_TRUE(Mod_File::OpenFile(host.Put(name, "Print 1\r\n")));
+    SetFunction("of_b");
+    SetType("of_b");
+    dock->FindDocumentWindow(host.Path("a.bb"))->Activate();
+    EXPECT_NE(CurrentFunctionName, "of_b");
+    EXPECT_NE(CurrentTypeName, "of_b");
+}
+
+// The tables of a closed project go, so its names must leave the lists.
+TEST_F(WindowTest, TheListsLetGoOfAClosedFile) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Global alone\r\n")));
+    Click("Globals");
+    const QAbstractItemModel& model = *dock->Window().findChild<QTreeView*>("lvGlobals")->model();
+    EXPECT_EQ(model.rowCount(), 1);
+    Click("Close Tab");
+    EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(WindowTest, ANoticeStaysItsTimeAndGivesWayToTheTip) {
+    ASSERT_TRUE(Mod_File::OpenFile(host.Put("a.bb", "Print 1\r\n")));
+    const auto shown = [&] { return dock->FindCommand("StatusMain")->Text(); };
+    window.SetTipText({.left = "tip", .hot = {}, .right = {}});
+    window.SetNotice("first");
+    host.clock.Advance(4000);
+    window.SetNotice("second");
+    window.SetTipText({.left = "next tip", .hot = {}, .right = {}});
+    host.clock.Advance(4000);
+    EXPECT_EQ(shown(), "second");
+    host.clock.Advance(2000);
+    EXPECT_EQ(shown(), "next tip");
+    EXPECT_EQ(host.clock.Timers(), 0u);
 }
 
 // Every command of a shown menu has a routine, and no shown menu is empty.
