@@ -17,6 +17,7 @@
 #include "host/Host.h"
 #include "host/Paths.h"
 #include "host/Processes.h"
+#include "host/Text.h"
 #include "toolchain/CompileCommand.h"
 #include "toolchain/CompilerOutput.h"
 #include "toolchain/ToolchainCalls.h"
@@ -186,13 +187,29 @@ bool Start(const char* routine, Job job, const std::string& path, bool debug = f
 
 constexpr long long SmallestKeywordFile = 3000; // bytes; a smaller one holds an error message
 
-// Has the compiler write the file. False when what it wrote is not a list of keywords.
-bool WriteKeywordFile(const std::string& compiler, const std::string& target) {
+// Has the compiler write a file, and puts it in the place of the target. False, with the old target as it
+// was, when what the compiler wrote is not a list of keywords; it stays in `written` for the user to look at.
+bool WriteKeywordFile(const std::string& compiler, const std::string& written, const std::string& target) {
     constexpr int MostMilliseconds = 10000;
-    if (gHost.files->Kind(target) == PathKind::None) Mod_File::CreateEmptyFile(target);
     const WaitCursor wait;
-    gHost.processes->RunIntoFile(Quoted(compiler) + " +k", target, MostMilliseconds);
-    return gHost.files->Size(target) >= SmallestKeywordFile;
+    const bool ended = gHost.processes->RunIntoFile(Quoted(compiler) + " +k", written, MostMilliseconds);
+    if (!ended || gHost.files->Kind(written) != PathKind::File ||
+        gHost.files->Size(written) < SmallestKeywordFile)
+        return false;
+    gHost.files->Rename(written, target);
+    return true;
+}
+
+// Reads the new list of a compiler. What was parsed with the old one is parsed anew.
+void TakeDefinitions(ClsCompiler& compiler) {
+    compiler.Refused = false;
+    if (!compiler.LoadKeywords() || gActiveCompiler.get() != &compiler) return;
+    compiler.SetDefaultKeywords();
+    const WaitCursor wait;
+    for (const auto& project : gProjects)
+        if (EqualNoCase(project.record->Compiler, compiler.Name))
+            for (const auto& source : project.record->Sources)
+                FormOf(*source.record).m_oSubclass->ParseAnew();
 }
 
 } // namespace
@@ -252,13 +269,14 @@ void RefreshDefinitions(const std::string& compilerName, const std::string& comp
             return;
         }
         const std::string target = AppPath("Conf\\" + compilerName + ".lng");
-        if (WriteKeywordFile(compiler, target)) {
-            gCompilers.Item(compilerName)->LoadKeywords();
+        const std::string written = target + ".new";
+        if (WriteKeywordFile(compiler, written, target)) {
+            if (const auto known = gCompilers.Find(compilerName)) TakeDefinitions(*known);
             gHost.dialogs->Show(
                 {"Keyword definitions for this compiler successfully created !", MessageIcon::Information});
         } else {
             gHost.dialogs->Show(
-                {" Error while creating keyword definitions file !\r\n\r\n See " + target + " for details",
+                {" Error while creating keyword definitions file !\r\n\r\n See " + written + " for details",
                  MessageIcon::Critical});
         }
         if (gActiveDoc != nullptr) gActiveDoc->State.Restyle();

@@ -25,6 +25,9 @@
 #include "toolchain/Mod_Compiler.h"
 #include "workbench/dialogs/frmAbout.h"
 #include "workbench/find/frmFind.h"
+#include "workbench/parts/MainWindow.h"
+#include "workbench/settings/frmOptions.h"
+#include "workbench/settings/frmOptionsEdit.h"
 
 namespace Mod_MenuCommands {
 
@@ -252,8 +255,8 @@ const std::vector<RoutedCommand>& Routes() {
         {"HotCode For Selection", nullptr},
         {"Edit HotCodes", nullptr},
         {"Apply HotCode", nullptr},
-        {"Editor Settings", nullptr},
-        {"Preferences", nullptr},
+        {"Editor Settings", [](const Click&) { frmOptionsEdit(MainWindow()).exec(); }},
+        {"Preferences", [](const Click&) { frmOptions(MainWindow()).exec(); }},
         {"Color Styles", nullptr},
         {"UI Styles", nullptr},
         {"Export To HTML", nullptr},
