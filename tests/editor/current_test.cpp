@@ -125,7 +125,7 @@ TEST_F(CurrentLine, ExpansionOfPlusPlus) {
             EXPECT_EQ(typed("a(i)++"), "a(i)=a(i)+1");
             EXPECT_EQ(typed("d=1 : If d Then i=1 Else i++"), "d=1 : If d Then i=1 Else i=i+1");
             for (const char* kept :
-                 {"; i++", ";! i++", "s$=\"i++", "d=i++", "Print++", "d = i--3", "If i++", "Print i++"})
+                 {"; : i++", ";! : i++", "s$=\"i++", "d=i++", "Print++", "d = i--3", "If i++", "Print i++"})
                 EXPECT_EQ(typed(kept), kept);
         }
     }

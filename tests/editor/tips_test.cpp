@@ -82,6 +82,10 @@ TEST_F(TipsTest, TheCallTipOpensForATypedSignAndFollowsTheCaret) {
     Type("1,");
     EXPECT_TRUE(Mod_Sci::CallTipActive());
     EXPECT_EQ(Tip(), "Bar (a,<[ b$=1]>) ");
+    Mod_Sci::CallTipCancel();
+    Type("2,");
+    EXPECT_TRUE(Mod_Sci::CallTipActive()) << "the comma asks for it again";
+    Type("\b\b");
     QTest::keyClick(static_cast<QWidget*>(ActiveForm()->NativeWidget()), Qt::Key_Left);
     Settle();
     EXPECT_EQ(Tip(), "Bar (<a>,[ b$=1]) ");

@@ -1,6 +1,7 @@
 // The frame of the main window: document windows, their events in order, and shortcuts.
 #include "host/Failure.h"
 #include "host/qt/frame/QtDockStudio.h"
+#include "host/qt/panes/EdgeStrip.h"
 #include "host/qt/tabs/TabGroup.h"
 #include "host/qt/view/EditorWidget.h"
 #include "support/FakeHost.h"
@@ -299,6 +300,7 @@ TEST_F(DockTest, ARolledPaneSlidesOutByCommandAndBackByEscape) {
     }
     QTest::keyClick(&text, Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isVisible(); }));
+    for (const auto* tab : dock.Window().findChildren<EdgeTab*>()) EXPECT_FALSE(tab->isChecked());
     EXPECT_EQ(QApplication::focusWidget(), editor);
     pane.Hide();
     EXPECT_FALSE(pane.Visible());

@@ -72,6 +72,7 @@ TEST_F(FilesTest, EveryWriteReachesTheDisk) {
             ASSERT_EQ(link(path.c_str(), host.Path("b.bb").c_str()), 0);
         }
     }
+    EXPECT_EQ(Names(), (std::vector<std::string>{"a.bb", "b.bb"})) << "the copies on the way are gone";
 }
 
 TEST_F(FilesTest, AFailedWriteInPlaceBringsTheOldContentBack) {

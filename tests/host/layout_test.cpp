@@ -66,6 +66,16 @@ TEST_F(LayoutTest, AnotherArrangementHasItsOwnKeysAlone) {
     EXPECT_EQ(open.Shortcuts(), std::vector{QKeyCombination(Qt::ControlModifier, Qt::Key_P)});
 }
 
+TEST_F(LayoutTest, APlainTextLosesTheMarkOfTheOneBefore) {
+    QtDockStudio dock;
+    dock.LoadLayout(Put(Small()));
+    auto& command = *static_cast<QtCommand*>(dock.FindCommand("Open"));
+    command.SetMarkedText("Bar (", "a", ")", 255);
+    command.SetText("Bar (a)");
+    EXPECT_EQ(command.Marked().left, "Bar (a)");
+    EXPECT_EQ(command.Marked().hot, "");
+}
+
 TEST_F(LayoutTest, ADamagedOrMissingFileLeavesTheArrangement) {
     QtDockStudio dock;
     dock.LoadLayout(Put(Small()));

@@ -85,9 +85,11 @@ TEST_F(ProcessesTest, AChildThatDoesNotReadNeverBlocksTheWriter) {
 
 TEST_F(ProcessesTest, AKillTakesEverythingThatTheChildStarted) {
     const std::string pids = host.Path("pids");
-    const auto child = processes.Start(
-        {Script("for i in 1 2 3; do (sleep 300 & echo $! >> '" + pids + "'; sleep 300) & done; wait"), ""},
-        pipeFailed, error);
+    const auto child =
+        processes.Start({Script("echo nobody reads this; for i in 1 2 3; do (sleep 300 & echo $! >> '" +
+                                pids + "'; sleep 300) & done; wait"),
+                         ""},
+                        pipeFailed, error);
     ASSERT_TRUE(child) << error.text;
     std::vector<pid_t> started;
     for (int round = 0; round < 500 && started.size() < 3; ++round, usleep(10000)) {

@@ -284,8 +284,8 @@ TEST_F(DefinitionsTest, AGoodListIsLoaded) {
 
 TEST_F(DefinitionsTest, AListBelow3000BytesCountsAsFailure) {
     Refresh(std::string(2999, 'x'));
-    EXPECT_EQ(Message(),
-              " Error while creating keyword definitions file !\r\n\r\n See " + keywords + ".new for details");
+    EXPECT_EQ(Message(), " Error while creating keyword definitions file !\r\n\r\n See " + keywords +
+                             ".new for details");
     EXPECT_EQ(session.Bytes(keywords), good);
     EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Critical);
     EXPECT_NE(FindKeyword("PRINT"), nullptr);

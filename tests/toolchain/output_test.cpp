@@ -89,6 +89,16 @@ TEST_F(OutputTest, AnErrorSelectsItsPlaceAndTellsIt) {
     EXPECT_EQ(output[2], "behind it");
 }
 
+TEST_F(OutputTest, AnErrorInAClosedFoldIsVisible) {
+    session.Open("a.bb", "Function f()\r\n  x = \r\nEnd Function\r\n");
+    ActiveForm()->m_oSubclass->DeactivateCheck();
+    Mod_Sci::ToggleFold(0);
+    ASSERT_FALSE(Mod_Sci::GetLineVisible(1));
+    dialogs.WillAnswer(MessageAnswer::Ok);
+    Check({"Parsing", Error("2:6:2:7")});
+    EXPECT_TRUE(Mod_Sci::GetLineVisible(1));
+}
+
 TEST_F(OutputTest, AMessageIsCutAtItsFirstColon) {
     Open();
     dialogs.WillAnswer(MessageAnswer::Ok);

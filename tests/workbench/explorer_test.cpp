@@ -391,6 +391,17 @@ TEST_F(ExplorerTest, WhatNobodySeesCatchesUpWhenItIsShown) {
 }
 
 // The list that is shown follows each kind of declaration, in both directions.
+TEST_F(ExplorerTest, AListIsSortedByEachColumnBothWays) {
+    OpenProject("Global a\r\nGlobal c\r\n", "Global b\r\nGlobal d\r\n");
+    Show("Globals");
+    List("lvGlobals").sortByColumn(0, Qt::DescendingOrder);
+    EXPECT_EQ(Names("lvGlobals"), (Texts{"d%", "c%", "b%", "a%"}));
+    List("lvGlobals").sortByColumn(1, Qt::AscendingOrder);
+    EXPECT_EQ(Names("lvGlobals"), (Texts{"a%", "c%", "b%", "d%"}));
+    List("lvGlobals").sortByColumn(1, Qt::DescendingOrder);
+    EXPECT_EQ(Names("lvGlobals"), (Texts{"b%", "d%", "a%", "c%"}));
+}
+
 TEST_F(ExplorerTest, EachListFollowsItsDeclarations) {
     for (const auto& [construct, list, line, name] :
          {std::tuple{"Globals", "lvGlobals", "Global new_one", "new_one%"},

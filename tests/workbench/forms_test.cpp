@@ -25,7 +25,10 @@ TEST(OutputTest, AFloodKeepsTheLastLinesAndALongLineComesInPieces) {
     QApplication::processEvents();
     EXPECT_EQ(text->blockCount(), frmOutput::MostLines);
     EXPECT_TRUE(text->toPlainText().endsWith("line 99999"));
+    output.Append("of the run before");
     output.Clear();
+    QApplication::processEvents();
+    EXPECT_EQ(text->toPlainText(), "");
     output.Append(std::string(1 << 20, 'x'));
     output.Append("caf\xE9");
     QApplication::processEvents();

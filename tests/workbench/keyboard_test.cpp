@@ -119,7 +119,8 @@ TEST_F(KeyboardTest, EverythingIsNamedAndReachedByTabBothWays) {
     dock->FindPane("Output")->Show();
     QWidget* output = static_cast<QWidget*>(frmOutput::Instance().NativeWidget());
     const QWidget* frame = output->parentWidget()->parentWidget();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return frame->geometry().bottom() <= top.centralWidget()->geometry().bottom(); }));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return frame->geometry().bottom() <= top.centralWidget()->geometry().bottom(); }));
     Check(top, "rolled away and out");
     dock->FindPane("CodeExplorer")->SetFloating(true);
     Check(Docked("CodeExplorer"), "floating");
