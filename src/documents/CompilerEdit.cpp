@@ -71,7 +71,8 @@ void RenameInProjects(const Renamed& names) {
 CompilerEdit::CompilerEdit() : default_(DefaultCompiler) {
     for (const auto& compiler : gCompilers) {
         const auto& known = compiler.record;
-        entries_.push_back({known->Name, known->Path, known->HelpPath, known->RealConsole, known});
+        entries_.push_back(
+            {known->Name, known->Path, known->HelpPath, known->RealConsole, known, known->Name});
     }
 }
 
@@ -93,7 +94,7 @@ bool CompilerEdit::MayAdd() const {
 
 bool CompilerEdit::Add(const std::string& name) {
     if (!IsFree(name, "A Compiler with this name already exists")) return false;
-    entries_.push_back({name, {}, {}, false, nullptr});
+    entries_.push_back({name, {}, {}, false, nullptr, name});
     return true;
 }
 
@@ -132,9 +133,12 @@ void CompilerEdit::Apply() {
     gHost.files->Write(AppPath("Conf\\compilers.dat"), FileText(entries_));
     gHost.settings->Save("Options", "DefaultCompiler", default_);
     DefaultCompiler = default_;
-    Renamed names;
-    for (const Entry& entry : entries_)
+    Renamed names, files;
+    for (Entry& entry : entries_) {
         if (entry.known && entry.known->Name != entry.name) names.emplace_back(entry.known->Name, entry.name);
+        if (entry.keywords != entry.name) files.emplace_back(entry.keywords, entry.name);
+        entry.keywords = entry.name;
+    }
     gCompilers.RemoveAll();
     for (Entry& entry : entries_) {
         if (!entry.known) entry.known = std::make_shared<ClsCompiler>();
@@ -148,5 +152,5 @@ void CompilerEdit::Apply() {
     // The active compiler may have been removed.
     if (gActiveCompiler && gCompilers.Find(gActiveCompiler->Name) != gActiveCompiler)
         Mod_Main::SetActiveCompiler(DefaultCompiler);
-    RenameKeywordFiles(names);
+    RenameKeywordFiles(files);
 }

@@ -13,6 +13,7 @@ public:
         std::string name, path, helpPath;
         bool realConsole = false;
         std::shared_ptr<ClsCompiler> known; // the registered compiler; null for a new one
+        std::string keywords;               // the name of its keyword file until Apply
     };
 
     CompilerEdit();

@@ -262,6 +262,7 @@ TEST_F(CompilersTest, ACompilerIsAddedRenamedMadeDefaultAndRemoved) {
     EXPECT_EQ(Listed(dialog), (Rows{"*" + first, "Other"}));
     EXPECT_EQ(Find<QLineEdit>(dialog, "txtHelpPath").text(), "/opt/other/help");
     Find<QCheckBox>(dialog, "chkUseBlitzConsole").click();
+    host.Put("Conf/Other.lng", "as a refresh wrote it");
     host.dialogs.WillType("Second");
     Click(dialog, "cmdRename");
     EXPECT_EQ(Registry(), before) << "nothing is written before Apply";
@@ -269,6 +270,7 @@ TEST_F(CompilersTest, ACompilerIsAddedRenamedMadeDefaultAndRemoved) {
     EXPECT_EQ(Registry(), "1\r\n2\r\n" + before.substr(before.find('"')) +
                               "\"Second\"\r\n\"/opt/other\"\r\n\"/opt/other/help\"\r\n#TRUE#\r\n");
     EXPECT_EQ(dock->FindCommand("cboCompilers")->Items(), (Rows{first, "Second"}));
+    EXPECT_EQ(host.files.Read(host.Path("Conf/Second.lng")), "as a refresh wrote it");
     EXPECT_EQ(gCompilers.Item("second")->Folder(), "/opt/other");
     Click(dialog, "cmdSetAsDefault");
     EXPECT_EQ(Listed(dialog), (Rows{first, "*Second"}));

@@ -61,7 +61,7 @@ void CompilersPage::MakeControls() {
     txtExeCommand->setEnabled(false);
     chkUseBlitzConsole = new QCheckBox(tr("On compile, &use original console instead of the output window"));
     chkUseBlitzConsole->setObjectName("chkUseBlitzConsole");
-    cmdAdd = MakeButton("cmdAdd", tr("Add &new"));
+    cmdAdd = MakeButton("cmdAdd", tr("&Add new"));
     cmdRemove = MakeButton("cmdRemove", tr("&Remove"));
     cmdRename = MakeButton("cmdRename", tr("Re&name"));
     cmdSetAsDefault = MakeButton("cmdSetAsDefault", tr("&Set as Default"));
@@ -228,7 +228,7 @@ void CompilersPage::cmdRefreshDef_Click() {
     if (entry == nullptr) return;
     ClsCompiler edited;
     edited.Path = entry->path;
-    Mod_Compiler::RefreshDefinitions(entry->known ? entry->known->Name : entry->name, edited.Folder());
+    Mod_Compiler::RefreshDefinitions(entry->keywords, edited.Folder());
 }
 
 void CompilersPage::Apply() {

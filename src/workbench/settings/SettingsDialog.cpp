@@ -6,7 +6,6 @@
 #include "host/SettingsStore.h"
 
 #include <QDialogButtonBox>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
@@ -18,19 +17,18 @@ namespace {
 
 constexpr const char* Section = "Options";
 constexpr int Spacing = 12;
-constexpr int Border = 60;     // pixels for the frame that the desktop draws
-constexpr int ListPadding = 4; // characters
+constexpr int Border = 60;    // pixels for the frame that the desktop draws
+constexpr int ListWidth = 22; // characters, at least
 
 // Letters of the buttons that every page has beside its own controls.
 const std::set<QChar> Reserved{'a', 'o', 'c'};
 
+// By weight and not by colour, which not every style paints behind a check box.
 void Highlight(QWidget& widget, bool on) {
-    widget.setAutoFillBackground(on);
-    if (!on) return widget.setPalette({});
-    QPalette palette = widget.palette();
-    palette.setColor(QPalette::Window, palette.color(QPalette::Highlight));
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::HighlightedText));
-    widget.setPalette(palette);
+    if (widget.font().bold() == on) return;
+    QFont font = widget.font();
+    font.setBold(on);
+    widget.setFont(font);
 }
 
 bool Found(const OptionPage::Entry& entry, const QStringList& words) {
@@ -70,28 +68,29 @@ SettingsDialog::SettingsDialog(const QString& title, const char* pageKey, const 
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &SettingsDialog::Apply);
 }
 
-OptionPage& SettingsDialog::AddPage(const QString& caption, const char* icon) {
+OptionPage& SettingsDialog::AddPage(const QString& caption) {
     auto* page = new OptionPage(controls_);
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(page);
-    AddPage(caption, icon, area);
+    AddPage(caption, area);
     optionPages_.back() = page;
     return *page;
 }
 
-void SettingsDialog::AddPage(const QString& caption, const char* icon, QWidget* page) {
-    list_->addItem(new QListWidgetItem(QIcon::fromTheme(icon), caption));
+void SettingsDialog::AddPage(const QString& caption, QWidget* page) {
+    list_->addItem(caption);
     page->setEnabled(false);
     pages_->addWidget(page);
     optionPages_.push_back(nullptr);
 }
 
 void SettingsDialog::Open() {
-    list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth() +
-                         ListPadding * fontMetrics().averageCharWidth());
+    const int character = fontMetrics().averageCharWidth();
+    list_->setFixedWidth(std::max(ListWidth * character,
+                                  list_->sizeHintForColumn(0) + 2 * list_->frameWidth() + 2 * character));
     search_->setFixedWidth(list_->width());
     QSize wanted(0, 0);
     for (std::size_t at = 0; at < optionPages_.size(); ++at) {

@@ -16,9 +16,9 @@ protected:
     // failures are reported.
     SettingsDialog(const QString& title, const char* pageKey, const char* module, QWidget* parent);
 
-    OptionPage& AddPage(const QString& caption, const char* icon);
+    OptionPage& AddPage(const QString& caption);
     // A page of another kind.
-    void AddPage(const QString& caption, const char* icon, QWidget* page);
+    void AddPage(const QString& caption, QWidget* page);
     // Fills the controls from the options and opens the page that was open last. After the last page.
     void Open();
     // Makes what the controls show the settings. A failure is reported, and the dialog stays open.

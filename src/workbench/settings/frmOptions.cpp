@@ -40,7 +40,7 @@ frmOptions::frmOptions(QWidget* parent)
     GeneralPage();
     FilesPage();
     ExplorerPage();
-    AddPage(tr("Compilers"), "run-build", compilers_);
+    AddPage(tr("Compilers"), compilers_);
     CompilePage();
     HelpPage();
     BackupPage();
@@ -48,7 +48,7 @@ frmOptions::frmOptions(QWidget* parent)
 }
 
 void frmOptions::GeneralPage() {
-    OptionPage& page = AddPage(tr("General"), "configure");
+    OptionPage& page = AddPage(tr("General"));
     page.Group(tr("Start-up"));
     page.Check("chkMultipleInstances", "MultipleInstances", tr("Allow multiple program instances"));
     page.Choice("optStartUp", "gStartUp",
@@ -71,7 +71,7 @@ void frmOptions::GeneralPage() {
 }
 
 void frmOptions::FilesPage() {
-    OptionPage& page = AddPage(tr("Files"), "document-multiple");
+    OptionPage& page = AddPage(tr("Files"));
     page.Group(tr("New files"));
     page.Text("txtDefNewName", "gDefNewName", tr("Default name for new file:"));
     page.Check("chkEnumerateNewFiles", "gEnumerateNewFiles", tr("Enumerate new files"));
@@ -104,7 +104,7 @@ void frmOptions::FilesPage() {
 }
 
 void frmOptions::ExplorerPage() {
-    OptionPage& page = AddPage(tr("Explorers"), "view-list-tree");
+    OptionPage& page = AddPage(tr("Explorers"));
     page.Group(tr("Code Explorer"));
     QCheckBox* unsorted = page.Check("chkUnsortedFunctions", "gUnsortedFunctions",
                                      tr("Don't sort functions in the Code Explorer when in file mode"));
@@ -123,7 +123,7 @@ void frmOptions::ExplorerPage() {
 }
 
 void frmOptions::CompilePage() {
-    OptionPage& page = AddPage(tr("Compiling"), "debug-run");
+    OptionPage& page = AddPage(tr("Compiling"));
     page.Group(tr("Before compiling"));
     page.Choice("optOnCompile", "gOnCompileSave",
                 {{CompileSavesAll, "Save all open files"},
@@ -139,7 +139,7 @@ void frmOptions::TakeHelpPage(const char* page) {
 }
 
 void frmOptions::HelpPage() {
-    OptionPage& page = AddPage(tr("Help"), "help-contents");
+    OptionPage& page = AddPage(tr("Help"));
     page.Group(tr("Browser"));
     page.Check("chkOpenBrowserAtStartup", "gOpenBrowserAtStartup", tr("Open browser at start-up"));
     page.Note("lblDefaultHelp",
@@ -159,7 +159,7 @@ void frmOptions::HelpPage() {
 }
 
 void frmOptions::BackupPage() {
-    OptionPage& page = AddPage(tr("Backup"), "document-save-all");
+    OptionPage& page = AddPage(tr("Backup"));
     page.Group(tr("Automatic backup"));
     QCheckBox* enabled = page.Check("chkEnableBackup", "gBackupEnabled", tr("Enable Automatic Backup"));
     QGroupBox* names = page.Group(tr("Names"));

@@ -51,7 +51,7 @@ frmOptionsEdit::frmOptionsEdit(QWidget* parent)
 }
 
 void frmOptionsEdit::ViewPage() {
-    OptionPage& page = AddPage(tr("View"), "view-preview");
+    OptionPage& page = AddPage(tr("View"));
     page.Group(tr("Text"));
     page.Check("chkHighlightCurrentLine", "HighlightCurrentLine", tr("Highlight current line"));
     page.Check("chkHighlightMatchedBraces", "HighlightMatchedBraces", tr("Highlight matched braces"));
@@ -74,7 +74,7 @@ void frmOptionsEdit::ViewPage() {
 }
 
 void frmOptionsEdit::TypingPage() {
-    OptionPage& page = AddPage(tr("Typing"), "format-indent-more");
+    OptionPage& page = AddPage(tr("Typing"));
     page.Group(tr("Autoindent"));
     page.Choice("optAutoindentType", "AutoIndentType",
                 {{IndentByScope, "Advanced  ( Fully automatic autoindenting of your code )"},
@@ -96,7 +96,7 @@ void frmOptionsEdit::TypingPage() {
 }
 
 void frmOptionsEdit::WrappingPage() {
-    OptionPage& page = AddPage(tr("Wrapping and scrolling"), "text-wrap");
+    OptionPage& page = AddPage(tr("Wrapping and scrolling"));
     page.Group(tr("Line wrapping"));
     QCheckBox* wrap = page.Check("chkWordWrap", "WordWrap", tr("Enable Line Wrapping"));
     QCheckBox* begin = page.Check("chkVisualFlagAtBegin", "WordWrapFlags",
@@ -134,7 +134,7 @@ void frmOptionsEdit::WrappingPage() {
 }
 
 void frmOptionsEdit::AutolistPage() {
-    OptionPage& page = AddPage(tr("Autolists"), "code-context");
+    OptionPage& page = AddPage(tr("Autolists"));
     page.Group(tr("When a list opens"));
     QCheckBox* automatic =
         page.Check("chkACShowAuto", "ACshowAuto", tr("Show Autolists automaticaly as you type"));
@@ -170,7 +170,7 @@ void frmOptionsEdit::AutolistPage() {
 }
 
 void frmOptionsEdit::NavigationPage() {
-    OptionPage& page = AddPage(tr("Navigation"), "go-jump");
+    OptionPage& page = AddPage(tr("Navigation"));
     page.Group(tr("Browser"));
     page.Number("txtCBrowserMarkAsNew", "CBrowserMarkAsNew",
                 tr("Browser will add position to history if something is edited more than"),
@@ -190,7 +190,7 @@ void frmOptionsEdit::NavigationPage() {
 }
 
 void frmOptionsEdit::FilesPage() {
-    OptionPage& page = AddPage(tr("Files"), "document-save");
+    OptionPage& page = AddPage(tr("Files"));
     page.Group(tr("Save with the file"));
     page.Check("chkSaveBookmarks", "SaveBookmarks", tr("Bookmarks"));
     page.Check("chkSaveFoldingState", "SaveFoldingState", tr("Folding state"));
