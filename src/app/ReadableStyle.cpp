@@ -1,20 +1,13 @@
-// The contrast is that of the accessibility guidelines for the web, which ask for 4.5 in text of usual size.
+// Moves colours of the desktop only as far as reading them needs.
 #include "app/ReadableStyle.h"
+
+#include "workbench/parts/Contrast.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double Enough = 4.5;
 constexpr int Steps = 50;
-
-double Luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
 
 // `share` of the first colour and the rest of the second, both without their transparency.
 QColor Mixed(const QColor& one, const QColor& other, double share) {
@@ -28,16 +21,11 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
 QColor Readable(const QColor& colour, const QColor& towards, const QColor& ground) {
     for (int step = 0; step < Steps; ++step) {
         const QColor moved = Mixed(towards, colour, static_cast<double>(step) / Steps);
-        if (Contrast(moved, ground) >= Enough) return moved;
+        if (Contrast(moved, ground) >= ReadableContrast) return moved;
     }
     return towards;
 }
 
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-    const double a = Luminance(one), b = Luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 void ReadableStyle::polish(QPalette& palette) {

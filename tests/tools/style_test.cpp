@@ -80,7 +80,7 @@ TEST_P(BuiltStyle, HoldsTheTableInFileOrder) {
     EXPECT_FALSE(table.description.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Styles, BuiltStyle, testing::Values("Default", "Night"));
+INSTANTIATE_TEST_SUITE_P(Styles, BuiltStyle, testing::Values("Default", "Night", "Parchment", "Daylight", "Ocean", "Blackboard"));
 
 TEST(StyleFile, PutsKnownCellsAtKnownOffsets) {
     std::string text =

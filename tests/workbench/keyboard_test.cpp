@@ -8,6 +8,7 @@
 #include "workbench/frame/Mod_MenuCommands.h"
 #include "workbench/output/frmCompiling.h"
 #include "workbench/output/frmOutput.h"
+#include "workbench/parts/Contrast.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -28,6 +28,7 @@
 #include "workbench/parts/MainWindow.h"
 #include "workbench/settings/frmOptions.h"
 #include "workbench/settings/frmOptionsEdit.h"
+#include "workbench/styles/frmColors.h"
 
 namespace Mod_MenuCommands {
 
@@ -257,7 +258,7 @@ const std::vector<RoutedCommand>& Routes() {
         {"Apply HotCode", nullptr},
         {"Editor Settings", [](const Click&) { frmOptionsEdit(MainWindow()).exec(); }},
         {"Preferences", [](const Click&) { frmOptions(MainWindow()).exec(); }},
-        {"Color Styles", nullptr},
+        {"Color Styles", [](const Click&) { frmColors(MainWindow()).exec(); }},
         {"UI Styles", nullptr},
         {"Export To HTML", nullptr},
         {"Print", NotAvailable},
