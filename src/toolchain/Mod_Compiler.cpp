@@ -204,7 +204,6 @@ bool WriteKeywordFile(const std::string& compiler, const std::string& written, c
 void TakeDefinitions(ClsCompiler& compiler) {
     compiler.Refused = false;
     if (!compiler.LoadKeywords() || gActiveCompiler.get() != &compiler) return;
-    compiler.SetDefaultKeywords();
     const WaitCursor wait;
     for (const auto& project : gProjects)
         if (EqualNoCase(project.record->Compiler, compiler.Name))

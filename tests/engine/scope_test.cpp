@@ -57,6 +57,8 @@ TEST_F(ScopeTest, AScopeThatIsKeptComesBackWhole) {
         SetLocals(nullptr);
         SetFields(nullptr);
     }
+    { const CurrentLineScope line; }
+    EXPECT_FALSE(ColoringCurrentLine);
     EXPECT_EQ(CurrentFunctionName + CurrentTypeName, "ft");
     EXPECT_EQ(CurrentLocals, locals);
     EXPECT_EQ(CurrentFields, fields);

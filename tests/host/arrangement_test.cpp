@@ -2,6 +2,7 @@
 // after a restart, and in a maximised window.
 #include "host/Failure.h"
 #include "host/qt/frame/QtDockStudio.h"
+#include "host/qt/panes/RolledPane.h"
 #include "support/FakeHost.h"
 
 #include <QApplication>
@@ -162,6 +163,32 @@ TEST_F(ArrangementTest, ARestartBringsItBackInAMaximisedWindowToo) {
 }
 
 // The size arrives after the arrangement, and later than it was requested.
+TEST_F(ArrangementTest, APaneComesBackAtItsSideAndAsWideAsItWas) {
+    const auto pane = [](Studio& studio) {
+        return studio.dock.Window().findChild<QDockWidget*>("pane-Left");
+    };
+    {
+        Studio studio(factory);
+        studio.Resize("Left", 260, Qt::Horizontal);
+        Studio::Settle();
+        studio.dock.FindPane("Left")->SetAutoHidden(true); // it slides out as wide as it was
+        const auto* frame = studio.dock.Window().findChild<RolledPane*>();
+        ASSERT_NE(frame, nullptr);
+        EXPECT_EQ(frame->Extent(), 260);
+        studio.dock.FindPane("Left")->SetAutoHidden(false);
+        studio.dock.Window().addDockWidget(Qt::RightDockWidgetArea, pane(studio));
+        Studio::Settle();
+        studio.dock.SaveLayout(saved);
+    }
+    const Layout layout = ParseLayout(host.files.Read(saved));
+    EXPECT_EQ(layout.panes[0].area, "right");
+    // Also where the toolkit's own record of the window is of no use.
+    Layout plain = layout;
+    plain.windowState.clear();
+    Studio studio(host.Put("plain.mp", WriteLayout(plain)));
+    EXPECT_EQ(studio.dock.Window().dockWidgetArea(pane(studio)), Qt::RightDockWidgetArea);
+}
+
 TEST_F(ArrangementTest, AFloatingPaneIsPaintedAfterARestart) {
     {
         Studio studio(factory);

@@ -210,6 +210,9 @@ TEST(ViewChanges, AssistiveTechnologyHearsTextCaretAndSelection) {
         const QString all =
             wide ? QString::fromUtf8("\u00E9x\u0416\r\nend") : QString::fromUtf8("\u00E9xb\r\nend");
         EXPECT_EQ(text->characterCount(), all.size());
+        recorder.Text(SCI_INSERTTEXT, 0, "123");
+        EXPECT_EQ(text->characterCount(), all.size() + 3) << "counted anew after a change";
+        recorder.Send(SCI_UNDO);
         EXPECT_EQ(text->text(0, -1), all);
         int start = 0, end = 0;
         EXPECT_EQ(text->textAtOffset(6, QAccessible::LineBoundary, &start, &end), "end");

@@ -100,6 +100,16 @@ TEST_F(TabsTest, ATabIsDraggedToASideIntoAGroupAndBack) {
     EXPECT_EQ(dock.ActiveDocumentWindow()->Key(), "d");
 }
 
+// The keyboard's focus decides which document is the active one, in whatever group it is.
+TEST_F(TabsTest, AClickIntoAnotherGroupMakesItsDocumentActive) {
+    TabGroup* first = Groups().front();
+    Drag(first, 1, In(first, 0.9, 0.5)); // b to the right side
+    static_cast<QWidget*>(pages[3].NativeWidget())->setFocus();
+    EXPECT_EQ(dock.ActiveDocumentWindow()->Key(), "d");
+    static_cast<QWidget*>(pages[1].NativeWidget())->setFocus();
+    EXPECT_EQ(dock.ActiveDocumentWindow()->Key(), "b");
+}
+
 TEST_F(TabsTest, ADragThatIsCancelledOrGoesNowhereChangesNothing) {
     TabGroup* group = Groups().front();
     Drag(group, 0, QPoint(-200, -200));

@@ -266,6 +266,8 @@ TEST_F(ExplorerTest, UnsortedFunctionsStandAsInTheFile) {
     const Setting unsorted(Options::gUnsortedFunctions, 1);
     OpenLines({"Function z()", "End Function", "Function a()", "End Function", "Function m(): End Function"});
     Button("File").click();
+    EXPECT_TRUE(Button("File").isChecked());
+    EXPECT_FALSE(Button("Project").isChecked());
     Settle();
     EXPECT_EQ(Rows("lvFunctions"), (Texts{"z%|000001", "a%|000003", "m%|000005"}));
     InsertLine(2, "Function b()\r\nEnd Function");
@@ -288,8 +290,10 @@ TEST_F(ExplorerTest, AnEntryIsGoneToByDoubleClickAndByEnter) {
     const QPoint second = globals.visualRect(globals.model()->index(1, 0)).center();
     QTest::mouseClick(globals.viewport(), Qt::LeftButton, {}, second);
     EXPECT_EQ(gActiveDoc->Filename, "a.bb"); // a click only selects
+    globals.setFocus();
     QTest::mouseDClick(globals.viewport(), Qt::LeftButton, {}, second);
     EXPECT_EQ(gActiveDoc->Filename, "b.bb");
+    EXPECT_FALSE(globals.hasFocus()) << "the text has it";
     EXPECT_EQ(Line(), 1);
     Show("Functions");
     Select("lvFunctions", 1);

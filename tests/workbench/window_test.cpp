@@ -3,6 +3,7 @@
 #include "app/wire_up.h"
 #include "documents/Mod_File_workspace.h"
 #include "engine/ParserState.h"
+#include "host/qt/commands/StatusText.h"
 #include "sci/Mod_Sci.h"
 #include "workbench/frame/Mod_MenuCommands.h"
 
@@ -86,6 +87,20 @@ TEST_F(WindowTest, TheListsLetGoOfAClosedFile) {
     EXPECT_EQ(model.rowCount(), 1);
     Click("Close Tab");
     EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(WindowTest, TheStatusBarIsReadAloudAndItsMarkFollowsIt) {
+    window.SetTipText({.left = "Bar (", .hot = "a", .right = ")"});
+    bool named = false;
+    for (const auto* text : dock->Window().findChildren<StatusText*>())
+        named = named || text->accessibleName() == "Bar (a)";
+    EXPECT_TRUE(named);
+    dock->FindBar("StatusBar")->SetVisible(false);
+    window.AdditionalUISetup(); // as after loading an arrangement
+    EXPECT_FALSE(dock->FindCommand("StatusBar")->Checked());
+    dock->FindBar("StatusBar")->SetVisible(true);
+    window.AdditionalUISetup();
+    EXPECT_TRUE(dock->FindCommand("StatusBar")->Checked());
 }
 
 TEST_F(WindowTest, ANoticeStaysItsTimeAndGivesWayToTheTip) {
