@@ -87,7 +87,7 @@ void SettingsDialog::AddPage(const QString& caption, QWidget* page) {
     optionPages_.push_back(nullptr);
 }
 
-void SettingsDialog::Open() {
+void SettingsDialog::OpenLastPage() {
     const int character = fontMetrics().averageCharWidth();
     list_->setFixedWidth(std::max(ListWidth * character,
                                   list_->sizeHintForColumn(0) + 2 * list_->frameWidth() + 2 * character));

@@ -20,7 +20,7 @@ protected:
     // A page of another kind.
     void AddPage(const QString& caption, QWidget* page);
     // Fills the controls from the options and opens the page that was open last. After the last page.
-    void Open();
+    void OpenLastPage();
     // Makes what the controls show the settings. A failure is reported, and the dialog stays open.
     virtual void ApplyChanges() = 0;
 

@@ -44,7 +44,7 @@ frmOptions::frmOptions(QWidget* parent)
     CompilePage();
     HelpPage();
     BackupPage();
-    Open();
+    OpenLastPage();
 }
 
 void frmOptions::GeneralPage() {

@@ -47,7 +47,7 @@ frmOptionsEdit::frmOptionsEdit(QWidget* parent)
     AutolistPage();
     NavigationPage();
     FilesPage();
-    Open();
+    OpenLastPage();
 }
 
 void frmOptionsEdit::ViewPage() {
