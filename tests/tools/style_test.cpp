@@ -80,7 +80,8 @@ TEST_P(BuiltStyle, HoldsTheTableInFileOrder) {
     EXPECT_FALSE(table.description.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Styles, BuiltStyle, testing::Values("Default", "Night", "Parchment", "Daylight", "Ocean", "Blackboard"));
+INSTANTIATE_TEST_SUITE_P(Styles, BuiltStyle,
+                         testing::Values("Default", "Night", "Parchment", "Daylight", "Ocean", "Blackboard"));
 
 TEST(StyleFile, PutsKnownCellsAtKnownOffsets) {
     std::string text =
